@@ -1,0 +1,67 @@
+# One helper per kind of target, so that a target is one call and all of them are built alike.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# Programs, tests and libraries share one folder: the theme folders, the animation and the plug-in
+# are found relative to the executable, exactly as in an installation.
+set(QUARVO_BIN_DIR "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${QUARVO_BIN_DIR}")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${QUARVO_BIN_DIR}")
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR};$ORIGIN/..")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+add_compile_definitions(QT_DEPRECATED_WARNINGS
+                        QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH)
+
+add_library(scan_warnings INTERFACE)
+if(MSVC)
+    target_compile_options(scan_warnings INTERFACE /W4 /utf-8 $<$<BOOL:${QUARVO_WERROR}>:/WX>)
+else()
+    target_compile_options(scan_warnings INTERFACE
+        -Wall -Wextra -Wshadow -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual
+        $<$<BOOL:${QUARVO_WERROR}>:-Werror>)
+endif()
+
+if(QUARVO_SANITIZE)
+    add_compile_options(-fsanitize=${QUARVO_SANITIZE} -fno-omit-frame-pointer -g)
+    add_link_options(-fsanitize=${QUARVO_SANITIZE})
+    if(QUARVO_SANITIZE MATCHES "undefined")
+        add_compile_options(-fno-sanitize-recover=undefined)
+    endif()
+endif()
+
+# scan_add_test(NAME [SOURCES ...] [LIBS ...] [TIMEOUT seconds])
+# tests/<folder>/NAME.cpp with Qt Test, headless and under a time limit. SOURCES are further files.
+function(scan_add_test name)
+    cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBS" ${ARGN})
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 120)
+    endif()
+    add_executable(${name} ${name}.cpp ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE scancontent scanimages Qt5::Test scan_warnings ${arg_LIBS})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${QUARVO_BIN_DIR}")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-config/${name};TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
+        TIMEOUT ${arg_TIMEOUT})
+endfunction()
+
+# scan_add_benchmark(NAME [LIBS ...]): benchmarks/NAME.cpp with Google Benchmark; run by hand.
+function(scan_add_benchmark name)
+    cmake_parse_arguments(arg "" "" "LIBS" ${ARGN})
+    add_executable(${name} ${name}.cpp)
+    target_link_libraries(${name} PRIVATE scancontent scanimages benchmark::benchmark scan_warnings ${arg_LIBS})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+endfunction()

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QMetaType>
+
+enum THEMETYPE {
+    LightTheme = 0,
+    DarkTheme = 1,
+};
+
+Q_DECLARE_METATYPE(THEMETYPE)

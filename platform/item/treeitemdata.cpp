@@ -1,0 +1,8 @@
+#include "treeitemdata.h"
+
+TreeItemData::TreeItemData(QObject *owner)
+    : QObject(owner)
+{
+}
+
+TreeItemData::~TreeItemData() = default;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPixmap>
+#include <QString>
+
+/// All that differs between operating systems, behind plain functions. Each has one
+/// implementation for Windows and one for Unix; no other file of the project tests for a system.
+namespace System {
+
+/// The user has chosen dark applications. False where the system does not say.
+bool appsUseDarkTheme();
+
+/// Physical memory that can be had now, in bytes.
+quint64 availablePhysicalMemory();
+
+/// The desktop's icon for files that end in \a extension (no dot), \a side device pixels wide and
+/// high; null where the desktop has none. GUI thread.
+QPixmap fileTypeIcon(const QString &extension, int side);
+
+/// Makes fonts that stand in for the families which exist on Windows only known to Qt. Does
+/// nothing on Windows and when called again. Needs a QGuiApplication.
+void registerFontSubstitutes();
+
+/// Keeps the library that holds \a address mapped until the process ends.
+void pinModule(const void *address);
+
+} // namespace System
