@@ -7,12 +7,12 @@ class QWidget;
 
 /// The font family for the language of the user interface. Shared by all modules of a process
 /// through the application property "FontManager" (void*). GUI thread.
-class FontManager : public QObject
-{
+class FontManager : public QObject {
     Q_OBJECT
 
 public:
     static FontManager *instance();
+    /// Deletes the object; the next instance() makes a new one.
     static void release();
 
     /// \a languageName as the host spells it, for example "Japanese" or "Chinese Simplified".
@@ -27,6 +27,7 @@ public:
     static QFont getFixedFont(int pixelSize, int weight);
     /// No size set; \a semibold has a family of its own only where Windows has one.
     QFont getFont(bool semibold) const;
+    /// Leaves a null \a widget alone.
     void setWidgetFont(QWidget *widget, int pixelSize, int weight) const;
 
 private:

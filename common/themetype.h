@@ -2,7 +2,9 @@
 
 #include <QMetaType>
 
-enum THEMETYPE {
+/// Has a fixed underlying type because a host may hand over values that have no name here; every
+/// value but LightTheme is drawn dark.
+enum THEMETYPE : int {
     LightTheme = 0,
     DarkTheme = 1,
 };

@@ -5,9 +5,9 @@
 
 /// Dates, sizes, numbers and amounts in the user's language, through the host's localisation
 /// library. Shared by all modules of a process through the application property "ZVLangManager"
-/// (void*). A library failure is logged and gives what the answer holds, usually nothing. GUI thread.
-class ZVLangManager : public QObject
-{
+/// (void*). A library failure is logged and gives what the answer holds, usually nothing. GUI
+/// thread.
+class ZVLangManager : public QObject {
     Q_OBJECT
 
 public:
