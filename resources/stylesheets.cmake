@@ -1,0 +1,28 @@
+# Writes the stylesheets beside the programs, one set a theme. Written when CMake runs; a changed
+# template or palette makes it run again.
+
+function(scan_stylesheets)
+    foreach(name IN LISTS ARGN)
+        set(template "${CMAKE_CURRENT_SOURCE_DIR}/qss/${name}.qss")
+        file(READ "${template}" text)
+        string(REGEX MATCHALL "@[a-z0-9_]+@" used "${text}")
+        list(REMOVE_DUPLICATES used)
+        foreach(place IN LISTS used)
+            string(REPLACE "@" "" colour "${place}")
+            if(NOT colour IN_LIST palette_names AND NOT colour STREQUAL "images")
+                message(FATAL_ERROR "${name}.qss: the palette has no colour '${colour}'")
+            endif()
+        endforeach()
+        foreach(theme light dark)
+            set(images ":/Images")
+            if(theme STREQUAL "dark")
+                set(images ":/Images/Dark")
+            endif()
+            foreach(colour IN LISTS palette_names)
+                set(${colour} "${qss_${theme}_${colour}}")
+            endforeach()
+            configure_file("${template}"
+                "${QUARVO_BIN_DIR}/theme/${theme}/SDCardScanContentPlugin/${name}.qss" @ONLY)
+        endforeach()
+    endforeach()
+endfunction()
