@@ -1,0 +1,16 @@
+# scan_translations(TARGET LANGUAGE...): translations/quarvo_LANGUAGE.ts becomes a .qm beside the
+# programs, where the host looks for it.
+function(scan_translations target)
+    set(outputs "")
+    foreach(language IN LISTS ARGN)
+        set(source "${CMAKE_CURRENT_SOURCE_DIR}/translations/quarvo_${language}.ts")
+        set(output "${QUARVO_BIN_DIR}/translations/quarvo_${language}.qm")
+        add_custom_command(OUTPUT "${output}"
+            COMMAND Qt5::lrelease -silent "${source}" -qm "${output}"
+            DEPENDS "${source}"
+            COMMENT "Compiling the texts: ${language}" VERBATIM)
+        list(APPEND outputs "${output}")
+    endforeach()
+    file(MAKE_DIRECTORY "${QUARVO_BIN_DIR}/translations")
+    add_custom_target(${target} ALL DEPENDS ${outputs})
+endfunction()

@@ -1,0 +1,363 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>QuarvoTRS</name>
+    <!-- Names, columns and facts -->
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>date_modified</source>
+        <translation>Date modified</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>Location</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>file_status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>filter_bar_widget_existing_files</source>
+        <translation>Existing file</translation>
+    </message>
+    <message>
+        <source>filter_bar_widget_delete_files</source>
+        <translation>Deleted file</translation>
+    </message>
+    <message>
+        <source>resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>iso_speed</source>
+        <translation>ISO speed</translation>
+    </message>
+    <message>
+        <source>camera_brand</source>
+        <translation>Camera brand</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>Camera model</translation>
+    </message>
+    <message>
+        <source>white_balance</source>
+        <translation>White balance</translation>
+    </message>
+    <message>
+        <source>exposure_time</source>
+        <translation>Exposure time</translation>
+    </message>
+    <message>
+        <source>focal_length</source>
+        <translation>Focal length</translation>
+    </message>
+    <message>
+        <source>software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>frame_rate</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>bit_rate</source>
+        <translation>Bit rate</translation>
+    </message>
+    <message>
+        <source>f_number</source>
+        <translation>Aperture</translation>
+    </message>
+    <message>
+        <source>view_in_path</source>
+        <translation>Show in its folder</translation>
+    </message>
+    <!-- Choosing and acting -->
+    <message>
+        <source>select_all</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>recover</source>
+        <translation>Recover</translation>
+    </message>
+    <message>
+        <source>got_it</source>
+        <translation>Got it</translation>
+    </message>
+    <!-- Recoverability -->
+    <message>
+        <source>recoverability_label</source>
+        <translation>Recoverability</translation>
+    </message>
+    <message>
+        <source>recoverability_label_list</source>
+        <translation>Recoverability</translation>
+    </message>
+    <message>
+        <source>recoverability_high</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>recoverability_medium</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>recoverability_assessing</source>
+        <translation>Assessing</translation>
+    </message>
+    <!-- Places -->
+    <message>
+        <source>reconstructed_files_label</source>
+        <translation>Files without names</translation>
+    </message>
+    <message>
+        <source>time_nav_root_all_time</source>
+        <translation>Any time</translation>
+    </message>
+    <message>
+        <source>time_nav_root_unknown_time</source>
+        <translation>Unknown time</translation>
+    </message>
+    <!-- Pages -->
+    <message>
+        <source>scanning</source>
+        <translation>Scanning</translation>
+    </message>
+    <message>
+        <source>scandataview_scanning_hint</source>
+        <translation>Please wait while we quickly locate your files.</translation>
+    </message>
+    <message>
+        <source>file_not_found</source>
+        <translation>No files found</translation>
+    </message>
+    <message>
+        <source>scandataview_file_not_found_hint</source>
+        <translation>No files of this kind could be found. Please check that the right disk is being scanned.</translation>
+    </message>
+    <message>
+        <source>ai_tags_loading_title</source>
+        <translation>Loading files…</translation>
+    </message>
+    <message>
+        <source>ai_tags_loading_desc</source>
+        <translation>This may take a moment.</translation>
+    </message>
+    <message>
+        <source>filter_empty_title</source>
+        <translation>Nothing matches this filter</translation>
+    </message>
+    <message>
+        <source>filter_empty_desc</source>
+        <translation>The scan found files, but none of them matches the filters that are set.</translation>
+    </message>
+    <message>
+        <source>scandataview_search_no_result</source>
+        <translation>Sorry, no file found</translation>
+    </message>
+    <message>
+        <source>missing_original_filenames</source>
+        <translation>1. Some files have lost their original names. Please look for them under &lt;a href=&quot;#&quot; style=&quot;text-decoration: none; color: #0091FF;&quot;&gt;files without names&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>scandataview_search_hint_wait_scan</source>
+        <translation>2. Wait until the scan has finished, then search again.</translation>
+    </message>
+    <message>
+        <source>scandataview_search_hint_use_filter</source>
+        <translation>3. Use the filter to narrow down your files.</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_title</source>
+        <translation>Sorry, no results found</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_desc</source>
+        <translation>The search found nothing in the current scan results that matches your description.</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip1</source>
+        <translation>Try a different description, such as a file type, a date or a size.</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip2</source>
+        <translation>If the scan is still running, wait for more files to be found.</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip3</source>
+        <translation>You can also narrow the results with the filter or search by name.</translation>
+    </message>
+    <!-- How to find files that lost their names -->
+    <message>
+        <source>how_to_find_in_reconstructed</source>
+        <translation>How to find files without names</translation>
+    </message>
+    <message>
+        <source>reconstructed_tip_intro</source>
+        <translation>Some files have lost their names and cannot be found by them. This is how you find yours:</translation>
+    </message>
+    <message>
+        <source>click_reconstructed</source>
+        <translation>Open “Files without names”.</translation>
+    </message>
+    <message>
+        <source>search_dialog_text2</source>
+        <translation>Choose the file types that you want to recover.</translation>
+    </message>
+    <message>
+        <source>search_dialog_text3</source>
+        <translation>Preview the files to find the ones you lost.</translation>
+    </message>
+    <!-- Scenes -->
+    <message>
+        <source>ai_tags_title</source>
+        <translation>Scenes</translation>
+    </message>
+    <message>
+        <source>ai_tags_landscape</source>
+        <translation>Landscape</translation>
+    </message>
+    <message>
+        <source>ai_tags_beach</source>
+        <translation>Beach</translation>
+    </message>
+    <message>
+        <source>ai_tags_cityscape</source>
+        <translation>Cityscape</translation>
+    </message>
+    <message>
+        <source>ai_tags_hotel</source>
+        <translation>Hotel</translation>
+    </message>
+    <message>
+        <source>ai_tags_aerial</source>
+        <translation>Aerial view</translation>
+    </message>
+    <message>
+        <source>ai_tags_children</source>
+        <translation>Children</translation>
+    </message>
+    <message>
+        <source>ai_tags_pet</source>
+        <translation>Pets</translation>
+    </message>
+    <message>
+        <source>ai_tags_birthday</source>
+        <translation>Birthday</translation>
+    </message>
+    <message>
+        <source>ai_tags_dinner</source>
+        <translation>Dinner</translation>
+    </message>
+    <message>
+        <source>ai_tags_performance</source>
+        <translation>Performance</translation>
+    </message>
+    <message>
+        <source>ai_tags_exhibition</source>
+        <translation>Exhibition</translation>
+    </message>
+    <message>
+        <source>ai_tags_sports</source>
+        <translation>Sports</translation>
+    </message>
+    <message>
+        <source>ai_tags_graduation</source>
+        <translation>Graduation</translation>
+    </message>
+    <message>
+        <source>ai_tags_wedding_dress</source>
+        <translation>Wedding dress</translation>
+    </message>
+    <message>
+        <source>ai_tags_bouquet</source>
+        <translation>Bouquet</translation>
+    </message>
+    <message>
+        <source>ai_tags_food</source>
+        <translation>Food</translation>
+    </message>
+    <message>
+        <source>ai_tags_meeting_room</source>
+        <translation>Meeting room</translation>
+    </message>
+    <message>
+        <source>ai_tags_presentation</source>
+        <translation>Presentation</translation>
+    </message>
+    <message>
+        <source>ai_tags_whiteboard</source>
+        <translation>Whiteboard</translation>
+    </message>
+    <message>
+        <source>ai_tags_product</source>
+        <translation>Product</translation>
+    </message>
+    <message>
+        <source>ai_tags_selfie</source>
+        <translation>Selfie</translation>
+    </message>
+    <message>
+        <source>ai_tags_group_photo</source>
+        <translation>Group photo</translation>
+    </message>
+    <message>
+        <source>ai_tags_id_photo</source>
+        <translation>ID photo</translation>
+    </message>
+    <message>
+        <source>ai_tags_paper_document</source>
+        <translation>Paper document</translation>
+    </message>
+    <message>
+        <source>ai_tags_identity_document</source>
+        <translation>Identity document</translation>
+    </message>
+    <message>
+        <source>ai_tags_chat_screenshot</source>
+        <translation>Chat screenshot</translation>
+    </message>
+    <!-- Units -->
+    <message>
+        <source>SizeUnit_Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>SizeUnit_KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_TB</source>
+        <translation>TB</translation>
+    </message>
+</context>
+</TS>
