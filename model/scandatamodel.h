@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/rowsort.h"
 #include "model/scanitemrole.h"
 
 #include "platform/item/treeitemdata.h"
@@ -7,14 +8,14 @@
 #include <QAbstractItemModel>
 #include <QMutex>
 #include <QPointer>
+#include <QVector>
 
 #include <vector>
 
 /// Flat, sortable rows over the host's scan records. The host owns the records and may destroy one
 /// at any time: each is held by a QPointer, and a dead one answers every role with nothing. The
 /// only thing written into a record is its check state. Lives on the GUI thread.
-class ScanDataModel : public QAbstractItemModel
-{
+class ScanDataModel : public QAbstractItemModel {
     Q_OBJECT
 
 public:
@@ -25,9 +26,11 @@ public:
 
     /// Rows become the children of \a folder, folders first, in the host's order, or in the order
     /// that was chosen by sort(). Ignored for a null folder and for one of which nothing is known.
+    /// Always a reset; cheap when the folder has only grown since it was opened last.
     void openFolder(TreeItemData *folder);
     void clear();
-    /// Forgets the order chosen by sort(); the rows stay where they are until the next openFolder().
+    /// Forgets the order chosen by sort(); the rows stay where they are until the next
+    /// openFolder().
     void clearSort();
     bool isSorted() const { return m_sorted; }
     int sortRole() const { return m_sortRole; }
@@ -41,6 +44,15 @@ public:
     int rowOfFileId(qint64 fileId) const;
     int rowOfSecondaryId(qint64 secondaryId) const;
 
+    /// To put selection and scroll position back after a reset:
+    /// How many of the first rows show the same records as before the last openFolder(): row
+    /// numbers below it still hold. Counts from 0 after clear().
+    int unchangedPrefix() const { return m_unchangedPrefix; }
+    /// Row of a record, -1 when it is not listed. \a item is compared, never read: it may be dead.
+    int rowOf(const TreeItemData *item) const;
+    /// The rows of many records, found in one sweep: one answer for each, -1 when it is not listed.
+    QVector<int> rowsOf(const QVector<TreeItemData *> &items) const;
+
     /// Writes \a state into every listed record in one sweep and announces one range.
     void setAllCheckStates(int state);
     /// The host has changed check states: announces all rows as one range.
@@ -48,6 +60,7 @@ public:
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     QModelIndex parent(const QModelIndex &index) const override;
+    /// All rows, whatever \a parent: the model is flat and is asked about its top only.
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
@@ -58,10 +71,31 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
-    std::vector<QPointer<TreeItemData>> m_items;
+    using Guard = QPointer<TreeItemData>;
+
+    /// Takes over the children of \a folder, keeping the guards that still fit.
+    void takeChildren(const TreeItemData &folder);
+    /// Makes the \a size guards from \a first on those of \a children. Returns how many of the
+    /// first ones were right already.
+    size_t replacePart(size_t first, size_t size, const QList<TreeItemData *> &children);
+    RowSort::Order sortedOrder(const RowSort::Order &known) const;
+    /// Gives persistent indexes the rows that their records have now.
+    void remapPersistentIndexes(const RowSort::Order &previous);
+    QVariant displayText(const TreeItemData &item, int column) const;
+    void announceCheckStates();
+
+    const Guard &guardAt(size_t row) const { return m_items[positionOf(row)]; }
+    size_t positionOf(size_t row) const { return m_order.empty() ? row : m_order[row]; }
+    template <typename Matches>
+    int findRow(Matches matches) const;
+
+    std::vector<Guard> m_items; ///< in the host's order: folders, then files
+    RowSort::Order m_order;     ///< position in m_items by row; empty: the same
+    size_t m_folderCount = 0;
     int m_sortRole = NameRole;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     mutable QRecursiveMutex m_lock;
     int m_rootType = 0;
+    int m_unchangedPrefix = 0;
     bool m_sorted = false;
 };
