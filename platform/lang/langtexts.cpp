@@ -9,8 +9,8 @@ namespace {
 /// The unit as the locale spells it, read off a text that Qt makes with it.
 QString unitName(const QLocale &locale, int power)
 {
-    const QString sample
-        = locale.formattedDataSize(qint64(1) << (10 * power), 0, QLocale::DataSizeTraditionalFormat);
+    const QString sample = locale.formattedDataSize(qint64(1) << (10 * power), 0,
+                                                    QLocale::DataSizeTraditionalFormat);
     return sample.section(QLatin1Char(' '), 1);
 }
 

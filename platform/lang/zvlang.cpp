@@ -53,9 +53,8 @@ int answerRequest(const char *function, const char *request, char *answer, char 
         const QString text = format(fields);
         const QString unknown = fields.unknownLanguage();
         if (!unknown.isEmpty())
-            LangLog::instance().write(
-                QStringLiteral("%1: unknown language \"%2\", English is used")
-                    .arg(QLatin1String(function), unknown));
+            LangLog::instance().write(QStringLiteral("%1: unknown language \"%2\", English is used")
+                                          .arg(QLatin1String(function), unknown));
         if (fields.isValid()) {
             copyText(text, answer, LangAnswerSize);
             return 1;

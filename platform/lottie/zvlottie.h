@@ -7,8 +7,7 @@
 namespace Tarn {
 
 /// Plays a Lottie file. Made paused; a paused animation costs nothing. GUI thread.
-class ZVLOTTIE_EXPORT ZVLottie : public QWidget
-{
+class ZVLOTTIE_EXPORT ZVLottie : public QWidget {
     Q_OBJECT
 
 public:

@@ -2,15 +2,17 @@
 
 #include <QPixmap>
 #include <QString>
+#include <qwindowdefs.h>
 
 /// All that differs between operating systems, behind plain functions. Each has one
 /// implementation for Windows and one for Unix; no other file of the project tests for a system.
 namespace System {
 
-/// The user has chosen dark applications. False where the system does not say.
+/// The user has chosen dark applications. False where the system does not say. May take a few
+/// hundredths of a second: ask once.
 bool appsUseDarkTheme();
 
-/// Physical memory that can be had now, in bytes.
+/// Physical memory that can be had now, in bytes; 0 where the system does not say.
 quint64 availablePhysicalMemory();
 
 /// The desktop's icon for files that end in \a extension (no dot), \a side device pixels wide and
@@ -18,8 +20,12 @@ quint64 availablePhysicalMemory();
 QPixmap fileTypeIcon(const QString &extension, int side);
 
 /// Makes fonts that stand in for the families which exist on Windows only known to Qt. Does
-/// nothing on Windows and when called again. Needs a QGuiApplication.
+/// nothing on Windows and when called again. Needs a QGuiApplication. GUI thread.
 void registerFontSubstitutes();
+
+/// Takes the system's own shadow off \a window and every window of its class, where the system
+/// draws one for a class.
+void removeClassShadow(WId window);
 
 /// Keeps the library that holds \a address mapped until the process ends.
 void pinModule(const void *address);
