@@ -2,21 +2,26 @@
 
 #include "platform/item/treeitemdata.h"
 
+#include <QCache>
 #include <QHash>
 #include <QMap>
+#include <QMutex>
 #include <QObject>
 #include <QPixmap>
 #include <QPointer>
 #include <QSet>
+
+#include <atomic>
 
 class GetThumbnailThread;
 class QThread;
 
 /// The process's thumbnails of scan items, by file id. Answers from memory; what it does not have
 /// is looked up on disk by a worker thread, and a file that is not there is asked of the host once.
-/// Made on first use, never destroyed. GUI thread, but for the functions that say otherwise.
-class ScanPluginPreviewManager : public QObject
-{
+/// Memory is bounded: of very many pictures the ones not shown for longest are given up, and looked
+/// up again when they are wanted. Made on first use, never destroyed; the worker is joined at the
+/// latest when the application object goes. GUI thread, but for the functions that say otherwise.
+class ScanPluginPreviewManager : public QObject {
     Q_OBJECT
 
 public:
@@ -33,7 +38,8 @@ public:
 
     /// Any thread.
     static bool hasLocalThumbnail(qint64 fileId, const QString &extension);
-    /// Worker thread: reads, scales and announces the item's thumbnail file. False: there is none.
+    /// Worker thread: reads and scales the item's thumbnail file and has it announced on the GUI
+    /// thread. False: there is none that can be read.
     bool loadSavedThumbnailToCache(qint64 fileId, const QString &extension);
 
     /// A picture from the host; a null one says that there is nothing to show and stops the asking.
@@ -50,10 +56,42 @@ public:
     void stop();
 
 Q_SIGNALS:
+    /// A thumbnail was loaded or handed in. Always emitted on the GUI thread.
     void signalUpdateThumBnail(qint64 catalogId, QPixmap pixmap);
+    /// The item, which is alive, has no thumbnail file: the host may make one.
     void signalSaveThumBnail(TreeItemData *itemData);
+    /// There is a new picture for this id; views repaint the item.
     void signalUpdateListView(qint64 fileId);
 
 public Q_SLOTS:
     void slotUpdateThumBnail(qint64 catalogId, QPixmap pixmap);
+
+private:
+    using Guard = QPointer<TreeItemData>;
+
+    ScanPluginPreviewManager();
+    ~ScanPluginPreviewManager() override = default;
+
+    void startWorker();
+    bool isAnswered(qint64 fileId) const;
+    void takeLoaded(int epoch, qint64 fileId, QImage image);
+    void forgetPending(qint64 fileId);
+    void relayMiss(TreeItemData *item);
+    QString thumbnailPath(qint64 fileId) const;
+    void rememberThumbnailPath(qint64 fileId, const QString &path);
+
+    QCache<qint64, QPixmap> m_gridCache;
+    QCache<qint64, QPixmap> m_listCache;
+    QSet<qint64> m_nothingToShow; ///< null answers: kept for good, so that nobody asks again
+    QMap<qint64, QString> m_repairedPaths;
+    QSet<qint64> m_repairChecked;
+    QHash<qint64, Guard> m_pending;        ///< handed to the worker, not answered yet
+    QHash<TreeItemData *, Guard> m_missed; ///< by address, between a miss and its relay
+    QSet<qint64> m_overtaken;              ///< pending ones that the host has answered meanwhile
+    QSet<qint64> m_askedOfHost;
+    mutable QMutex m_pathLock;               ///< guards m_thumbnailPaths, which the worker reads
+    QHash<qint64, QString> m_thumbnailPaths; ///< files that pictures from the host came from
+    std::atomic<int> m_epoch{0}; ///< grows with each stop(): what was loaded before is dropped
+    GetThumbnailThread *const m_worker;
+    QThread *const m_thread;
 };

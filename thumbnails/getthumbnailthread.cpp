@@ -1,0 +1,88 @@
+#include "thumbnails/getthumbnailthread.h"
+
+#include "platform/item/treeitemdata.h"
+#include "thumbnails/scanpluginpreviewmanager.h"
+
+#include <QMutexLocker>
+#include <QPair>
+#include <QThread>
+
+namespace {
+
+constexpr int FileKind = 2;
+constexpr unsigned long IdleSleepMs = 1000;
+
+} // namespace
+
+GetThumbnailThread::GetThumbnailThread(ScanPluginPreviewManager *cache)
+    : m_cache(cache)
+{
+}
+
+GetThumbnailThread::~GetThumbnailThread() = default;
+
+bool GetThumbnailThread::enqueue(TreeItemData *item)
+{
+    if (!item)
+        return false;
+    const Identity identity(item, item->fileId);
+    const QMutexLocker lock(&m_mutex);
+    if (m_queued.contains(identity))
+        return false;
+    m_queued.insert(identity);
+    m_queue.append({item, item->fileId, item->extension, item->kind == FileKind});
+    return true;
+}
+
+void GetThumbnailThread::pause()
+{
+    const QMutexLocker lock(&m_mutex);
+    m_stopped = true;
+    m_queue.clear();
+    m_queued.clear();
+    m_paused.wakeAll();
+}
+
+void GetThumbnailThread::startThread()
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_stopped = false;
+    }
+    while (!isStopped()) {
+        Request request;
+        if (takeFirst(&request))
+            serve(request);
+    }
+}
+
+bool GetThumbnailThread::isStopped() const
+{
+    // a pause may come before the loop has begun; the thread remembers that it is to end
+    if (QThread::currentThread()->isInterruptionRequested())
+        return true;
+    const QMutexLocker lock(&m_mutex);
+    return m_stopped;
+}
+
+bool GetThumbnailThread::takeFirst(Request *request)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (m_queue.isEmpty() && !m_stopped)
+        m_paused.wait(&m_mutex, IdleSleepMs); // only a pause cuts the sleep short
+    if (m_stopped || m_queue.isEmpty())
+        return false;
+    *request = m_queue.takeFirst();
+    m_queued.remove(Identity(request->item, request->fileId));
+    return true;
+}
+
+void GetThumbnailThread::serve(const Request &request)
+{
+    if (!request.isFile || m_cache->loadSavedThumbnailToCache(request.fileId, request.extension))
+        return;
+    if (isStopped())
+        return; // given up half way: nobody knows whether there is a thumbnail
+    emit signalLocalThumbnailMiss(request.fileId);
+    emit signalSaveThumbnail(request.item);
+}

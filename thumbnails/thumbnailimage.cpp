@@ -1,0 +1,80 @@
+#include "thumbnails/thumbnailimage.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QThread>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int UprightWidth = 146;
+constexpr int LandscapeHeight = 83;
+/// A strip of a thousand to one would become larger than it is.
+constexpr qint64 LongestSide = 4096;
+constexpr qint64 MostPixels = 200'000'000;
+/// From here on decoding into a smaller picture pays; below, scaling afterwards is faster.
+constexpr qint64 LargePixels = 1'000'000;
+
+/// Runs dry when its thread is asked to end, so that a slow decode ends at its next read.
+class InterruptibleFile : public QFile {
+public:
+    using QFile::QFile;
+
+protected:
+    qint64 readData(char *data, qint64 maxSize) override
+    {
+        if (QThread::currentThread()->isInterruptionRequested())
+            return -1;
+        return QFile::readData(data, maxSize);
+    }
+};
+
+QImage readyForPixmap(const QImage &image)
+{
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                         : QImage::Format_RGB32);
+}
+
+} // namespace
+
+namespace ThumbnailImage {
+
+QSize targetSize(const QSize &size)
+{
+    if (size.isEmpty())
+        return {};
+    const qint64 width = size.width();
+    const qint64 height = size.height();
+    if (width <= height)
+        return {UprightWidth, int(std::min(height * UprightWidth / width, LongestSide))};
+    return {int(std::min(width * LandscapeHeight / height, LongestSide)), LandscapeHeight};
+}
+
+QImage load(const QString &path)
+{
+    InterruptibleFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+
+    const QSize stored = reader.size();
+    const qint64 pixels = qint64(stored.width()) * stored.height();
+    if (stored.isEmpty() || pixels > MostPixels)
+        return {};
+    const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    const QSize target = targetSize(turned ? stored.transposed() : stored);
+    if (pixels >= LargePixels)
+        reader.setScaledSize(turned ? target.transposed() : target);
+
+    QImage image = reader.read();
+    if (image.isNull())
+        return {};
+    if (image.size() != target)
+        image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return readyForPixmap(image);
+}
+
+} // namespace ThumbnailImage
