@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QPainter>
+#include <QTransform>
+
+class QPixmap;
+
+/// The device pixels under a painter. What is composed once for whole device pixels and drawn
+/// through this stays sharp at 125 and 150 per cent, where logical edges fall between pixels.
+class DeviceGrid {
+public:
+    explicit DeviceGrid(const QPainter *painter);
+
+    /// False when the painter rotates, shears or flips: then there is no grid to stand on.
+    bool isAligned() const { return m_aligned; }
+    qreal scale() const { return m_transform.m11(); }
+    /// \a rect in device pixels, its edges rounded.
+    QRect deviceRect(const QRect &rect) const;
+    /// Draws \a pixmap, one to one, over deviceRect(\a rect), of which it has the size.
+    void draw(QPainter *painter, const QRect &rect, const QPixmap &pixmap) const;
+
+private:
+    QTransform m_transform;
+    bool m_aligned;
+};

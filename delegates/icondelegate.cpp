@@ -1,0 +1,409 @@
+#include "delegates/icondelegate.h"
+
+#include "common/commonfunction.h"
+#include "common/fontmanager.h"
+#include "common/scanviewmanager.h"
+#include "common/thememanager.h"
+#include "delegates/delegateitem.h"
+#include "delegates/devicegrid.h"
+#include "delegates/painterstate.h"
+#include "model/itemtext.h"
+#include "model/scanitemrole.h"
+#include "thumbnails/filetypeicons.h"
+#include "thumbnails/scanpluginpreviewmanager.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextBrowser>
+#include <QThread>
+
+namespace {
+
+constexpr qint64 TooltipPauseMs = 1000;
+constexpr int NameFontSize = 13;
+constexpr int NameFontWeight = 400;
+constexpr int CountFontSize = 11;
+constexpr int ElideReserve = 15;
+constexpr qreal OverlayOpacity = 0.6;
+constexpr Qt::Alignment CentredText = Qt::AlignHCenter | Qt::AlignVCenter;
+
+void drawIfAny(QPainter *painter, const QRect &rect, const QPixmap &pixmap)
+{
+    if (!pixmap.isNull() && !rect.isEmpty())
+        painter->drawPixmap(rect, pixmap);
+}
+
+bool hasThumbnail(const TreeItemData &item)
+{
+    return item.kind == ItemKind::File
+        && !ScanPluginPreviewManager::instance()->gridThumbnail(item.fileId).isNull();
+}
+
+} // namespace
+
+IconDelegate::IconDelegate(QObject *parent)
+    : QStyledItemDelegate(parent)
+    , m_nameTip(TooltipPauseMs)
+    , m_labelTip(TooltipPauseMs)
+{
+    ThemeManager *themes = ThemeManager::instance();
+    loadThemeResources(themes->getThemeType());
+    connect(themes, &ThemeManager::singleThemeChanged, this, &IconDelegate::loadThemeResources);
+    m_names.renderer()->installEventFilter(this);
+}
+
+IconDelegate::~IconDelegate() = default;
+
+void IconDelegate::loadThemeResources(THEMETYPE theme)
+{
+    m_theme = theme;
+    m_background.load();
+    m_pictures.load();
+    m_colors = ItemColors(theme);
+    m_names.setColors(m_colors);
+    m_label.setAssessingIcon(m_pictures.assessingIcon);
+    retranslate();
+}
+
+void IconDelegate::retranslate()
+{
+    const FontManager *fonts = FontManager::instance();
+    m_fontFamily = fonts->family();
+    m_names.setFont(fonts->getFont(NameFontSize, NameFontWeight));
+    m_countFont = fonts->getFont(false);
+    m_countFont.setPixelSize(CountFontSize);
+    m_label.reload();
+    m_background.clear();
+}
+
+bool IconDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_names.renderer())
+        return QStyledItemDelegate::eventFilter(watched, event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    return false;
+}
+
+void IconDelegate::setSearchKeyword(const QString &keyword)
+{
+    m_names.setKeyword(keyword);
+}
+
+void IconDelegate::setMarkedIndexes(const QModelIndexList &indexes)
+{
+    clearMarkedIndexes();
+    m_marked.reserve(indexes.size());
+    m_markedLookup.reserve(indexes.size());
+    for (const QModelIndex &index : indexes) {
+        m_marked.append(index);
+        m_markedLookup.insert(m_marked.constLast());
+    }
+}
+
+void IconDelegate::clearMarkedIndexes()
+{
+    m_marked.clear();
+    m_markedLookup.clear();
+}
+
+QModelIndexList IconDelegate::markedIndexes() const
+{
+    QModelIndexList indexes;
+    indexes.reserve(m_marked.size());
+    for (const QPersistentModelIndex &index : m_marked) {
+        if (index.isValid())
+            indexes.append(index);
+    }
+    return indexes;
+}
+
+bool IconDelegate::isMarked(const QModelIndex &index) const
+{
+    return !m_markedLookup.isEmpty() && m_markedLookup.contains(index);
+}
+
+void IconDelegate::setPressedIndex(const QModelIndex &index)
+{
+    m_pressed.set(index, itemOf(index));
+}
+
+QSize IconDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    Q_UNUSED(option)
+    Q_UNUSED(index)
+    return CardLayout::sizeHint();
+}
+
+void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                         const QModelIndex &index) const
+{
+    if (ScanViewManager::instance()->plainPainting) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    if (!index.isValid()) {
+        qDebug() << "icon delegate model index invalid";
+        return;
+    }
+    if (m_fontFamily != FontManager::instance()->family())
+        const_cast<IconDelegate *>(this)->retranslate();
+
+    TreeItemData *item = itemOf(index);
+    const int kind = item ? index.data(KindRole).toInt() : 0;
+    const bool isFile = item && kind == ItemKind::File;
+    QPixmap thumbnail;
+    if (isFile) {
+        ScanPluginPreviewManager *previews = ScanPluginPreviewManager::instance();
+        previews->hasRepairedPreview(item);
+        thumbnail = previews->gridThumbnail(item->fileId);
+    }
+    paintCard(painter, option, index, item, kind, thumbnail);
+    // last, because whoever listens may destroy the record
+    if (isFile && thumbnail.isNull())
+        emit signalGetThumItem(item);
+}
+
+void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &option,
+                             const QModelIndex &index, TreeItemData *item, int kind,
+                             const QPixmap &thumbnail) const
+{
+    const CardLayout layout(option.rect, option.direction);
+    const DeviceGrid grid(painter);
+    const PainterState state(painter);
+
+    CardBackground::Card card;
+    card.look = lookOf(option, index, item);
+    card.dark = m_theme == DarkTheme;
+    if (item && kind == ItemKind::File)
+        card.label = recoverabilityOf(item, !thumbnail.isNull(), m_assessmentFinished);
+    m_background.draw(painter, grid, layout, option.palette.base(), card, m_label);
+    if (!item)
+        return;
+
+    QRect picture;
+    try {
+        if (!thumbnail.isNull())
+            picture = drawThumbnail(painter, grid, layout, thumbnail);
+        painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        if (thumbnail.isNull())
+            picture = drawIcon(painter, layout, *item, kind);
+    } catch (...) {
+        qDebug() << "icon delegate draw thumicon exception";
+        return;
+    }
+    if (kind == ItemKind::File)
+        drawOverlays(painter, layout, picture, *item, option.state & QStyle::State_MouseOver);
+    if (!thumbnail.isNull() && item->property("previewRepaired").toBool())
+        drawIfAny(painter, layout.repairBadge(layout.thumbArea), m_pictures.repairBadge);
+    drawIfAny(painter, layout.checkBox,
+              m_pictures.checkBox.picture(
+                  CheckBox::lookOf(*item, item->checkState, m_emptyFolderCheckable)));
+    drawTexts(painter, layout, *item);
+}
+
+CardBackground::Look IconDelegate::lookOf(const QStyleOptionViewItem &option,
+                                          const QModelIndex &index, TreeItemData *item) const
+{
+    if (!m_pressed.isSet() || m_pressed.is(index, item)
+        || option.state.testFlag(QStyle::State_Selected) || isMarked(index)) {
+        // one card of a fresh grid is always current: the first to be painted
+        m_pressed.set(index, item);
+        return CardBackground::SelectedLook;
+    }
+    if (option.state.testFlag(QStyle::State_MouseOver))
+        return CardBackground::HoverLook;
+    return CardBackground::NormalLook;
+}
+
+QRect IconDelegate::drawThumbnail(QPainter *painter, const DeviceGrid &grid,
+                                  const CardLayout &layout, const QPixmap &thumbnail) const
+{
+    const QRect target = layout.thumbnail(
+        (QSizeF(thumbnail.size()) / thumbnail.devicePixelRatio()).toSize());
+    if (target.isEmpty())
+        return {};
+    if (grid.isAligned()) {
+        const QSize deviceSize = grid.deviceRect(target).size();
+        if (!deviceSize.isEmpty())
+            grid.draw(painter, target, m_scaledThumbnails.scaled(thumbnail, deviceSize));
+    } else {
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
+        painter->drawPixmap(target, thumbnail);
+    }
+    return target;
+}
+
+QRect IconDelegate::drawIcon(QPainter *painter, const CardLayout &layout, const TreeItemData &item,
+                             int kind) const
+{
+    if (ItemKind::isFolderLike(kind)) {
+        drawIfAny(painter, layout.icon, m_pictures.folderIcon);
+    } else if (kind == ItemKind::File) {
+        drawIfAny(painter, layout.icon, FileTypeIcons::icon(item, FileTypeIcons::Size::Card));
+        return layout.icon;
+    }
+    return {};
+}
+
+void IconDelegate::drawOverlays(QPainter *painter, const CardLayout &layout, const QRect &picture,
+                                const TreeItemData &item, bool hovered) const
+{
+    const bool playable = ItemKind::isPlayable(item.fileCategory);
+    if (!playable && !hovered)
+        return;
+    const QRect overlay = layout.overlay(picture);
+    painter->setOpacity(OverlayOpacity);
+    if (playable)
+        drawIfAny(painter, overlay, m_pictures.playButton);
+    if (hovered) {
+        drawIfAny(painter, layout.thumbArea, m_pictures.previewMask);
+        drawIfAny(painter, overlay, playable ? m_pictures.playButton : m_pictures.previewButton);
+    }
+    painter->setOpacity(1.0);
+}
+
+void IconDelegate::drawTexts(QPainter *painter, const CardLayout &layout,
+                             const TreeItemData &item) const
+{
+    if (!layout.name.isValid())
+        return;
+    m_names.draw(painter, layout.name,
+                 getElidedText(ItemText::displayName(item), layout.name.width() - ElideReserve),
+                 CentredText);
+    if (!ItemKind::isFolderLike(item.kind))
+        return;
+    const PainterState state(painter);
+    const QString count = QString::number(item.itemCount);
+    painter->setFont(m_countFont);
+    painter->setPen(m_colors.text);
+    painter->drawText(layout.countLine(painter->fontMetrics().horizontalAdvance(count)),
+                      int(CentredText), count);
+}
+
+QString IconDelegate::getElidedText(const QString &text, int width) const
+{
+    try {
+        if (ElideCache::isShort(text))
+            return text;
+        if (QCoreApplication::instance()->thread() != QThread::currentThread()) {
+            qDebug() << "icondelegate currentThread not mainthread";
+            return text;
+        }
+        return m_elideCache.elided(text, width, QFontMetrics(m_names.font()));
+    } catch (...) {
+        qDebug() << "class QString __cdecl IconDelegate::getElidedText(const class QString &,int) "
+                    "const"
+                 << "unknown exception";
+        return text;
+    }
+}
+
+bool IconDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
+                               const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const auto base = [&] { return QStyledItemDelegate::editorEvent(event, model, option, index); };
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+        break;
+    case QEvent::Leave:
+        emit signalSetCursor(Qt::ArrowCursor);
+        return base();
+    default:
+        return base();
+    }
+
+    const auto *mouse = static_cast<QMouseEvent *>(event);
+    const CardLayout layout(option.rect, option.direction);
+    const bool inside = layout.cell.contains(mouse->pos());
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (inside && press(*mouse, model, layout, index))
+            return false;
+        break;
+    case QEvent::MouseButtonDblClick:
+        if (inside && mouse->button() == Qt::LeftButton) {
+            emit signalClickDouble(index);
+            return true;
+        }
+        break;
+    case QEvent::MouseMove:
+        if (index.data(KindRole).toInt() == ItemKind::File) {
+            hover(mouse->pos(), layout, index);
+            return false;
+        }
+        break;
+    default:
+        if (mouse->button() == Qt::LeftButton)
+            return false;
+    }
+    return base();
+}
+
+bool IconDelegate::press(const QMouseEvent &event, QAbstractItemModel *model,
+                         const CardLayout &layout, const QModelIndex &index)
+{
+    const int kind = index.data(KindRole).toInt();
+    if (event.button() == Qt::RightButton) {
+        if (kind != ItemKind::File)
+            return false;
+        emit signalClickRightButton(index);
+        return true;
+    }
+    if (layout.hitsCheckBox(event.pos()))
+        return toggleCheck(model, index, kind);
+    if (kind == ItemKind::File && layout.hitsPreviewButton(event.pos())) {
+        emit signalClickListViewItem(index);
+        return false;
+    }
+    if (!(event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)))
+        clearMarkedIndexes();
+    // before the signal: whoever listens may reset the model
+    setPressedIndex(index);
+    emit signalMutilSelectEvent();
+    return false;
+}
+
+bool IconDelegate::toggleCheck(QAbstractItemModel *model, const QModelIndex &index, int kind)
+{
+    const bool folderLike = ItemKind::isFolderLike(kind);
+    if (!folderLike && kind != ItemKind::File)
+        return false;
+    // below 1, not only 0: of an unknown count nothing can be recovered either
+    if (folderLike && !m_emptyFolderCheckable && index.data(CountRole).toLongLong() < 1)
+        return false;
+    const Qt::CheckState state = CheckBox::toggled(index.data(Qt::CheckStateRole).toInt());
+    const QPersistentModelIndex card(index);
+    model->setData(index, state, Qt::CheckStateRole);
+    emit signalCheckStateChange(card, state);
+    setPressedIndex(card);
+    return true;
+}
+
+void IconDelegate::hover(const QPoint &pos, const CardLayout &layout, const QModelIndex &index)
+{
+    emit signalSetCursor(layout.hitsPreviewButton(pos) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    const TreeItemData *item = itemOf(index);
+    if (!item)
+        return;
+    const Recoverability level = recoverabilityOf(item, hasThumbnail(*item), m_assessmentFinished);
+    if (m_label.rect(layout.cell, level).contains(pos) && m_labelTip.allows(index)) {
+        emit signalShowTooltip(RecoverabilityLabel::tooltip(level));
+        m_labelTip.shown(index);
+        return;
+    }
+    if (!layout.cell.contains(pos))
+        return;
+    QString text = CommonFunction::categoryName(item->rootType);
+    if (text.isEmpty())
+        text = item->name;
+    if (!text.isEmpty() && m_nameTip.allows(index)) {
+        emit signalShowTooltip(text);
+        m_nameTip.shown(index);
+    }
+}

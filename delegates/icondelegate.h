@@ -1,0 +1,119 @@
+#pragma once
+
+#include "common/themetype.h"
+#include "delegates/cardbackground.h"
+#include "delegates/cardpictures.h"
+#include "delegates/currentcard.h"
+#include "delegates/elidecache.h"
+#include "delegates/itemcolors.h"
+#include "delegates/namepainter.h"
+#include "delegates/recoverabilitylabel.h"
+#include "delegates/scaledthumbnails.h"
+#include "delegates/tooltipthrottle.h"
+
+#include <QCursor>
+#include <QPersistentModelIndex>
+#include <QSet>
+#include <QStyledItemDelegate>
+#include <QVector>
+
+class DeviceGrid;
+class QMouseEvent;
+
+/// Paints the cards of the thumbnail grid and turns mouse events on a card into signals. Owns no
+/// item; a record that has died is an empty card. Writes check states through the model. The view
+/// hands it mouse events with tracking on, and a QEvent::Leave when the mouse leaves the grid.
+/// Follows the theme and the language by itself; repainting the view is the owner's. GUI thread.
+class IconDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+
+public:
+    explicit IconDelegate(QObject *parent = nullptr);
+    ~IconDelegate() override;
+
+    /// A regular expression; empty: names are plain.
+    void setSearchKeyword(const QString &keyword);
+    /// Folders may be checked whatever they hold, and show their own state, not their parent's.
+    void setEmptyFolderCheckable(bool checkable) { m_emptyFolderCheckable = checkable; }
+    /// What has not been assessed by now is of medium recoverability.
+    void setAssessmentFinished(bool finished) { m_assessmentFinished = finished; }
+
+    /// Cards that show the selected look beside those the view has selected. Cards may be many:
+    /// what the selection model selects already need not be listed to be painted.
+    void setMarkedIndexes(const QModelIndexList &indexes);
+    void clearMarkedIndexes();
+    /// Without those that have gone from the model.
+    QModelIndexList markedIndexes() const;
+
+    /// The current card. Set by presses; to be set by the owner when the current item changes in
+    /// another way (keyboard), and to an invalid index when another folder is shown: then the first
+    /// card painted becomes current. A model reset needs no call: the card is found by its record.
+    void setPressedIndex(const QModelIndex &index);
+    QModelIndex pressedIndex() const { return m_pressed.index(); }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                     const QModelIndex &index) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// \a text cut in the middle to \a width pixels. Off the GUI thread it comes back as it is.
+    QString getElidedText(const QString &text, int width) const;
+
+signals:
+    /// The click has written \a state into the model.
+    void signalCheckStateChange(QModelIndex index, Qt::CheckState state);
+    /// A press on a file's preview button.
+    void signalClickListViewItem(QModelIndex index);
+    void signalClickRightButton(QModelIndex index);
+    void signalClickDouble(QModelIndex index);
+    void signalSetCursor(QCursor cursor);
+    /// A file without a thumbnail has been painted; emitted from within paint().
+    void signalGetThumItem(TreeItemData *itemData) const;
+    void signalMutilSelectEvent();
+    void signalShowTooltip(QString tooltip);
+
+private:
+    void loadThemeResources(THEMETYPE theme);
+    /// Texts and fonts of the language; the font family may also change without notice.
+    void retranslate();
+
+    void paintCard(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                   TreeItemData *item, int kind, const QPixmap &thumbnail) const;
+    CardBackground::Look lookOf(const QStyleOptionViewItem &option, const QModelIndex &index,
+                                TreeItemData *item) const;
+    bool isMarked(const QModelIndex &index) const;
+    /// These two return where the picture has been drawn; nothing for a folder.
+    QRect drawThumbnail(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
+                        const QPixmap &thumbnail) const;
+    QRect drawIcon(QPainter *painter, const CardLayout &layout, const TreeItemData &item,
+                   int kind) const;
+    void drawOverlays(QPainter *painter, const CardLayout &layout, const QRect &picture,
+                      const TreeItemData &item, bool hovered) const;
+    void drawTexts(QPainter *painter, const CardLayout &layout, const TreeItemData &item) const;
+
+    /// These two tell whether the press has been dealt with.
+    bool press(const QMouseEvent &event, QAbstractItemModel *model, const CardLayout &layout,
+               const QModelIndex &index);
+    bool toggleCheck(QAbstractItemModel *model, const QModelIndex &index, int kind);
+    void hover(const QPoint &pos, const CardLayout &layout, const QModelIndex &index);
+
+    mutable CurrentCard m_pressed;
+    QVector<QPersistentModelIndex> m_marked;
+    QSet<QPersistentModelIndex> m_markedLookup;
+    CardPictures m_pictures;
+    CardBackground m_background;
+    RecoverabilityLabel m_label;
+    mutable ScaledThumbnails m_scaledThumbnails;
+    mutable NamePainter m_names;
+    mutable ElideCache m_elideCache;
+    bool m_emptyFolderCheckable = false;
+    bool m_assessmentFinished = false;
+    TooltipThrottle m_nameTip;
+    TooltipThrottle m_labelTip;
+    THEMETYPE m_theme = LightTheme;
+    ItemColors m_colors;
+    QString m_fontFamily;
+    QFont m_countFont;
+};

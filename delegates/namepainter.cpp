@@ -1,0 +1,179 @@
+#include "delegates/namepainter.h"
+
+#include "delegates/chighlighter.h"
+#include "delegates/painterstate.h"
+
+#include <QDebug>
+#include <QPainter>
+#include <QPalette>
+#include <QStyle>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextCursor>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <exception>
+
+namespace {
+
+constexpr int MostTexts = 1024;
+
+/// A name is one line, whatever characters a damaged directory entry holds.
+QString onOneLine(QString text)
+{
+    for (QChar &c : text) {
+        if (c < QLatin1Char(' ') || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
+            c = QLatin1Char(' ');
+    }
+    return text;
+}
+
+/// Top left of a text of \a size in \a rect.
+QPointF textPosition(const QRect &rect, const QSizeF &size, Qt::Alignment alignment,
+                     Qt::LayoutDirection direction)
+{
+    const Qt::Alignment visual = QStyle::visualAlignment(direction, alignment);
+    qreal x = rect.x();
+    if (visual & Qt::AlignHCenter)
+        x += (rect.width() - size.width()) / 2;
+    else if (visual & Qt::AlignRight)
+        x += rect.width() - size.width();
+    return {x, rect.y() + (rect.height() - size.height()) / 2};
+}
+
+} // namespace
+
+NamePainter::NamePainter()
+    : m_renderer(std::make_unique<QTextBrowser>())
+    , m_highlighter(std::make_unique<CHighLighter>(m_renderer.get()))
+    , m_plainTexts(MostTexts)
+    , m_highlightedTexts(MostTexts)
+{
+    m_renderer->setReadOnly(true);
+    m_renderer->setLineWrapMode(QTextEdit::NoWrap);
+    m_renderer->document()->setDocumentMargin(0);
+    m_renderer->document()->setUndoRedoEnabled(false);
+}
+
+NamePainter::~NamePainter() = default;
+
+void NamePainter::setColors(const ItemColors &colors)
+{
+    m_colors = colors;
+    applyPalette();
+    forget();
+}
+
+void NamePainter::setFont(const QFont &font)
+{
+    m_font = font;
+    forget();
+}
+
+void NamePainter::setKeyword(const QString &keyword)
+{
+    if (keyword == m_keyword)
+        return;
+    m_keyword = keyword;
+    m_highlightedTexts.clear();
+}
+
+void NamePainter::applyPalette()
+{
+    QPalette palette = m_renderer->palette();
+    palette.setColor(QPalette::Text, m_colors.text);
+    palette.setColor(QPalette::Base, Qt::transparent);
+    palette.setColor(QPalette::Window, Qt::transparent);
+    m_renderer->setPalette(palette);
+    m_renderer->setTextColor(m_colors.text);
+}
+
+void NamePainter::forget()
+{
+    m_plainTexts.clear();
+    m_highlightedTexts.clear();
+}
+
+void NamePainter::draw(QPainter *painter, const QRect &rect, const QString &text,
+                       Qt::Alignment alignment)
+{
+    if (text.isEmpty() || rect.isEmpty() || !painter->isActive())
+        return;
+    const PainterState state(painter);
+    painter->setFont(m_font);
+    painter->setPen(m_colors.text);
+    if (m_keyword.isEmpty())
+        drawPlain(painter, rect, text, alignment);
+    else
+        drawHighlighted(painter, rect, text, alignment);
+}
+
+void NamePainter::drawPlain(QPainter *painter, const QRect &rect, const QString &text,
+                            Qt::Alignment alignment)
+{
+    QStaticText *prepared = m_plainTexts.object(text);
+    if (!prepared) {
+        prepared = new QStaticText(onOneLine(text));
+        prepared->setTextFormat(Qt::PlainText);
+        prepared->setPerformanceHint(QStaticText::AggressiveCaching);
+        prepared->prepare(painter->transform(), m_font);
+        m_plainTexts.insert(text, prepared, 1);
+    }
+    const QSizeF size = prepared->size();
+    if (size.width() > rect.width() || size.height() > rect.height())
+        painter->setClipRect(rect, Qt::IntersectClip);
+    painter->drawStaticText(textPosition(rect, size, alignment, painter->layoutDirection()),
+                            *prepared);
+}
+
+void NamePainter::drawHighlighted(QPainter *painter, const QRect &rect, const QString &text,
+                                  Qt::Alignment alignment)
+{
+    try {
+        QTextLayout *layout = highlightedLayout(text, rect, alignment, painter->layoutDirection());
+        const QTextLine line = layout->lineAt(0);
+        painter->setClipRect(rect);
+        layout->draw(painter,
+                     textPosition(rect, {line.naturalTextWidth(), line.height()}, alignment,
+                                  painter->layoutDirection()));
+    } catch (const std::exception &e) {
+        qDebug() << "Exception caught:" << e.what();
+    }
+}
+
+QTextLayout *NamePainter::highlightedLayout(const QString &text, const QRect &rect,
+                                            Qt::Alignment alignment, Qt::LayoutDirection direction)
+{
+    if (QTextLayout *layout = m_highlightedTexts.object(text))
+        return layout;
+
+    const QString line = onOneLine(text);
+    m_renderer->setFont(m_font);
+    m_renderer->setPlainText(line);
+    m_highlighter->setKeyword(m_keyword, m_colors.highlightBackground,
+                              m_colors.highlightForeground);
+    m_highlighter->rehighlight();
+    m_renderer->resize(rect.size());
+    m_renderer->setAlignment(alignment);
+    m_renderer->selectAll();
+    QTextCharFormat textFormat;
+    textFormat.setForeground(m_colors.text);
+    m_renderer->mergeCurrentCharFormat(textFormat);
+    m_renderer->moveCursor(QTextCursor::Start);
+
+    auto layout = std::make_unique<QTextLayout>(line, m_font);
+    layout->setFormats(m_renderer->document()->firstBlock().layout()->formats());
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setTextDirection(direction);
+    layout->setTextOption(option);
+    layout->setCacheEnabled(true);
+    layout->beginLayout();
+    layout->createLine();
+    layout->endLayout();
+
+    QTextLayout *result = layout.release();
+    m_highlightedTexts.insert(text, result, 1);
+    return result;
+}

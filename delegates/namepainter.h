@@ -1,0 +1,54 @@
+#pragma once
+
+#include "delegates/itemcolors.h"
+
+#include <QCache>
+#include <QFont>
+#include <QStaticText>
+#include <QString>
+
+#include <memory>
+
+class CHighLighter;
+class QPainter;
+class QTextBrowser;
+class QTextLayout;
+
+/// Draws item names, with the search keyword marked when there is one. The marks are found in a
+/// hidden text browser; what has been laid out once is kept, so that a name costs only its glyphs.
+class NamePainter {
+public:
+    NamePainter();
+    ~NamePainter();
+    Q_DISABLE_COPY_MOVE(NamePainter)
+
+    void setColors(const ItemColors &colors);
+    void setFont(const QFont &font);
+    const QFont &font() const { return m_font; }
+    void setKeyword(const QString &keyword);
+    const QString &keyword() const { return m_keyword; }
+
+    /// One line, \a alignment sideways, centred vertically. Nothing for an empty text or rectangle.
+    void draw(QPainter *painter, const QRect &rect, const QString &text, Qt::Alignment alignment);
+
+    /// A top-level widget that is never shown: Qt tells it of a change of language.
+    QTextBrowser *renderer() const { return m_renderer.get(); }
+
+private:
+    void drawPlain(QPainter *painter, const QRect &rect, const QString &text,
+                   Qt::Alignment alignment);
+    void drawHighlighted(QPainter *painter, const QRect &rect, const QString &text,
+                         Qt::Alignment alignment);
+    QTextLayout *highlightedLayout(const QString &text, const QRect &rect, Qt::Alignment alignment,
+                                   Qt::LayoutDirection direction);
+    void applyPalette();
+    void forget();
+
+    QFont m_font;
+    ItemColors m_colors;
+    QString m_keyword;
+    std::unique_ptr<QTextBrowser> m_renderer;
+    std::unique_ptr<CHighLighter> m_highlighter; // on the renderer's document: goes first
+    QCache<QString, QStaticText> m_plainTexts;
+    QCache<QString, QTextLayout> m_highlightedTexts;
+};
