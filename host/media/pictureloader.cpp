@@ -1,0 +1,91 @@
+#include "host/media/pictureloader.h"
+
+#include "platform/system/system.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QImageReader>
+#include <QMutex>
+
+#include <cmath>
+
+namespace {
+
+constexpr qint64 MaxPixels = 200 * 1000 * 1000;
+constexpr qint64 LargePixels = 40 * 1000 * 1000; // such pictures are read one at a time
+constexpr qint64 WholeFileBytes = 64 << 20; // up to here read at once: seeking on a card is slow
+constexpr int BytesPerPixel = 4;
+constexpr int MaxStretch =
+    8; // of a long strip, so that its thumbnail does not become a large picture
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Picture", text);
+}
+
+/// Text and vectors: their size says nothing about the work that they make.
+bool isTrusted(const QByteArray &format)
+{
+    return !format.isEmpty() && !format.startsWith("svg") && format != "pdf" && format != "xpm"
+        && format != "xbm";
+}
+
+QSize covering(const QSize &picture, const QSize &cover)
+{
+    QSize scaled = picture.scaled(cover, Qt::KeepAspectRatioByExpanding);
+    scaled = scaled.boundedTo(cover * MaxStretch);
+    scaled = scaled.expandedTo(QSize(1, 1));
+    return scaled.width() < picture.width() || scaled.height() < picture.height() ? scaled
+                                                                                  : picture;
+}
+
+} // namespace
+
+QImage loadPicture(QIODevice &device, const QSize &cover, QString *error)
+{
+    QBuffer memory;
+    QIODevice *from = &device;
+    if (device.size() <= WholeFileBytes) {
+        memory.setData(device.readAll());
+        if (memory.size() < device.size()) {
+            *error = device.errorString();
+            return QImage();
+        }
+        memory.open(QIODevice::ReadOnly);
+        from = &memory;
+    }
+    QImageReader reader(from);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (!isTrusted(reader.format())) {
+        *error = tr("The picture is broken or of an unknown kind.");
+        return QImage();
+    }
+    const QSize size = reader.size();
+    if (size.isEmpty()) {
+        *error = tr("The picture does not say how large it is.");
+        return QImage();
+    }
+    const qint64 pixels = qint64(size.width()) * size.height();
+    if (pixels > MaxPixels) {
+        *error = tr("The picture is too large: %1 × %2.").arg(size.width()).arg(size.height());
+        return QImage();
+    }
+    static QMutex s_large;
+    QMutexLocker lock(pixels > LargePixels ? &s_large : nullptr);
+    const quint64 memoryLeft = System::availablePhysicalMemory();
+    if (memoryLeft > 0 && quint64(pixels) * BytesPerPixel > memoryLeft / 2) {
+        *error = tr("There is not enough memory for a picture of %1 × %2.")
+                     .arg(size.width())
+                     .arg(size.height());
+        return QImage();
+    }
+    if (!cover.isEmpty()) {
+        const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+        reader.setScaledSize(covering(size, turned ? cover.transposed() : cover));
+    }
+    QImage image = reader.read();
+    if (image.isNull())
+        *error = reader.errorString();
+    return image;
+}

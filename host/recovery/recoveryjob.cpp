@@ -1,0 +1,92 @@
+#include "host/recovery/recoveryjob.h"
+
+#include "host/recovery/filerecovery.h"
+
+#include <QMutex>
+#include <QThread>
+
+namespace {
+constexpr int PollMs = 100;
+}
+
+struct RecoveryJob::Run {
+    std::unique_ptr<QThread> thread;
+    std::atomic<bool> cancel{false};
+    QMutex mutex; // guards what follows
+    RecoveryProgress progress;
+    RecoveryReport report;
+    bool done = false;
+};
+
+RecoveryJob::RecoveryJob(std::shared_ptr<const ScanSource> source, QObject *parent)
+    : QObject(parent)
+    , m_source(std::move(source))
+{
+    m_timer.setInterval(PollMs);
+    connect(&m_timer, &QTimer::timeout, this, &RecoveryJob::poll);
+}
+
+RecoveryJob::~RecoveryJob()
+{
+    join();
+}
+
+void RecoveryJob::start(const QVector<FoundItem> &items, const QString &target)
+{
+    if (m_running)
+        return;
+    m_running = true;
+    m_run = std::make_shared<Run>();
+    Run *run = m_run.get(); // join() waits for the thread before it lets go
+    const ScanSource *source = m_source.get();
+    m_run->thread.reset(QThread::create([run, source, items, target] {
+        const FileRecovery::Tell tell = [run](const RecoveryProgress &now) {
+            QMutexLocker lock(&run->mutex);
+            run->progress = now;
+        };
+        const RecoveryReport report =
+            FileRecovery(*source, target, run->cancel, tell).recover(items);
+        QMutexLocker lock(&run->mutex);
+        run->report = report;
+        run->done = true;
+    }));
+    m_run->thread->start();
+    m_timer.start();
+}
+
+void RecoveryJob::cancel()
+{
+    if (m_run)
+        m_run->cancel = true;
+}
+
+void RecoveryJob::join()
+{
+    m_timer.stop();
+    m_running = false;
+    if (!m_run)
+        return;
+    m_run->cancel = true;
+    m_run->thread->wait();
+    m_run.reset();
+}
+
+void RecoveryJob::poll()
+{
+    RecoveryProgress now;
+    RecoveryReport report;
+    bool done = false;
+    {
+        QMutexLocker lock(&m_run->mutex);
+        now = m_run->progress;
+        done = m_run->done;
+        if (done)
+            report = m_run->report;
+    }
+    const std::shared_ptr<Run> run = m_run;
+    emit progress(now);
+    if (!done || m_run != run)
+        return;
+    join();
+    emit finished(report);
+}

@@ -1,0 +1,93 @@
+#include "host/scan/imagesource.h"
+
+#include "host/scan/card.h"
+#include "host/scan/cardfile.h"
+#include "host/scan/volumefinder.h"
+#include "host/scan/volumewalker.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace {
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ScanSource", text);
+}
+} // namespace
+
+std::unique_ptr<ScanSource> ImageSource::open(const QString &path, QString *error)
+{
+    std::unique_ptr<Card> card = Card::open(path, error);
+    if (!card)
+        return nullptr;
+    const QVector<FoundVolume> found = findVolumes(*card);
+    if (found.isEmpty()) {
+        const QString cause = card->readError();
+        const QString shown = QDir::toNativeSeparators(path);
+        *error = cause.isEmpty()
+            ? tr("%1 holds no file system that can be read (FAT, exFAT, NTFS or ext).").arg(shown)
+            : tr("%1 cannot be read: %2.").arg(shown, cause);
+        return nullptr;
+    }
+    std::vector<CardVolume> places;
+    for (const FoundVolume &volume : found)
+        places.push_back(volume.volume);
+    auto pool = std::make_shared<CardPool>(path, places);
+    pool->giveBack(std::move(card));
+    std::unique_ptr<ImageSource> source(new ImageSource(path, std::move(pool)));
+    for (const FoundVolume &volume : found)
+        source->m_volumes.append(volume.info);
+    return source;
+}
+
+ImageSource::ImageSource(const QString &path, std::shared_ptr<CardPool> pool)
+    : ScanSource(path)
+    , m_pool(std::move(pool))
+{
+}
+
+ImageSource::~ImageSource() = default;
+
+QString ImageSource::orphansName()
+{
+    return tr("Deleted files without a folder");
+}
+
+ScanOutcome ImageSource::scan(const Sink &sink, const std::atomic<bool> &cancel,
+                              const Progress &progress)
+{
+    ScanOutcome outcome;
+    std::unique_ptr<Card> card = m_pool->take(&outcome.error);
+    if (!card)
+        return outcome;
+    card->setCancel(&cancel);
+    ScanIds ids;
+    Warnings warnings;
+    const std::vector<CardVolume> &volumes = m_pool->volumes();
+    for (size_t i = 0; i < volumes.size() && !cancel; ++i) {
+        TSK_FS_INFO *fs = card->fileSystem(volumes[i]);
+        if (!fs) {
+            warnings.add(tr("Volume %1 could not be opened.").arg(i + 1));
+            continue;
+        }
+        VolumeWalker walker(fs, int(i), ids, sink, cancel, warnings);
+        walker.walkFolders();
+        if (!cancel)
+            walker.walkOrphans(orphansName());
+        if (progress)
+            progress(double(i + 1) / double(volumes.size()));
+    }
+    const QString cause = card->readError();
+    if (!cancel && !cause.isEmpty())
+        outcome.error = tr("The card could not be read everywhere: %1.").arg(cause);
+    outcome.cancelled = cancel;
+    outcome.warnings = warnings.lines();
+    outcome.skipped = warnings.count();
+    m_pool->giveBack(std::move(card));
+    return outcome;
+}
+
+std::unique_ptr<QIODevice> ImageSource::openFile(const FoundItem &item, QString *error) const
+{
+    return CardFile::open(m_pool, item, error);
+}

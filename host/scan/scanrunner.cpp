@@ -1,0 +1,158 @@
+#include "host/scan/scanrunner.h"
+
+namespace {
+constexpr int DeliveryMs = 100;
+}
+
+/// What the scanning thread and the runner share. The runner waits for the thread before it lets
+/// go.
+struct ScanRunner::Run {
+    QString path;
+    std::shared_ptr<ScanSource> source; // before the thread starts, or under the mutex
+    std::atomic<bool> cancel{false};
+    std::unique_ptr<QThread> thread;
+
+    QMutex mutex; // guards what follows
+    QVector<FoundItem> found;
+    ScanOutcome outcome;
+    double fraction = -1;
+    bool opened = false;
+    bool done = false;
+
+    void work();
+};
+
+void ScanRunner::Run::work()
+{
+    ScanOutcome result;
+    std::shared_ptr<ScanSource> mine = source;
+    if (!mine)
+        mine = ScanSource::create(path, &result.error);
+    if (mine) {
+        {
+            QMutexLocker lock(&mutex);
+            source = mine;
+            opened = true;
+        }
+        const auto take = [this](QVector<FoundItem> &&batch) {
+            QMutexLocker lock(&mutex);
+            if (found.isEmpty())
+                found = std::move(batch);
+            else
+                found += batch;
+        };
+        const auto tell = [this](double now) {
+            QMutexLocker lock(&mutex);
+            fraction = now;
+        };
+        result = mine->scan(take, cancel, tell);
+    }
+    QMutexLocker lock(&mutex);
+    outcome = result;
+    done = true;
+}
+
+ScanRunner::ScanRunner(QObject *parent)
+    : QObject(parent)
+{
+    m_timer.setInterval(DeliveryMs);
+    connect(&m_timer, &QTimer::timeout, this, &ScanRunner::poll);
+}
+
+ScanRunner::~ScanRunner()
+{
+    abandon();
+}
+
+void ScanRunner::start(const QString &path)
+{
+    auto run = std::make_shared<Run>();
+    run->path = path;
+    launch(std::move(run));
+}
+
+void ScanRunner::start(std::shared_ptr<ScanSource> source)
+{
+    auto run = std::make_shared<Run>();
+    run->path = source->path();
+    run->source = std::move(source);
+    launch(std::move(run));
+}
+
+void ScanRunner::launch(std::shared_ptr<Run> run)
+{
+    abandon();
+    m_run = std::move(run);
+    m_source = nullptr;
+    m_progress = {};
+    m_running = true;
+    m_elapsed.start();
+    Run *shared = m_run.get(); // outlives the thread: abandon() and poll() wait for it
+    m_run->thread.reset(QThread::create([shared] { shared->work(); }));
+    m_run->thread->start();
+    m_timer.start();
+}
+
+void ScanRunner::cancel()
+{
+    if (m_run)
+        m_run->cancel = true;
+}
+
+void ScanRunner::abandon()
+{
+    m_timer.stop();
+    m_running = false;
+    if (!m_run)
+        return;
+    m_run->cancel = true;
+    m_run->thread->wait();
+    m_run.reset();
+}
+
+void ScanRunner::poll()
+{
+    const std::shared_ptr<Run> run = m_run;
+    QVector<FoundItem> batch;
+    ScanOutcome outcome;
+    bool done = false;
+    bool nowOpen = false;
+    {
+        QMutexLocker lock(&run->mutex);
+        batch.swap(run->found);
+        done = run->done;
+        outcome = run->outcome;
+        nowOpen = run->opened;
+        if (nowOpen && !m_source)
+            m_source = run->source;
+        else
+            nowOpen = false;
+        m_progress.fraction = run->fraction;
+    }
+    // A slot may start another scan, which puts an end to telling of this one.
+    if (nowOpen)
+        emit opened(m_source->volumes());
+    if (m_run == run && !batch.isEmpty())
+        deliver(batch);
+    if (m_run != run)
+        return;
+    m_progress.elapsed = m_elapsed.elapsed();
+    if (m_progress.elapsed > 0)
+        m_progress.itemsPerSecond = double(m_progress.files + m_progress.folders) * 1000
+            / double(m_progress.elapsed);
+    emit progress(m_progress);
+    if (!done || m_run != run)
+        return;
+    abandon();
+    emit finished(outcome);
+}
+
+void ScanRunner::deliver(const QVector<FoundItem> &batch)
+{
+    for (const FoundItem &item : batch) {
+        ++(item.folder ? m_progress.folders : m_progress.files);
+        m_progress.deleted += item.deleted;
+        m_progress.bytes += item.size;
+    }
+    emit itemsFound(batch);
+}

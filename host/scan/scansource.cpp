@@ -1,0 +1,28 @@
+#include "host/scan/scansource.h"
+
+#include "host/scan/foldersource.h"
+#include "host/scan/imagesource.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+ScanSource::ScanSource(const QString &path)
+    : m_path(QFileInfo(path).absoluteFilePath())
+{
+}
+
+ScanSource::~ScanSource() = default;
+
+std::unique_ptr<ScanSource> ScanSource::create(const QString &path, QString *error)
+{
+    const QFileInfo info(path);
+    const QString shown = QDir::toNativeSeparators(path);
+    if (path.isEmpty() || !info.exists()) {
+        *error = QCoreApplication::translate("ScanSource", "%1 does not exist.").arg(shown);
+        return nullptr;
+    }
+    if (info.isDir())
+        return FolderSource::open(path, error);
+    return ImageSource::open(path, error);
+}
