@@ -1,12 +1,18 @@
 #pragma once
 
+#include "content/gridgeometry.h"
+#include "content/gridnavigation.h"
+#include "content/rubberband.h"
+
+#include <QBasicTimer>
 #include <QListView>
 
 /// The grid of thumbnail cards: a QListView in icon mode whose geometry is computed from the row
 /// number and never stored, so that a million rows cost what a hundred do. One column of a flat
-/// model; every cell has the delegate's size hint; right-to-left mirrors the columns.
-class ThumbnailGrid : public QListView
-{
+/// model; every cell has the delegate's size hint for the first row; right-to-left mirrors the
+/// columns. Items are not dragged: a drag anywhere draws a rubber band. Hidden rows and a grid size
+/// are not supported.
+class ThumbnailGrid : public QListView {
     Q_OBJECT
 
 public:
@@ -20,7 +26,95 @@ public:
     /// Repaints the cards in the viewport whose \a role has the value \a id.
     void repaintMatching(int role, qint64 id);
 
-Q_SIGNALS:
+    /// The item that a selection with Shift starts from; invalid when there is none.
+    QModelIndex selectionAnchor() const { return m_anchor; }
+    /// Puts the anchor back after a reset of the model; selection and current item stay.
+    void setSelectionAnchor(const QModelIndex &index);
+
+    QRect visualRect(const QModelIndex &index) const override;
+    QModelIndex indexAt(const QPoint &point) const override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+    void doItemsLayout() override;
+    void selectAll() override;
+    void setModel(QAbstractItemModel *model) override;
+
+signals:
     /// A selection of several items was made by hand or by key.
     void signalMutilSelectEvent();
+
+protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
+    QRegion visualRegionForSelection(const QItemSelection &selection) const override;
+    int horizontalOffset() const override;
+    int verticalOffset() const override;
+    bool isIndexHidden(const QModelIndex &index) const override;
+
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
+
+    bool viewportEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void startDrag(Qt::DropActions supportedActions) override;
+
+private:
+    static GridNavigation::Step stepOf(CursorAction action);
+    GridGeometry geometryNow() const;
+    void layOutIfDue() const;
+    QPoint offset() const { return {horizontalOffset(), verticalOffset()}; }
+    QRect contentViewport() const { return viewport()->rect().translated(offset()); }
+    QModelIndex indexOf(int row) const;
+    bool isEnabled(const QModelIndex &index) const;
+    void addRun(QItemSelection *selection, GridGeometry::Run run) const;
+    bool severalSelected() const;
+
+    void paintCards(QPainter *painter, const QRegion &region);
+    void paintFocus(QPainter *painter, const QStyleOptionViewItem &option);
+    void paintBand(QPainter *painter);
+
+    void rememberTop();
+    void setHover(const QPoint &pos);
+    void clearHover();
+    void changeHover(const QModelIndex &index);
+
+    void stretchBand(const QPoint &pos, Qt::KeyboardModifiers modifiers);
+    void selectInBand(Qt::KeyboardModifiers modifiers);
+    void setCurrentInPlace(const QModelIndex &index);
+    void autoScrollBand();
+    void finishBand();
+    void cancelBand();
+
+    QSize m_cell;
+    int m_columns = 0;
+    int m_topRow = 0;     ///< the row at the upper edge when the user last scrolled
+    int m_topOverlap = 0; ///< pixels of its line above that edge
+    bool m_layingOut = false;
+
+    QPersistentModelIndex m_hover;
+    QPoint m_pointer;
+    bool m_pointerInside = false;
+    bool m_showFocus = false; ///< the keyboard was used last
+
+    QPersistentModelIndex m_anchor;
+    bool m_movingAnchor = false;
+    bool m_selectionTouched = false;
+
+    RubberBand m_band;
+    QBasicTimer m_autoScroll;
+    QItemSelection m_beforeBand;
+    QItemSelectionModel::SelectionFlags m_ctrlBandCommand = QItemSelectionModel::NoUpdate;
 };
