@@ -1,0 +1,94 @@
+#include "content/contentpages.h"
+
+#include "common/commonfunction.h"
+#include "common/fontmanager.h"
+#include "common/translation.h"
+#include "content/scananimation.h"
+#include "ui_sdcardcontentdatawidget.h"
+
+using PageChoice::Page;
+
+ContentPages::ContentPages(Ui::SDCardContentDataWidgetClass &form, QObject *parent)
+    : QObject(parent)
+    , m_form(form)
+    , m_animation(new ScanAnimation(form.animationframe, this))
+{
+}
+
+Page ContentPages::current() const
+{
+    const QWidget *page = m_form.stackedWidget->currentWidget();
+    if (page == m_form.scanningpage)
+        return Page::Scanning;
+    if (page == m_form.nodatapage)
+        return Page::NoData;
+    if (page == m_form.loadingpage)
+        return Page::Loading;
+    return page == m_form.nofilterpage ? Page::NoFilter : Page::Results;
+}
+
+void ContentPages::show(Page page)
+{
+    QWidget *widget = m_form.scandatapage;
+    switch (page) {
+    case Page::Results:
+        break;
+    case Page::Scanning:
+        widget = m_form.scanningpage;
+        break;
+    case Page::NoData:
+        widget = m_form.nodatapage;
+        break;
+    case Page::Loading:
+        widget = m_form.loadingpage;
+        break;
+    case Page::NoFilter:
+        widget = m_form.nofilterpage;
+        break;
+    }
+    m_form.stackedWidget->setCurrentWidget(widget);
+    if (page == Page::Scanning) {
+        // Not before it is needed: most content areas never show it.
+        if (!m_animation->exists())
+            m_animation->initScaningLottie();
+        m_animation->start();
+    } else {
+        m_animation->stop();
+    }
+    emit shown();
+}
+
+void ContentPages::loadImages()
+{
+    const auto load = [](QLabel *label, const char *name) {
+        label->setPixmap(CommonFunction::highDpiPixmap(QLatin1String(name)));
+    };
+    load(m_form.labNoDataImage, ":/Images/image200_No_scan_white");
+    load(m_form.labLoadingImage, ":/Images/image200_Loading_white");
+    load(m_form.labNoFilterImage, ":/Images/image200_NoFilter_white");
+}
+
+void ContentPages::applyFonts()
+{
+    const QFont plain = FontManager::instance()->getFont(false);
+    const QFont semibold = FontManager::instance()->getFont(true);
+    for (QLabel *label : {m_form.scantitlelabel, m_form.scansubtitlelabel, m_form.selectAlllabel,
+                          m_form.labNoDataText, m_form.labLoadingText, m_form.labNoFilterText})
+        label->setFont(plain);
+    for (QLabel *label : {m_form.labNoDataTitle, m_form.labLoadingTitle, m_form.labNoFilterTitle})
+        label->setFont(semibold);
+}
+
+void ContentPages::retranslate()
+{
+    m_form.selectAlllabel->setText(translatedKey("select_all"));
+    m_form.allCheckButton->setAccessibleName(m_form.selectAlllabel->text());
+    m_form.scantitlelabel->setText(translatedKey("scanning"));
+    m_form.scansubtitlelabel->setText(translatedKey("scandataview_scanning_hint"));
+    m_form.labNoDataTitle->setText(translatedKey("file_not_found"));
+    m_form.labNoDataText->setText(translatedKey("scandataview_file_not_found_hint"));
+    m_form.labLoadingTitle->setText(translatedKey("ai_tags_loading_title"));
+    m_form.labLoadingText->setText(translatedKey("ai_tags_loading_desc"));
+    m_form.labNoFilterTitle->setText(translatedKey("filter_empty_title"));
+    m_form.labNoFilterText->setText(translatedKey("filter_empty_desc"));
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QScrollBar>
+
+class QAbstractItemView;
+
+/// A slim scroll bar over the right edge of a view, kept in step with the view's own. A child of
+/// the content area and in no layout, so that it takes no room from the view.
+class OverlayScrollBar : public QScrollBar
+{
+    Q_OBJECT
+
+public:
+    OverlayScrollBar(QAbstractItemView *view, QWidget *parent);
+
+    /// Takes range, value and place from the view; hides where there is nothing to scroll.
+    void sync();
+
+private:
+    QAbstractItemView *m_view;
+};

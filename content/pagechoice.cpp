@@ -1,0 +1,51 @@
+#include "content/pagechoice.h"
+
+#include "platform/item/filtercondition.h"
+#include "platform/item/treeitemdata.h"
+
+namespace PageChoice {
+
+bool isFilterActive(const FilterCondition *filter)
+{
+    if (!filter)
+        return false;
+    const bool bounded = filter->minSize != FilterCondition::Unset
+        || filter->maxSize != FilterCondition::Unset || filter->minTime != FilterCondition::Unset
+        || filter->maxTime != FilterCondition::Unset;
+    return bounded || !filter->text1.isEmpty() || !filter->text2.isEmpty()
+        || !filter->list1.isEmpty() || !filter->list2.isEmpty()
+        || filter->mode != FilterCondition::NoMode;
+}
+
+bool hasItems(const TreeItemData *root)
+{
+    if (!root)
+        return false;
+    if (root->itemCount < 0)
+        return !root->childFolders.isEmpty() || !root->childFiles.isEmpty();
+    return root->itemCount > 0;
+}
+
+Page nothingFound(const Situation &situation)
+{
+    return !situation.searchMode && isFilterActive(situation.filter) ? Page::NoFilter
+                                                                     : Page::NoData;
+}
+
+Page forTree(const Situation &situation)
+{
+    if (hasItems(situation.root))
+        return Page::Results;
+    if (situation.searchSide)
+        return Page::NoData;
+    return situation.scanFinished ? nothingFound(situation) : Page::Scanning;
+}
+
+Page forFinishedScan(const Situation &situation, Page current)
+{
+    if (!situation.searchSide && !hasItems(situation.root))
+        return nothingFound(situation);
+    return current == Page::Scanning ? Page::NoData : current;
+}
+
+} // namespace PageChoice

@@ -1,0 +1,538 @@
+#include "content/sdcardcontentdatawidget.h"
+
+#include "common/guard.h"
+#include "common/qssloader.h"
+#include "content/checkall.h"
+#include "content/checktoggle.h"
+#include "content/contentpages.h"
+#include "content/currentitem.h"
+#include "content/loadmoretrigger.h"
+#include "content/overlayscrollbar.h"
+#include "content/scananimation.h"
+#include "content/scantableview.h"
+#include "content/thumbnailrequests.h"
+#include "delegates/delegateitem.h"
+#include "delegates/icondelegate.h"
+#include "model/scandatamodel.h"
+#include "platform/item/filtercondition.h"
+#include "ui_sdcardcontentdatawidget.h"
+
+#include <QKeyEvent>
+#include <QScrollBar>
+
+using PageChoice::Page;
+
+namespace {
+
+constexpr int SearchSide = 2;
+constexpr int GridMode = 0;
+constexpr int ListWithDetailMode = 1;
+constexpr int CardSpacing = 8;
+
+enum ScanState { Started = 1, Finished = 4, AnimationStopped = 5 };
+
+} // namespace
+
+SDCardContentDataWidget::SDCardContentDataWidget(int side, QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::SDCardContentDataWidgetClass>())
+    , m_side(side)
+{
+    ui->setupUi(this);
+    // The select-all control stands where the check boxes of the cards do.
+    ui->headerViewHorizontalLayout->removeWidget(ui->iconModeHederView);
+    ui->headerViewHorizontalLayout->addWidget(ui->iconModeHederView, 1);
+    qRegisterMetaType<QItemSelection>("QItemSelection");
+    ui->itemDetailframe->hide();
+    ui->vlineframe->hide();
+    ui->listModeHeaderView->hide();
+    ui->iconModeHederView->hide();
+
+    ui->stackedWidget->setCurrentWidget(m_side == SearchSide ? ui->scandatapage : ui->scanningpage);
+    ui->listView->installEventFilter(this);
+    m_checkAll = new CheckAll(ui->allCheckButton);
+    m_pages = new ContentPages(*ui, this);
+    m_pages->loadImages();
+    m_pages->applyFonts();
+
+    createViews();
+    connectViews();
+    connectThumbnails();
+    loadStyleSheet();
+    retranslate();
+}
+
+SDCardContentDataWidget::~SDCardContentDataWidget() = default;
+
+// Construction ---------------------------------------------------------------------------------
+
+void SDCardContentDataWidget::createViews()
+{
+    m_gridDelegate = new IconDelegate(this);
+    m_model = new ScanDataModel(this);
+    m_thumbnails = new ThumbnailRequests(this);
+
+    ui->listView->setModel(m_model);
+    ui->listView->setViewMode(QListView::IconMode);
+    ui->listView->setFlow(QListView::LeftToRight);
+    ui->listView->setResizeMode(QListView::Adjust);
+    ui->listView->setUniformItemSizes(true);
+    ui->listView->setSpacing(CardSpacing);
+    ui->listView->setItemDelegate(m_gridDelegate);
+
+    m_table = new ScanTableView(ui->frame_4);
+    m_table->setModel(m_model);
+    m_table->hide();
+    ui->horizontalLayout_4->insertWidget(1, m_table, 1);
+
+    m_current = new CurrentItem(m_model, {ui->listView, m_table}, this);
+    m_overlay = new OverlayScrollBar(ui->listView, this);
+    setTabOrder(ui->allCheckButton, ui->listView);
+    setTabOrder(ui->listView, m_table);
+}
+
+void SDCardContentDataWidget::connectViews()
+{
+    connect(m_checkAll, &CheckAll::clicked, this, &SDCardContentDataWidget::checkAll);
+    connect(m_pages, &ContentPages::shown, m_overlay, &OverlayScrollBar::sync);
+    connect(ui->listView, &QListView::pressed, this, &SDCardContentDataWidget::onPressed);
+    connect(ui->listView, &ThumbnailGrid::signalMutilSelectEvent, this,
+            &SDCardContentDataWidget::onMultiSelectEvent);
+    connect(ui->listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SDCardContentDataWidget::onSelectionChanged);
+    connect(m_current, &CurrentItem::saved, this, [this](const QModelIndex &index) {
+        m_gridDelegate->setPressedIndex(index.sibling(index.row(), 0));
+    });
+    connect(m_current, &CurrentItem::changed, this,
+            &SDCardContentDataWidget::signalCurrentItemChanged);
+
+    connect(m_gridDelegate, &IconDelegate::signalCheckStateChange, this,
+            &SDCardContentDataWidget::onCheckChanged);
+    connect(m_gridDelegate, &IconDelegate::signalClickListViewItem, this,
+            [this](const QModelIndex &index) { openIndex(index, QStringLiteral("preview_btn")); });
+    connect(m_gridDelegate, &IconDelegate::signalClickDouble, this,
+            [this](const QModelIndex &index) { openIndex(index, QStringLiteral("double_click")); });
+    connect(m_gridDelegate, &IconDelegate::signalSetCursor, this,
+            [this](const QCursor &cursor) { ui->listView->viewport()->setCursor(cursor); });
+    // The press reaches the delegate before the view has changed its selection.
+    connect(m_gridDelegate, &IconDelegate::signalMutilSelectEvent, this,
+            &SDCardContentDataWidget::onMultiSelectEvent, Qt::QueuedConnection);
+    connect(m_gridDelegate, &IconDelegate::signalShowTooltip, this,
+            &SDCardContentDataWidget::signalScanViewShowTooltip);
+
+    auto *gridBottom = new LoadMoreTrigger(
+        ui->listView, "[ScrollDiag][listView] trigger signalQueryMoreData", this);
+    auto *tableBottom = new LoadMoreTrigger(
+        m_table, "[ScrollDiag][tableView] trigger signalQueryMoreData", this);
+    for (const LoadMoreTrigger *trigger : {gridBottom, tableBottom}) {
+        connect(trigger, &LoadMoreTrigger::bottomReached, this, [this, trigger] {
+            if (!LoadMoreTrigger::hasMore(m_root))
+                return;
+            qDebug() << trigger->logLine();
+            emit signalQueryMoreData(m_root);
+        });
+    }
+}
+
+void SDCardContentDataWidget::connectThumbnails()
+{
+    connect(m_gridDelegate, &IconDelegate::signalGetThumItem, m_thumbnails,
+            &ThumbnailRequests::request);
+    connect(m_thumbnails, &ThumbnailRequests::wanted, this,
+            &SDCardContentDataWidget::signalGetThumPixmap);
+    connect(m_thumbnails, &ThumbnailRequests::answered, this,
+            &SDCardContentDataWidget::onThumbnailArrived);
+}
+
+void SDCardContentDataWidget::loadStyleSheet()
+{
+    QSSLoader::applyStyleSheet(this, QStringLiteral("sdcardcontentdatawidget.qss"));
+}
+
+void SDCardContentDataWidget::retranslate()
+{
+    m_pages->retranslate();
+    emit m_model->headerDataChanged(Qt::Horizontal, 0, ScanDataModel::ColumnCount - 1);
+    repaintViews();
+}
+
+void SDCardContentDataWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        guarded(Q_FUNC_INFO, [this] {
+            m_pages->applyFonts();
+            retranslate();
+        });
+    QWidget::changeEvent(event);
+}
+
+void SDCardContentDataWidget::updateTheme(THEMETYPE)
+{
+    guarded(Q_FUNC_INFO, [this] {
+        loadStyleSheet();
+        m_checkAll->refresh();
+        repaintViews();
+    });
+}
+
+// Pages ----------------------------------------------------------------------------------------
+
+PageChoice::Situation SDCardContentDataWidget::situation() const
+{
+    return {m_side == SearchSide, m_searchMode, m_scanFinished, m_filter, m_root};
+}
+
+void SDCardContentDataWidget::showLoadingPage(bool show)
+{
+    guarded(Q_FUNC_INFO, [this, show] {
+        if (show && !m_searchMode && m_scanFinished)
+            m_pages->show(Page::Loading);
+    });
+}
+
+void SDCardContentDataWidget::initScaningLottie()
+{
+    m_pages->animation()->initScaningLottie();
+}
+
+void SDCardContentDataWidget::startScanAnimation()
+{
+    m_pages->animation()->start();
+}
+
+void SDCardContentDataWidget::stopScanAnimation()
+{
+    m_pages->animation()->stop();
+}
+
+void SDCardContentDataWidget::setViewMode(int mode)
+{
+    if (mode == m_viewMode)
+        return;
+    guarded(Q_FUNC_INFO, [this, mode] {
+        m_viewMode = mode;
+        const bool grid = mode == GridMode;
+        const bool pane = mode == ListWithDetailMode;
+        ui->headerViewFrame->setVisible(grid);
+        ui->listView->setVisible(grid);
+        m_table->setVisible(!grid);
+        ui->spaceframe->setVisible(grid || pane);
+        ui->vlineframe->setVisible(pane);
+        ui->itemDetailframe->setVisible(pane);
+        showHeaders();
+        m_overlay->sync();
+    });
+}
+
+void SDCardContentDataWidget::showHeaders()
+{
+    // The table brings its own header: the container for one stays empty.
+    const bool rows = m_model->rowCount() > 0;
+    ui->iconModeHederView->setVisible(rows && m_viewMode == GridMode);
+    ui->listModeHeaderView->setVisible(rows && m_viewMode != GridMode);
+}
+
+void SDCardContentDataWidget::repaintViews()
+{
+    ui->listView->viewport()->update();
+    m_table->viewport()->update();
+}
+
+QAbstractItemView *SDCardContentDataWidget::viewInUse() const
+{
+    if (m_viewMode == GridMode)
+        return ui->listView;
+    return m_table;
+}
+
+void SDCardContentDataWidget::setScanState(int state)
+{
+    guarded(Q_FUNC_INFO, [this, state] {
+        switch (state) {
+        case Started:
+            setViewMode(GridMode);
+            m_pages->show(Page::Scanning);
+            ui->animationframe->show();
+            m_scanFinished = false;
+            m_gridDelegate->setAssessmentFinished(false);
+            m_pages->applyFonts();
+            break;
+        case Finished: {
+            repaintViews();
+            m_scanFinished = true;
+            const Page page = PageChoice::forFinishedScan(situation(), m_pages->current());
+            if (page != m_pages->current())
+                m_pages->show(page);
+            m_gridDelegate->setAssessmentFinished(true);
+            break;
+        }
+        case AnimationStopped:
+            stopScanAnimation();
+            break;
+        default:
+            break;
+        }
+    });
+}
+
+void SDCardContentDataWidget::setScanFinished(bool finished)
+{
+    if (finished == m_scanFinished)
+        return;
+    m_scanFinished = finished;
+    m_gridDelegate->setAssessmentFinished(finished);
+    repaintViews();
+}
+
+void SDCardContentDataWidget::setSearchMode(bool searchMode)
+{
+    m_searchMode = searchMode;
+}
+
+void SDCardContentDataWidget::setFilterCondition(FilterCondition *condition)
+{
+    m_filter = condition;
+}
+
+// Results --------------------------------------------------------------------------------------
+
+void SDCardContentDataWidget::updateData(TreeItemData *root, const QString &keyword)
+{
+    const QPointer<TreeItemData> guardedRoot(root);
+    if (!guardedRoot)
+        return;
+    guarded(Q_FUNC_INFO, [&] {
+        qDebug() << "SDCardContentDataWidget updateData itemCount = "
+                 << root->childFolders.size() + root->childFiles.size();
+        m_gridDelegate->setSearchKeyword(keyword);
+        m_root = root;
+
+        const Page page = PageChoice::forTree(situation());
+        if (page == Page::Results || m_side == SearchSide)
+            setCheckAllState(root->checkState);
+        giveToModel(root);
+        m_pages->show(page);
+        showHeaders();
+
+        if (m_model->rowCount() > 0)
+            m_current->restore(*root);
+        else
+            m_current->forget();
+    });
+}
+
+void SDCardContentDataWidget::giveToModel(TreeItemData *root)
+{
+    const bool sameTree = m_current->belongsTo(*root) && m_model->rowCount() > 0;
+    if (sameTree)
+        m_memory.capture(*ui->listView, *m_model);
+    m_model->openFolder(root);
+    if (sameTree)
+        m_memory.restore(*ui->listView, *m_model);
+    else
+        ui->listView->scrollToTop();
+}
+
+void SDCardContentDataWidget::reset()
+{
+    guarded(Q_FUNC_INFO, [this] {
+        m_scanFinished = false;
+        m_gridDelegate->setAssessmentFinished(false);
+        m_thumbnails->clear();
+        m_model->clear();
+        m_model->clearSort();
+        showHeaders();
+        m_current->forget();
+        m_root = nullptr;
+        setCheckAllState(Qt::Unchecked);
+        m_pages->show(Page::Results);
+    });
+}
+
+void SDCardContentDataWidget::locateFileId(qint64 fileId)
+{
+    if (fileId >= 0)
+        locate(m_model->rowOfFileId(fileId));
+}
+
+void SDCardContentDataWidget::locateSecondaryId(qint64 id)
+{
+    if (id >= 0)
+        locate(m_model->rowOfSecondaryId(id));
+}
+
+void SDCardContentDataWidget::locate(int row)
+{
+    const QModelIndex index = m_model->index(row, 0);
+    if (!index.isValid())
+        return;
+    viewInUse()->setCurrentIndex(index);
+    viewInUse()->scrollTo(index, QAbstractItemView::PositionAtCenter);
+    m_current->save(index);
+}
+
+QList<TreeItemData *> SDCardContentDataWidget::selectedItems() const
+{
+    QModelIndexList indexes;
+    if (m_viewMode != GridMode) {
+        indexes = m_table->selectionModel()->selectedRows();
+    } else {
+        indexes = ui->listView->selectionModel()->selectedIndexes();
+        const QModelIndexList marked = m_gridDelegate->markedIndexes();
+        if (indexes.size() <= 1 && marked.size() > indexes.size())
+            indexes = marked;
+    }
+    QList<TreeItemData *> items;
+    items.reserve(indexes.size());
+    for (const QModelIndex &index : qAsConst(indexes)) {
+        if (TreeItemData *item = m_model->itemAt(index))
+            items.append(item);
+    }
+    return items;
+}
+
+// Checks ---------------------------------------------------------------------------------------
+
+void SDCardContentDataWidget::setCheckAllState(int state)
+{
+    m_checkAll->setState(state);
+}
+
+void SDCardContentDataWidget::checkAll(Qt::CheckState state)
+{
+    guarded(Q_FUNC_INFO, [this, state] {
+        if (!m_root)
+            return;
+        m_root->checkState = state;
+        m_model->setAllCheckStates(state);
+        repaintViews();
+        if (m_searchMode)
+            emit signalSearchSelectAllChecked(state);
+        else
+            emit signalItemDataCheck(m_root, state);
+    });
+}
+
+void SDCardContentDataWidget::refreshCheckState()
+{
+    guarded(Q_FUNC_INFO, [this] {
+        m_model->refreshCheckStates();
+        repaintViews();
+        if (m_root)
+            setCheckAllState(m_root->checkState);
+    });
+}
+
+void SDCardContentDataWidget::refreshCheckAllState()
+{
+    guarded(Q_FUNC_INFO, [this] {
+        if (m_root)
+            setCheckAllState(CheckToggle::ofChildren(*m_root));
+    });
+}
+
+void SDCardContentDataWidget::onCheckChanged(const QModelIndex &index, Qt::CheckState state)
+{
+    if (TreeItemData *item = m_model->itemAt(index))
+        emit signalItemDataCheck(item, state);
+}
+
+void SDCardContentDataWidget::toggleSelectedChecks()
+{
+    QModelIndexList indexes = viewInUse()->selectionModel()->selectedIndexes();
+    if (indexes.isEmpty() && m_current->index().isValid())
+        indexes = {m_current->index()};
+    const CheckToggle::Result toggled = CheckToggle::toggle(*m_model, indexes);
+    for (const auto &item : toggled.items) {
+        if (item) // a slot of the host may have replaced the tree
+            emit signalItemDataCheck(item, toggled.state);
+    }
+}
+
+// What the user does ---------------------------------------------------------------------------
+
+void SDCardContentDataWidget::onPressed(const QModelIndex &index)
+{
+    if (!index.isValid()) {
+        qDebug() << "listview pressed index is not valid";
+        return;
+    }
+    ui->listView->viewport()->update();
+    m_current->save(index);
+}
+
+void SDCardContentDataWidget::onSelectionChanged(const QItemSelection &selected)
+{
+    const QModelIndexList indexes = ui->listView->selectionModel()->selectedIndexes();
+    if (indexes.size() > 1) {
+        m_gridDelegate->setMarkedIndexes(indexes);
+        qDebug() << "selectionChanged:" << indexes.size();
+    }
+    qDebug() << "selected.indexes() :" << selected.indexes().size();
+}
+
+void SDCardContentDataWidget::onMultiSelectEvent()
+{
+    const QModelIndexList indexes = ui->listView->selectionModel()->selectedIndexes();
+    m_gridDelegate->setMarkedIndexes(indexes);
+    qDebug() << "signalMutilSelectEvent:" << indexes.size();
+}
+
+void SDCardContentDataWidget::onThumbnailArrived(qint64 fileId)
+{
+    ui->listView->repaintMatching(FileIdRole, fileId);
+    if (m_table->isVisible())
+        m_table->viewport()->update();
+}
+
+void SDCardContentDataWidget::openIndex(const QModelIndex &index, const QString &source)
+{
+    guarded(Q_FUNC_INFO, [&] {
+        const QPointer<TreeItemData> item = m_model->itemAt(index);
+        if (!item)
+            return;
+        const bool entered = source == QLatin1String("double_click")
+            && item->kind == ItemKind::Folder
+            && !(item->childFolders.isEmpty() && item->childFiles.isEmpty());
+        if (entered)
+            updateData(item, QString());
+        if (item)
+            emit signalDoubleClicked(item, source);
+    });
+}
+
+bool SDCardContentDataWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == ui->listView) {
+        switch (event->type()) {
+        case QEvent::KeyPress:
+            if (handleKey(static_cast<QKeyEvent *>(event)->key()))
+                return true;
+            break;
+        case QEvent::Resize:
+        case QEvent::Show:
+        case QEvent::Hide:
+            // After the view has taken its new size.
+            QMetaObject::invokeMethod(m_overlay, &OverlayScrollBar::sync, Qt::QueuedConnection);
+            break;
+        default:
+            break;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool SDCardContentDataWidget::handleKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Space:
+        toggleSelectedChecks();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        openIndex(ui->listView->currentIndex(), QStringLiteral("double_click"));
+        return true;
+    default:
+        return false;
+    }
+}

@@ -1,0 +1,132 @@
+#pragma once
+
+#include "common/themetype.h"
+#include "content/pagechoice.h"
+#include "content/viewmemory.h"
+#include "model/headerviewsorttype.h"
+#include "platform/item/treeitemdata.h"
+
+#include <QItemSelection>
+#include <QPointer>
+#include <QVariantMap>
+#include <QWidget>
+
+#include <memory>
+
+class CheckAll;
+class ContentPages;
+class CurrentItem;
+class IconDelegate;
+class OverlayScrollBar;
+class ScanDataModel;
+class ScanTableView;
+class QAbstractItemView;
+class ThumbnailRequests;
+struct FilterCondition;
+
+namespace Ui {
+class SDCardContentDataWidgetClass;
+}
+
+/// The content area of one side: the pages, the grid and the table over one model, select-all and
+/// the current item. Owns all that it shows; the records and the filter are the host's, and a
+/// record may die between two calls. Failures are logged and stay here. GUI thread.
+class SDCardContentDataWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SDCardContentDataWidget(int side, QWidget *parent = nullptr);
+    ~SDCardContentDataWidget() override;
+
+    /// Shows the children of \a root; \a keyword is marked in the names. A null root changes
+    /// nothing. Selection, current item and scroll position stay with their items when it is the
+    /// tree that is shown already.
+    void updateData(TreeItemData *root, const QString &keyword);
+    /// 0 grid, 1 list with detail pane, 2 list.
+    void setViewMode(int mode);
+    /// 1 started, 4 finished, 5 stop the animation.
+    void setScanState(int state);
+    bool scanFinished() const { return m_scanFinished; }
+    void setScanFinished(bool finished);
+    void setSearchMode(bool searchMode);
+    void reset();
+    void showLoadingPage(bool show);
+    /// Stays the caller's; must outlive its use here or be replaced.
+    void setFilterCondition(FilterCondition *condition);
+
+    void initScaningLottie();
+    void startScanAnimation();
+    void stopScanAnimation();
+
+    void setCheckAllState(int state);
+    /// The host has changed check states: shows them, and the root's on the select-all control.
+    void refreshCheckState();
+    /// The state of select-all from the states of the root's children.
+    void refreshCheckAllState();
+    void locateFileId(qint64 fileId);
+    void locateSecondaryId(qint64 id);
+    QList<TreeItemData *> selectedItems() const;
+
+    void updateTheme(THEMETYPE theme);
+    void retranslate();
+
+signals:
+    void signalDoubleClicked(TreeItemData *itemData, QString source);
+    void signalItemDataCheck(TreeItemData *itemData, Qt::CheckState state);
+    void signalSearchSelectAllChecked(Qt::CheckState state);
+    void signalSortClicked(TreeItemData *itemData, HeaderViewSortType sortType);
+    void signalScanViewShowTooltip(QString tooltip);
+    void signalQueryMoreData(TreeItemData *itemData);
+    void signalRightMenuRecover(TreeItemData *itemData);
+    void signalGetThumPixmap(TreeItemData *itemData);
+    void signalGetMetaData(TreeItemData *itemData);
+    void signalLocateFile(TreeItemData *itemData);
+    void signalSensorsData(QString action, QVariantMap map);
+    void signalCurrentItemChanged(TreeItemData *itemData);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void createViews();
+    void connectViews();
+    void connectThumbnails();
+    void loadStyleSheet();
+
+    PageChoice::Situation situation() const;
+    void showHeaders();
+    void repaintViews();
+
+    void giveToModel(TreeItemData *root);
+    void locate(int row);
+
+    void onPressed(const QModelIndex &index);
+    void onSelectionChanged(const QItemSelection &selected);
+    void onMultiSelectEvent();
+    void onCheckChanged(const QModelIndex &index, Qt::CheckState state);
+    void onThumbnailArrived(qint64 fileId);
+    void openIndex(const QModelIndex &index, const QString &source);
+    void checkAll(Qt::CheckState state);
+    void toggleSelectedChecks();
+    bool handleKey(int key);
+    QAbstractItemView *viewInUse() const;
+
+    std::unique_ptr<Ui::SDCardContentDataWidgetClass> ui;
+    ScanDataModel *m_model = nullptr;
+    IconDelegate *m_gridDelegate = nullptr;
+    ScanTableView *m_table = nullptr;
+    OverlayScrollBar *m_overlay = nullptr;
+    ContentPages *m_pages = nullptr;
+    CheckAll *m_checkAll = nullptr;
+    CurrentItem *m_current = nullptr;
+    ThumbnailRequests *m_thumbnails = nullptr;
+    FilterCondition *m_filter = nullptr;
+    QPointer<TreeItemData> m_root;
+    ViewMemory m_memory;
+    int m_viewMode = 0;
+    const int m_side;
+    bool m_searchMode = false;
+    bool m_scanFinished = false;
+};

@@ -1,0 +1,323 @@
+#include "content/sdcardcontentdatawidget.h"
+#include "content/thumbnailgrid.h"
+#include "model/scandatamodel.h"
+#include "support/recordtree.h"
+
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+using Content = SDCardContentDataWidget;
+
+class TestContentWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { qRegisterMetaType<Qt::CheckState>("Qt::CheckState"); }
+    void growthDisturbsNothing_data();
+    void growthDisturbsNothing();
+    void anotherTreeStartsAtItsFirstItem();
+    void itemThatLeftHandsOverToItsNeighbour();
+    void deadRecordsAreNeitherShownNorTouched();
+    void rootMayDieAtAnyTime();
+    void checkAllToggles_data();
+    void checkAllToggles();
+    void spaceTogglesTheSelection();
+    void checkBoxClickReachesTheHost();
+    void doubleClickOpens();
+    void bottomAsksForMoreOnlyWhenMoreExists();
+    void locateMakesCurrentAndVisible();
+
+private:
+    static ThumbnailGrid *gridOf(Content &widget) { return widget.findChild<ThumbnailGrid *>(); }
+    static QAbstractItemModel *modelOf(Content &widget) { return gridOf(widget)->model(); }
+    static TreeItemData *itemAt(Content &widget, int row)
+    {
+        return static_cast<TreeItemData *>(modelOf(widget)->index(row, 0).internalPointer());
+    }
+    static void show(Content &widget)
+    {
+        widget.resize(700, 500);
+        widget.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    }
+};
+
+void TestContentWidget::growthDisturbsNothing_data()
+{
+    QTest::addColumn<bool>("sorted");
+    QTest::newRow("host order") << false;
+    QTest::newRow("sorted by name, descending") << true;
+}
+
+void TestContentWidget::growthDisturbsNothing()
+{
+    QFETCH(bool, sorted);
+    RecordTree tree;
+    tree.addFiles(400, QStringLiteral("m%1.jpg"));
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    ThumbnailGrid *grid = gridOf(widget);
+    if (sorted)
+        modelOf(widget)->sort(ScanDataModel::NameColumn, Qt::DescendingOrder);
+
+    grid->verticalScrollBar()->setValue(grid->verticalScrollBar()->maximum() / 2 + 17);
+    const int top = grid->visibleRows().first;
+    const auto rowIndex = [&](int row) { return modelOf(widget)->index(row, 0); };
+    grid->selectionModel()->select(rowIndex(top + 2), QItemSelectionModel::Select);
+    grid->selectionModel()->select(rowIndex(top + 5), QItemSelectionModel::Select);
+    grid->selectionModel()->setCurrentIndex(rowIndex(top + 5), QItemSelectionModel::NoUpdate);
+    const TreeItemData *topItem = itemAt(widget, top);
+    const QRect topRect = grid->visualRect(rowIndex(top));
+    QList<TreeItemData *> selected = widget.selectedItems();
+    QCOMPARE(selected.size(), 2);
+    QSignalSpy current(&widget, &Content::signalCurrentItemChanged);
+
+    for (int i = 0; i < 5; ++i) {
+        tree.addFiles(37, QStringLiteral("z%1.jpg")); // before all others when descending
+        widget.updateData(&tree.root, QString());
+    }
+
+    QCOMPARE(modelOf(widget)->rowCount(), 400 + 5 * 37);
+    QCOMPARE(current.count(), 0);
+    QList<TreeItemData *> after = widget.selectedItems();
+    std::sort(selected.begin(), selected.end());
+    std::sort(after.begin(), after.end());
+    QCOMPARE(after, selected);
+    QCOMPARE(static_cast<TreeItemData *>(grid->currentIndex().internalPointer())->fileId,
+             (sorted ? 400 - 1 - (top + 5) : top + 5));
+    bool found = false;
+    for (int row = grid->visibleRows().first; row <= grid->visibleRows().second; ++row) {
+        if (itemAt(widget, row) == topItem) {
+            found = true;
+            QCOMPARE(grid->visualRect(rowIndex(row)).top(), topRect.top());
+        }
+    }
+    QVERIFY(found);
+}
+
+void TestContentWidget::anotherTreeStartsAtItsFirstItem()
+{
+    RecordTree first;
+    first.addFiles(300);
+    RecordTree second;
+    second.root.secondaryId = 2;
+    second.addFiles(300);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&first.root, QString());
+    gridOf(widget)->verticalScrollBar()->setValue(900);
+    gridOf(widget)->selectAll();
+    QSignalSpy current(&widget, &Content::signalCurrentItemChanged);
+    widget.updateData(&second.root, QString());
+
+    QCOMPARE(gridOf(widget)->verticalScrollBar()->value(), 0);
+    QVERIFY(widget.selectedItems().isEmpty());
+    QCOMPARE(current.count(), 1);
+    QCOMPARE(current.first().first().value<TreeItemData *>(), second.root.childFiles.first());
+}
+
+void TestContentWidget::itemThatLeftHandsOverToItsNeighbour()
+{
+    RecordTree tree;
+    tree.addFiles(10);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    gridOf(widget)->setCurrentIndex(modelOf(widget)->index(9, 0));
+    tree.root.childFiles.removeLast();
+    tree.root.itemCount = 9;
+    widget.updateData(&tree.root, QString());
+    QCOMPARE(gridOf(widget)->currentIndex().row(), 8);
+    tree.clear();
+    QSignalSpy current(&widget, &Content::signalCurrentItemChanged);
+    widget.updateData(&tree.root, QString());
+    QCOMPARE(current.count(), 1);
+    QVERIFY(!current.first().first().value<TreeItemData *>());
+}
+
+void TestContentWidget::deadRecordsAreNeitherShownNorTouched()
+{
+    RecordTree tree;
+    tree.addFiles(30);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    gridOf(widget)->selectAll();
+    const QList<TreeItemData *> files = tree.root.childFiles;
+    for (int i = 0; i < 30; i += 3)
+        tree.kill(files.at(i));
+    widget.grab();
+    QCOMPARE(widget.selectedItems().size(), 20);
+    const QRect cell(gridOf(widget)->visualRect(modelOf(widget)->index(1, 0)));
+    for (int x = 0; x < 600; x += 40)
+        QTest::mouseMove(gridOf(widget)->viewport(), QPoint(x, cell.center().y()));
+    QTest::keyClick(gridOf(widget), Qt::Key_Space);
+    widget.refreshCheckState();
+    widget.grab();
+    QCOMPARE(files.at(1)->checkState, int(Qt::Checked));
+}
+
+void TestContentWidget::rootMayDieAtAnyTime()
+{
+    Content widget(1);
+    show(widget);
+    {
+        RecordTree tree;
+        tree.addFiles(5);
+        widget.updateData(&tree.root, QString());
+    }
+    widget.grab();
+    QTest::mouseClick(widget.findChild<QPushButton *>(QStringLiteral("allCheckButton")),
+                      Qt::LeftButton);
+    widget.refreshCheckState();
+    widget.refreshCheckAllState();
+    widget.setScanState(4);
+    widget.setViewMode(2);
+    widget.setViewMode(0);
+    QVERIFY(widget.selectedItems().isEmpty());
+}
+
+void TestContentWidget::checkAllToggles_data()
+{
+    QTest::addColumn<bool>("searchMode");
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    QTest::newRow("unchecked") << false << 0 << 2;
+    QTest::newRow("partial becomes checked") << false << 1 << 2;
+    QTest::newRow("checked") << false << 2 << 0;
+    QTest::newRow("search") << true << 1 << 2;
+}
+
+void TestContentWidget::checkAllToggles()
+{
+    QFETCH(bool, searchMode);
+    QFETCH(int, before);
+    QFETCH(int, after);
+    RecordTree tree;
+    tree.addFiles(4);
+    Content widget(2);
+    show(widget);
+    widget.setSearchMode(searchMode);
+    tree.root.checkState = before;
+    widget.updateData(&tree.root, QString());
+    QSignalSpy item(&widget, &Content::signalItemDataCheck);
+    QSignalSpy search(&widget, &Content::signalSearchSelectAllChecked);
+    QSignalSpy changed(modelOf(widget), &QAbstractItemModel::dataChanged);
+    QTest::mouseClick(widget.findChild<QPushButton *>(QStringLiteral("allCheckButton")),
+                      Qt::LeftButton);
+    for (const TreeItemData *file : qAsConst(tree.root.childFiles))
+        QCOMPARE(file->checkState, after);
+    QCOMPARE(tree.root.checkState, after);
+    QCOMPARE(item.count(), searchMode ? 0 : 1);
+    QCOMPARE(search.count(), searchMode ? 1 : 0);
+    QCOMPARE(changed.count(), 1);
+}
+
+void TestContentWidget::spaceTogglesTheSelection()
+{
+    RecordTree tree;
+    tree.addFiles(6);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    ThumbnailGrid *grid = gridOf(widget);
+    grid->selectAll();
+    tree.root.childFiles.at(2)->checkState = Qt::Checked;
+    QSignalSpy checks(&widget, &Content::signalItemDataCheck);
+    QTest::keyClick(grid, Qt::Key_Space);
+    for (const TreeItemData *file : qAsConst(tree.root.childFiles))
+        QCOMPARE(file->checkState, int(Qt::Checked));
+    QCOMPARE(checks.count(), 6);
+    QTest::keyClick(grid, Qt::Key_Space);
+    for (const TreeItemData *file : qAsConst(tree.root.childFiles))
+        QCOMPARE(file->checkState, int(Qt::Unchecked));
+}
+
+void TestContentWidget::checkBoxClickReachesTheHost()
+{
+    RecordTree tree;
+    tree.addFiles(6);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    ThumbnailGrid *grid = gridOf(widget);
+    QSignalSpy checks(&widget, &Content::signalItemDataCheck);
+    const QRect cell = grid->visualRect(modelOf(widget)->index(1, 0));
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, cell.topLeft() + QPoint(16, 16));
+    QCOMPARE(checks.count(), 1);
+    QCOMPARE(checks.first().first().value<TreeItemData *>(), tree.root.childFiles.at(1));
+    QCOMPARE(tree.root.childFiles.at(1)->checkState, int(Qt::Checked));
+}
+
+void TestContentWidget::doubleClickOpens()
+{
+    RecordTree tree;
+    TreeItemData *folder = tree.addFolder(QStringLiteral("DCIM"));
+    tree.addFile(QStringLiteral("inside.jpg"), folder);
+    tree.addFolder(QStringLiteral("EMPTY"));
+    tree.addFile(QStringLiteral("top.jpg"));
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    ThumbnailGrid *grid = gridOf(widget);
+    QSignalSpy opened(&widget, &Content::signalDoubleClicked);
+    const auto doubleClick = [&](int row) {
+        const QPoint pos = grid->visualRect(modelOf(widget)->index(row, 0)).center();
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, pos + QPoint(0, 40));
+        QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, pos + QPoint(0, 40));
+    };
+    doubleClick(2);
+    QCOMPARE(opened.count(), 1);
+    QCOMPARE(modelOf(widget)->rowCount(), 3);
+    doubleClick(1);
+    QCOMPARE(opened.count(), 2);
+    QCOMPARE(modelOf(widget)->rowCount(), 3);
+    doubleClick(0);
+    QCOMPARE(opened.count(), 3);
+    QCOMPARE(opened.last().at(1).toString(), QStringLiteral("double_click"));
+    QCOMPARE(modelOf(widget)->rowCount(), 1);
+}
+
+void TestContentWidget::bottomAsksForMoreOnlyWhenMoreExists()
+{
+    RecordTree tree;
+    tree.addFiles(200);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    QSignalSpy more(&widget, &Content::signalQueryMoreData);
+    QScrollBar *bar = gridOf(widget)->verticalScrollBar();
+    QVERIFY(bar->maximum() > 0);
+    bar->setValue(bar->maximum());
+    QCOMPARE(more.count(), 0);
+    tree.root.itemCount = 500;
+    bar->setValue(bar->maximum() - 1);
+    QCOMPARE(more.count(), 0);
+    bar->setValue(bar->maximum());
+    QCOMPARE(more.count(), 1);
+}
+
+void TestContentWidget::locateMakesCurrentAndVisible()
+{
+    RecordTree tree;
+    tree.addFiles(500);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    QSignalSpy current(&widget, &Content::signalCurrentItemChanged);
+    widget.locateFileId(321);
+    QCOMPARE(gridOf(widget)->currentIndex().row(), 321);
+    const auto visible = gridOf(widget)->visibleRows();
+    QVERIFY(visible.first <= 321 && 321 <= visible.second);
+    QCOMPARE(current.count(), 1);
+    widget.locateFileId(-1);
+    widget.locateSecondaryId(77);
+    QCOMPARE(gridOf(widget)->currentIndex().row(), 321);
+}
+
+QTEST_MAIN(TestContentWidget)
+#include "tst_contentwidget.moc"
