@@ -44,5 +44,4 @@ public:
     virtual QList<TreeItemData *> getSelectedItems(int side) = 0;
 };
 
-Q_DECLARE_INTERFACE(SDCardScanContentPluginInterface,
-                    "com.Quarvo.SDCardScanContentPluginInterface")
+Q_DECLARE_INTERFACE(SDCardScanContentPluginInterface, "com.Quarvo.SDCardScanContentPluginInterface")
