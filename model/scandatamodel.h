@@ -46,7 +46,7 @@ public:
 
     /// To put selection and scroll position back after a reset:
     /// How many of the first rows show the same records as before the last openFolder(): row
-    /// numbers below it still hold. Counts from 0 after clear().
+    /// numbers below it still hold. Never too many; all of them when the folder has only grown.
     int unchangedPrefix() const { return m_unchangedPrefix; }
     /// Row of a record, -1 when it is not listed. \a item is compared, never read: it may be dead.
     int rowOf(const TreeItemData *item) const;

@@ -1,0 +1,542 @@
+#include "model/scandatamodel.h"
+
+#include <QAbstractItemModelTester>
+#include <QIcon>
+#include <QIdentityProxyModel>
+#include <QItemSelectionModel>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+namespace {
+
+constexpr int FolderKind = 1;
+constexpr int FileKind = 2;
+
+/// The model says the same of every parent, as its contract has it; the tester wants a flat model.
+class FlatProxy : public QIdentityProxyModel {
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+    int rowCount(const QModelIndex &parent) const override
+    {
+        return parent.isValid() ? 0 : QIdentityProxyModel::rowCount(parent);
+    }
+    bool hasChildren(const QModelIndex &parent) const override { return rowCount(parent) > 0; }
+};
+
+/// A folder of a host whose records die, and whose new ones take the places in memory of dead ones.
+class Host {
+public:
+    ~Host()
+    {
+        for (TreeItemData *record : qAsConst(m_alive))
+            record->~TreeItemData();
+    }
+
+    TreeItemData *make(int kind)
+    {
+        if (m_free.empty())
+            m_slots.push_back(std::make_unique<Slot>());
+        void *place = m_free.empty() ? m_slots.back().get() : m_free.back();
+        if (!m_free.empty())
+            m_free.pop_back();
+        auto *record = new (place) TreeItemData;
+        record->kind = kind;
+        record->fileId = m_nextId++;
+        record->secondaryId = 10 * record->fileId;
+        record->name = QString::number(m_random.bounded(40), 16).toUpper();
+        record->fileSize = m_random.bounded(30);
+        record->parent = &root;
+        m_alive.append(record);
+        return record;
+    }
+    TreeItemData *addFile()
+    {
+        root.childFiles.append(make(FileKind));
+        return root.childFiles.constLast();
+    }
+    TreeItemData *addFolder()
+    {
+        root.childFolders.append(make(FolderKind));
+        return root.childFolders.constLast();
+    }
+    void destroy(TreeItemData *record)
+    {
+        root.childFiles.removeAll(record);
+        root.childFolders.removeAll(record);
+        kill(record);
+    }
+    /// Without telling anyone: the lists still hold the pointer.
+    void kill(TreeItemData *record)
+    {
+        m_alive.removeAll(record);
+        record->~TreeItemData();
+        m_free.push_back(record);
+    }
+    QList<TreeItemData *> children() const { return root.childFolders + root.childFiles; }
+    const QList<TreeItemData *> &alive() const { return m_alive; }
+    QRandomGenerator &random() { return m_random; }
+
+    TreeItemData root;
+
+private:
+    struct alignas(TreeItemData) Slot {
+        unsigned char bytes[sizeof(TreeItemData)];
+    };
+    QRandomGenerator m_random{7};
+    qint64 m_nextId = 1;
+    QList<TreeItemData *> m_alive;
+    std::vector<std::unique_ptr<Slot>> m_slots;
+    std::vector<void *> m_free;
+};
+
+QVector<qint64> idsOf(const ScanDataModel &model)
+{
+    QVector<qint64> ids;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const TreeItemData *const item = model.itemAt(row);
+        ids.append(item ? item->fileId : -1);
+    }
+    return ids;
+}
+
+} // namespace
+
+class tst_ScanDataModel : public QObject {
+    Q_OBJECT
+
+private slots:
+    void opening_data();
+    void opening();
+    void foldersFirst();
+    void rootTypeOfTheTop();
+    void keepsTheContract();
+    void growthIsLikeOpeningAnew();
+    void deadRecordSaysNothing();
+    void sameAddressAnotherRecord();
+    void implausibleChildren();
+    void roles();
+    void setDataWritesCheckStatesOnly();
+    void checkAllAnnouncesOneRange();
+    void selectionFollowsASort();
+    void chosenSortIsKept();
+    void clearSortKeepsTheRows();
+    void rowsOfRecords();
+    void decoration();
+    void folderDiesWhileOpened();
+};
+
+void tst_ScanDataModel::opening_data()
+{
+    QTest::addColumn<qint64>("itemCount");
+    QTest::addColumn<qint64>("extraCount");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("known count") << qint64(1) << qint64(0) << 1;
+    QTest::newRow("count 0") << qint64(0) << qint64(0) << 1;
+    QTest::newRow("nothing known") << qint64(-1) << qint64(0) << 0;
+    QTest::newRow("second count known") << qint64(-1) << qint64(1) << 1;
+}
+
+void tst_ScanDataModel::opening()
+{
+    QFETCH(qint64, itemCount);
+    QFETCH(qint64, extraCount);
+    Host host;
+    host.addFile();
+    host.root.itemCount = itemCount;
+    host.root.extraCount = extraCount;
+    ScanDataModel model;
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    model.openFolder(&host.root);
+    QTEST(model.rowCount(), "rows");
+    QCOMPARE(resets.count(), model.rowCount());
+    model.openFolder(nullptr);
+    QTEST(model.rowCount(), "rows");
+}
+
+void tst_ScanDataModel::foldersFirst()
+{
+    Host host;
+    TreeItemData *const file = host.addFile();
+    TreeItemData *const folder = host.addFolder();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    QCOMPARE(model.itemAt(0), folder);
+    QCOMPARE(model.itemAt(1), file);
+    QCOMPARE(model.index(1, 4).internalPointer(), static_cast<void *>(file));
+    QVERIFY(!model.index(2, 0).isValid());
+    QVERIFY(!model.index(0, 5).isValid());
+    QCOMPARE(model.columnCount(), 5);
+}
+
+void tst_ScanDataModel::rootTypeOfTheTop()
+{
+    TreeItemData top;
+    top.rootType = 3;
+    Host host;
+    host.root.parent = &top;
+    host.root.rootType = 9;
+    host.addFile()->path = QStringLiteral("DCIM");
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    QCOMPARE(model.rootType(), 3);
+    QCOMPARE(model.index(0, ScanDataModel::PathColumn).data().toString(),
+             model.index(0, 0).data(PathTextRole).toString());
+    QCOMPARE(model.index(0, 0).data(PathTextRole).toString(), QStringLiteral("File lost location"));
+
+    top.parent = &host.root; // a ring
+    model.openFolder(&host.root);
+    QCOMPARE(model.rowCount(), 1);
+}
+
+void tst_ScanDataModel::keepsTheContract()
+{
+    Host host;
+    ScanDataModel model;
+    FlatProxy proxy;
+    proxy.setSourceModel(&model);
+    const QAbstractItemModelTester tester(&proxy,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    for (int i = 0; i < 30; ++i) {
+        host.addFile();
+        model.openFolder(&host.root);
+        model.sort(i % 5, i % 2 ? Qt::AscendingOrder : Qt::DescendingOrder);
+        model.setAllCheckStates(i % 3);
+        model.setData(model.index(i / 2, 0), 1, Qt::CheckStateRole);
+    }
+    model.clear();
+    QCOMPARE(model.rowCount(), 0);
+}
+
+void tst_ScanDataModel::growthIsLikeOpeningAnew()
+{
+    Host host;
+    ScanDataModel model;
+    QRandomGenerator &random = host.random();
+    for (int step = 0; step < 1500; ++step) {
+        const QList<TreeItemData *> &alive = host.alive();
+        bool hasOnlyGrown = true;
+        switch (random.bounded(12)) {
+        case 0:
+            host.addFolder();
+            break;
+        case 1:
+            hasOnlyGrown = false;
+            if (alive.size() > 60)
+                host.destroy(alive.at(random.bounded(alive.size())));
+            break;
+        case 2: // dies, and the newcomer is at its address and in its place
+            hasOnlyGrown = false;
+            if (!alive.isEmpty()) {
+                TreeItemData *const old = alive.at(random.bounded(alive.size()));
+                const int kind = old->kind;
+                host.kill(old);
+                QCOMPARE(host.make(kind), old);
+            }
+            break;
+        case 3:
+            model.sort(random.bounded(5),
+                       random.bounded(2) ? Qt::AscendingOrder : Qt::DescendingOrder);
+            break;
+        case 4:
+            model.clearSort();
+            break;
+        case 5:
+            host.root.childFiles.append(nullptr);
+            break;
+        default:
+            for (int count = random.bounded(4); count > 0; --count)
+                host.addFile();
+        }
+
+        const QVector<qint64> before = idsOf(model);
+        model.openFolder(&host.root);
+        const QVector<qint64> after = idsOf(model);
+
+        ScanDataModel fresh;
+        if (model.isSorted())
+            fresh.sort(model.sortRole() == SizeRole               ? ScanDataModel::SizeColumn
+                           : model.sortRole() == KindRole         ? ScanDataModel::TypeColumn
+                           : model.sortRole() == ModifiedTimeRole ? ScanDataModel::DateColumn
+                           : model.sortRole() == PathTextRole     ? ScanDataModel::PathColumn
+                                                                  : ScanDataModel::NameColumn,
+                       model.sortOrder());
+        fresh.openFolder(&host.root);
+        QCOMPARE(after, idsOf(fresh));
+        QCOMPARE(fresh.unchangedPrefix(), 0);
+        const int prefix = model.unchangedPrefix();
+        QVERIFY(prefix <= before.size() && prefix <= after.size());
+        QVERIFY(std::equal(after.begin(), after.begin() + prefix, before.begin()));
+        if (hasOnlyGrown && prefix < before.size() && prefix < after.size())
+            QVERIFY(before.at(prefix) != after.at(prefix) || after.at(prefix) < 0);
+    }
+    QVERIFY(model.rowCount() > 100);
+}
+
+void tst_ScanDataModel::deadRecordSaysNothing()
+{
+    Host host;
+    host.addFile();
+    TreeItemData *const doomed = host.addFile();
+    host.addFile();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    const QModelIndex held = model.index(1, 0);
+    const QPersistentModelIndex persistent = held;
+    host.kill(doomed);
+
+    QCOMPARE(model.rowCount(), 3);
+    QVERIFY(!model.index(1, 0).isValid());
+    QVERIFY(!model.itemAt(1));
+    for (int role = 0; role <= CountRole; ++role)
+        QVERIFY(!held.data(role).isValid());
+    QVERIFY(!model.setData(held, Qt::Checked, Qt::CheckStateRole));
+    model.setAllCheckStates(Qt::Checked);
+    model.sort(ScanDataModel::NameColumn);
+    QVERIFY(!model.itemAt(persistent.row()));
+    QCOMPARE(model.rowOf(doomed), -1);
+}
+
+void tst_ScanDataModel::sameAddressAnotherRecord()
+{
+    Host host;
+    TreeItemData *const first = host.addFile();
+    host.addFile();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    host.kill(first);
+    QCOMPARE(host.make(FileKind), first);
+    QVERIFY(!model.itemAt(0)); // not announced yet: nobody knows whether it belongs here
+    model.openFolder(&host.root);
+    QCOMPARE(model.itemAt(0), first);
+    QCOMPARE(model.unchangedPrefix(), 0);
+}
+
+void tst_ScanDataModel::implausibleChildren()
+{
+    Host host;
+    const quintptr values[] = {0,
+                               8,
+                               0xFFFF,
+                               ~quintptr(0) - 8,
+                               quintptr(0xCDCDCDCDCDCDCDCDull),
+                               quintptr(0xDDDDDDDDDDDDDDDDull)};
+    for (const quintptr value : values)
+        host.root.childFolders.append(reinterpret_cast<TreeItemData *>(value));
+    host.addFile();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    model.sort(ScanDataModel::SizeColumn, Qt::DescendingOrder);
+    model.openFolder(&host.root);
+    QCOMPARE(model.rowCount(), 7);
+    const QVector<int> rows = model.rowsOf(host.children().toVector());
+    QCOMPARE(rows.count(-1), 6);
+    model.openFolder(reinterpret_cast<TreeItemData *>(quintptr(0xDDDDDDDDDDDDDDDDull)));
+    QCOMPARE(model.rowCount(), 7);
+}
+
+void tst_ScanDataModel::roles()
+{
+    Host host;
+    TreeItemData *const folder = host.addFolder();
+    folder->folderSize = 7000;
+    folder->fileSize = 1;
+    folder->itemCount = 12;
+    folder->modifiedTime = 1700000000;
+    folder->checkState = Qt::PartiallyChecked;
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    const auto value = [&](int column, int role) { return model.index(0, column).data(role); };
+    QCOMPARE(value(0, Qt::DisplayRole), QVariant(folder->name));
+    QCOMPARE(value(2, Qt::DisplayRole), QVariant(QStringLiteral("folder")));
+    QCOMPARE(value(1, SizeRole), QVariant(qint64(7000)));
+    QCOMPARE(value(0, CountRole), QVariant(qint64(12)));
+    QCOMPARE(value(4, ModifiedTimeRole), QVariant(qint64(1700000000)));
+    QCOMPARE(value(0, KindRole), QVariant(1));
+    QCOMPARE(value(0, FileIdRole), QVariant(folder->fileId));
+    QCOMPARE(value(0, SecondaryIdRole), QVariant(folder->secondaryId));
+    QCOMPARE(value(3, Qt::CheckStateRole), QVariant(1));
+    QCOMPARE(value(1, Qt::TextAlignmentRole), QVariant(130));
+    QCOMPARE(value(0, Qt::TextAlignmentRole), QVariant(129));
+    QVERIFY(!value(0, Qt::ToolTipRole).isValid());
+    QVERIFY(!value(0, Qt::UserRole + 8).isValid());
+    QCOMPARE(model.flags(model.index(0, 0)), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    QCOMPARE(model.flags({}), Qt::NoItemFlags);
+    QCOMPARE(model.headerData(3, Qt::Horizontal, Qt::DisplayRole),
+             QVariant(QStringLiteral("date_modified")));
+    QVERIFY(!model.headerData(5, Qt::Horizontal, Qt::DisplayRole).isValid());
+    QVERIFY(!model.headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
+}
+
+void tst_ScanDataModel::setDataWritesCheckStatesOnly()
+{
+    Host host;
+    TreeItemData *const file = host.addFile();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+    const QModelIndex index = model.index(0, 0);
+    QVERIFY(!model.setData(index, 2, Qt::DisplayRole));
+    QVERIFY(!model.setData(index, QStringLiteral("yes"), Qt::CheckStateRole));
+    QVERIFY(!model.setData({}, 2, Qt::CheckStateRole));
+    QCOMPARE(file->checkState, 0);
+    QCOMPARE(changes.count(), 0);
+    QVERIFY(!model.setData(index, 2, Qt::CheckStateRole)); // written all the same
+    QCOMPARE(file->checkState, 2);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes.at(0).at(0).toModelIndex(), index);
+}
+
+void tst_ScanDataModel::checkAllAnnouncesOneRange()
+{
+    Host host;
+    for (int i = 0; i < 4; ++i)
+        host.addFile();
+    ScanDataModel model;
+    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+    model.setAllCheckStates(Qt::Checked);
+    QCOMPARE(changes.count(), 0);
+    model.openFolder(&host.root);
+    host.kill(host.root.childFiles.takeFirst());
+    host.kill(host.root.childFiles.takeLast());
+    model.setAllCheckStates(Qt::Checked);
+    QCOMPARE(changes.count(), 1);
+    const auto first = changes.at(0).at(0).toModelIndex();
+    const auto last = changes.at(0).at(1).toModelIndex();
+    QVERIFY(first.isValid() && last.isValid()); // though the records at both ends are dead
+    QCOMPARE(last.row() - first.row(), 3);
+    QCOMPARE(last.column() - first.column(), 4);
+    QCOMPARE(host.root.childFiles.constFirst()->checkState, 2);
+}
+
+void tst_ScanDataModel::selectionFollowsASort()
+{
+    Host host;
+    for (int i = 0; i < 200; ++i)
+        host.addFile();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    QItemSelectionModel selection(&model);
+    QSet<TreeItemData *> chosen;
+    for (int row = 0; row < 200; row += 7) {
+        selection.select(model.index(row, 0),
+                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        chosen.insert(model.itemAt(row));
+    }
+    selection.setCurrentIndex(model.index(42, 2), QItemSelectionModel::NoUpdate);
+    TreeItemData *const current = model.itemAt(42);
+    const int steps[] = {ScanDataModel::NameColumn, ScanDataModel::SizeColumn, 9};
+    for (const int column : steps) {
+        model.sort(column, Qt::DescendingOrder);
+        QSet<TreeItemData *> selected;
+        for (const QModelIndex &index : selection.selectedRows()) {
+            selected.insert(model.itemAt(index));
+            QCOMPARE(index.internalPointer(), static_cast<void *>(model.itemAt(index)));
+        }
+        QCOMPARE(selected, chosen);
+        QCOMPARE(model.itemAt(selection.currentIndex()), current);
+        QCOMPARE(selection.currentIndex().column(), 2);
+    }
+}
+
+void tst_ScanDataModel::chosenSortIsKept()
+{
+    Host host;
+    ScanDataModel model;
+    model.sort(ScanDataModel::SizeColumn, Qt::DescendingOrder); // chosen while there is nothing
+    for (int i = 0; i < 50; ++i) {
+        host.addFile();
+        host.addFolder();
+        bool isOrderedAtReset = false;
+        const auto connection = connect(&model, &QAbstractItemModel::modelReset, this, [&] {
+            isOrderedAtReset = true;
+            for (int row = 1; row < model.rowCount(); ++row) {
+                if (model.index(row - 1, 0).data(SizeRole).toLongLong()
+                    < model.index(row, 0).data(SizeRole).toLongLong())
+                    isOrderedAtReset = false;
+            }
+        });
+        model.openFolder(&host.root);
+        disconnect(connection);
+        QVERIFY(isOrderedAtReset);
+        host.root.childFolders.constFirst()->folderSize += 10; // folders grow as well
+    }
+}
+
+void tst_ScanDataModel::clearSortKeepsTheRows()
+{
+    Host host;
+    for (int i = 0; i < 30; ++i)
+        host.addFile();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    const QVector<qint64> asGiven = idsOf(model);
+    model.sort(ScanDataModel::NameColumn);
+    const QVector<qint64> sorted = idsOf(model);
+    QVERIFY(sorted != asGiven);
+    model.clearSort();
+    QCOMPARE(idsOf(model), sorted);
+    model.openFolder(&host.root);
+    QCOMPARE(idsOf(model), asGiven);
+}
+
+void tst_ScanDataModel::rowsOfRecords()
+{
+    Host host;
+    for (int i = 0; i < 30; ++i)
+        host.addFile();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    model.sort(ScanDataModel::NameColumn);
+    TreeItemData stranger;
+    const QVector<TreeItemData *> wanted = {model.itemAt(20), &stranger, model.itemAt(3), nullptr,
+                                            model.itemAt(20)};
+    QCOMPARE(model.rowsOf(wanted), QVector<int>({20, -1, 3, -1, 20}));
+    QCOMPARE(model.rowsOf({model.itemAt(5)}), QVector<int>({5}));
+    QCOMPARE(model.rowsOf({nullptr}), QVector<int>({-1}));
+    QCOMPARE(model.rowOfFileId(model.itemAt(4)->fileId), 4);
+    QCOMPARE(model.rowOfSecondaryId(model.itemAt(4)->secondaryId), 4);
+    QCOMPARE(model.rowOfFileId(-5), -1);
+}
+
+void tst_ScanDataModel::decoration()
+{
+    Host host;
+    TreeItemData *const item = host.addFolder();
+    ScanDataModel model;
+    model.openFolder(&host.root);
+    const auto icon = [&] { return model.index(0, 0).data(Qt::DecorationRole); };
+
+    item->path = QStringLiteral("/no/such");
+    item->name = QStringLiteral("folder");
+    QVERIFY(icon().canConvert<QIcon>());
+    QVERIFY(icon().value<QIcon>().isNull());
+    const QFileInfo here(QCoreApplication::applicationFilePath());
+    item->path = here.path();
+    item->name = here.fileName();
+    QVERIFY(icon().value<QIcon>().isNull());
+    item->path = QFileInfo(here.path()).path().replace(QLatin1Char('/'), QLatin1Char('\\'));
+    item->name = QFileInfo(here.path()).fileName();
+    const QIcon folder = icon().value<QIcon>();
+    QVERIFY(!folder.isNull());
+}
+
+void tst_ScanDataModel::folderDiesWhileOpened()
+{
+    ScanDataModel model;
+    Host host;
+    host.addFile();
+    model.openFolder(&host.root);
+    auto *const doomed = new TreeItemData;
+    doomed->childFiles.append(host.root.childFiles.constFirst());
+    connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, [doomed] { delete doomed; });
+    model.openFolder(doomed);
+    QCOMPARE(model.rowCount(), 0);
+}
+
+QTEST_MAIN(tst_ScanDataModel)
+#include "tst_scandatamodel.moc"
