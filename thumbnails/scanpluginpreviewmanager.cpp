@@ -134,8 +134,8 @@ void ScanPluginPreviewManager::requestThumbnail(TreeItemData *item)
 
 bool ScanPluginPreviewManager::isAnswered(qint64 fileId) const
 {
-    return m_gridCache.contains(fileId) || m_listCache.contains(fileId)
-        || m_nothingToShow.contains(fileId);
+    // a small picture alone is what is left of one that was given up: the large one comes back
+    return m_gridCache.contains(fileId) || m_nothingToShow.contains(fileId);
 }
 
 void ScanPluginPreviewManager::startWorker()

@@ -1,0 +1,157 @@
+#include "thumbnailfixture.h"
+#include "thumbnails/getthumbnailthread.h"
+#include "thumbnails/scanpluginpreviewmanager.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+/// A worker in a thread of its own, as the cache keeps one.
+class RunningWorker {
+public:
+    RunningWorker()
+        : worker(ScanPluginPreviewManager::instance())
+    {
+        worker.moveToThread(&thread);
+        QObject::connect(&thread, &QThread::started, &worker, &GetThumbnailThread::startThread);
+    }
+    ~RunningWorker() { join(); }
+
+    void join()
+    {
+        worker.pause();
+        thread.requestInterruption();
+        thread.quit();
+        thread.wait();
+    }
+
+    GetThumbnailThread worker;
+    QThread thread;
+};
+
+} // namespace
+
+class tst_GetThumbnailThread : public QObject {
+    Q_OBJECT
+
+private slots:
+    void queueing();
+    void missesComeInOrder();
+    void pauseEmptiesTheQueue();
+    void pauseWakesTheSleeper();
+    void pauseBeforeTheLoopBegins();
+    void endsInTheMiddleOfAPicture();
+
+private:
+    TemporaryRoot m_root;
+};
+
+void tst_GetThumbnailThread::queueing()
+{
+    GetThumbnailThread worker(ScanPluginPreviewManager::instance());
+    Photo photo(1);
+    Photo other(1);
+    QVERIFY(!worker.enqueue(nullptr));
+    QVERIFY(worker.enqueue(&photo));
+    QVERIFY(!worker.enqueue(&photo));
+    QVERIFY(worker.enqueue(&other));
+    photo.fileId = 2; // as if another record had come to live at the address
+    QVERIFY(worker.enqueue(&photo));
+    worker.pause();
+    QVERIFY(worker.enqueue(&other));
+}
+
+void tst_GetThumbnailThread::missesComeInOrder()
+{
+    RunningWorker running;
+    QVector<qint64> misses;
+    QVector<TreeItemData *> wanted;
+    connect(&running.worker, &GetThumbnailThread::signalLocalThumbnailMiss, this,
+            [&](qint64 id) { misses.append(id); });
+    connect(&running.worker, &GetThumbnailThread::signalSaveThumbnail, this,
+            [&](TreeItemData *item) { wanted.append(item); });
+    Photo first(11);
+    Photo folder(12);
+    folder.kind = 1;
+    auto dying = std::make_unique<Photo>(13);
+    const QVector<TreeItemData *> files = {&first, dying.get()};
+    for (TreeItemData *item :
+         {static_cast<TreeItemData *>(&first), static_cast<TreeItemData *>(&folder),
+          static_cast<TreeItemData *>(dying.get())})
+        QVERIFY(running.worker.enqueue(item));
+    dying.reset(); // its queued copy is all that is looked at
+    running.thread.start();
+    QTRY_COMPARE(wanted, files);
+    QCOMPARE(misses, (QVector<qint64>{11, 13}));
+}
+
+void tst_GetThumbnailThread::pauseEmptiesTheQueue()
+{
+    RunningWorker running;
+    QSignalSpy misses(&running.worker, &GetThumbnailThread::signalLocalThumbnailMiss);
+    std::vector<std::unique_ptr<Photo>> photos;
+    for (int i = 0; i < 100; ++i) {
+        photos.push_back(std::make_unique<Photo>(i));
+        QVERIFY(running.worker.enqueue(photos.back().get()));
+    }
+    running.worker.pause();
+    Photo last(1000);
+    QVERIFY(running.worker.enqueue(&last));
+    running.thread.start();
+    QTRY_COMPARE(misses.count(), 1);
+    QCOMPARE(misses.at(0).at(0).toLongLong(), qint64(1000));
+}
+
+void tst_GetThumbnailThread::pauseWakesTheSleeper()
+{
+    RunningWorker running;
+    QSignalSpy misses(&running.worker, &GetThumbnailThread::signalLocalThumbnailMiss);
+    Photo photo(5);
+    QVERIFY(running.worker.enqueue(&photo));
+    running.thread.start();
+    QTRY_COMPARE(misses.count(), 1); // from now on it sleeps for a second
+    QElapsedTimer timer;
+    timer.start();
+    running.join();
+    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+}
+
+void tst_GetThumbnailThread::pauseBeforeTheLoopBegins()
+{
+    for (int i = 0; i < 50; ++i) {
+        RunningWorker running;
+        running.thread.start();
+        running.join(); // hangs if the loop takes no notice
+    }
+}
+
+void tst_GetThumbnailThread::endsInTheMiddleOfAPicture()
+{
+    RunningWorker running;
+    QSignalSpy misses(&running.worker, &GetThumbnailThread::signalLocalThumbnailMiss);
+    std::vector<std::unique_ptr<Photo>> photos;
+    for (int i = 0; i < 20; ++i) {
+        photos.push_back(std::make_unique<Photo>(200 + i));
+        const auto &photo = *photos.back();
+        QVERIFY(
+            TemporaryRoot::saveSlowOne(ThumbnailFiles::plainImage(photo.fileId, photo.extension)));
+        QVERIFY(running.worker.enqueue(photos.back().get()));
+    }
+    running.thread.start();
+    QThread::msleep(20); // into the first one, most likely; any moment must do
+    QElapsedTimer timer;
+    timer.start();
+    running.join();
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QCoreApplication::processEvents();
+    QCOMPARE(misses.count(), 0); // given up is not missing
+}
+
+QTEST_MAIN(tst_GetThumbnailThread)
+#include "tst_getthumbnailthread.moc"

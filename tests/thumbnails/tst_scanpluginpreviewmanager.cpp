@@ -1,0 +1,417 @@
+#include "thumbnailfixture.h"
+#include "thumbnails/filetypeicons.h"
+#include "thumbnails/scanpluginpreviewmanager.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+ScanPluginPreviewManager *cache()
+{
+    return ScanPluginPreviewManager::instance();
+}
+
+QPixmap filled(const QColor &colour, const QSize &size = {110, 83})
+{
+    QPixmap pixmap(size);
+    pixmap.fill(colour);
+    return pixmap;
+}
+
+QColor middleOf(const QPixmap &pixmap)
+{
+    return pixmap.isNull() ? QColor() : pixmap.toImage().pixelColor(pixmap.rect().center());
+}
+
+bool isNear(const QColor &a, const QColor &b)
+{
+    constexpr int JpegTolerance = 8;
+    return qAbs(a.red() - b.red()) < JpegTolerance && qAbs(a.green() - b.green()) < JpegTolerance
+        && qAbs(a.blue() - b.blue()) < JpegTolerance;
+}
+
+/// Gives the worker time to answer while this thread hears nothing of it. What follows has to be
+/// right however far the worker has come.
+void letTheWorkerWork()
+{
+    QThread::msleep(150);
+}
+
+} // namespace
+
+class tst_ScanPluginPreviewManager : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { cache()->stop(); }
+    void cleanupTestCase();
+
+    void bestCandidateWins_data();
+    void bestCandidateWins();
+    void requestsAreQueuedOnce();
+    void missIsReported();
+    void hostMayWriteTheFileLater();
+    void recordDiesBeforeTheAnswer_data();
+    void recordDiesBeforeTheAnswer();
+    void hostAnswerStopsTheAsking();
+    void hostAnswerBeatsAnOlderLookup();
+    void hostIsAskedOnce();
+    void stopForgetsAndDropsWhatIsUnderWay();
+    void stopIsQuick();
+    void listPictures();
+    void foldersAreNeverLookedUp();
+    void repairedStateStays();
+    void repairResult_data();
+    void repairResult();
+    void memoryIsBounded();
+    void badIds();
+
+private:
+    TemporaryRoot m_root;
+    qint64 m_nextId = 1;
+};
+
+void tst_ScanPluginPreviewManager::bestCandidateWins_data()
+{
+    QTest::addColumn<QString>("repaired");
+    QTest::addColumn<QString>("png");
+    QTest::addColumn<QString>("jpeg");
+    QTest::addColumn<QString>("plain");
+    QTest::addColumn<QString>("expected"); // empty: none can be read
+
+    QTest::newRow("all") << "red"
+                         << "green"
+                         << "blue"
+                         << "yellow"
+                         << "red";
+    QTest::newRow("no repaired one") << ""
+                                     << "green"
+                                     << "blue"
+                                     << "yellow"
+                                     << "green";
+    QTest::newRow("jpeg") << ""
+                          << ""
+                          << "blue"
+                          << "yellow"
+                          << "blue";
+    QTest::newRow("plain") << ""
+                           << ""
+                           << ""
+                           << "yellow"
+                           << "yellow";
+    QTest::newRow("repaired is broken") << "broken"
+                                        << "green"
+                                        << ""
+                                        << ""
+                                        << "green";
+    QTest::newRow("all but the last broken") << "broken"
+                                             << "broken"
+                                             << "broken"
+                                             << "yellow"
+                                             << "yellow";
+    QTest::newRow("all broken") << "broken"
+                                << "broken"
+                                << "broken"
+                                << "broken"
+                                << "";
+    QTest::newRow("none") << ""
+                          << ""
+                          << ""
+                          << ""
+                          << "";
+}
+
+void tst_ScanPluginPreviewManager::bestCandidateWins()
+{
+    QFETCH(QString, repaired);
+    QFETCH(QString, png);
+    QFETCH(QString, jpeg);
+    QFETCH(QString, plain);
+    QFETCH(QString, expected);
+    Photo photo(m_nextId++);
+    using namespace ThumbnailFiles;
+    const QPair<QString, QString> files[] = {{repairedPreview(photo.fileId, "jpg"), repaired},
+                                             {pngThumbnail(photo.fileId, "jpg"), png},
+                                             {jpegThumbnail(photo.fileId, "jpg"), jpeg},
+                                             {plainImage(photo.fileId, "jpg"), plain}};
+    bool hasAny = false;
+    for (const auto &file : files) {
+        if (file.second.isEmpty())
+            continue;
+        hasAny = true;
+        QVERIFY(file.second == QLatin1String("broken")
+                    ? TemporaryRoot::write(file.first, "\x89PNG\r\n\x1a\nbroken")
+                    : TemporaryRoot::save(file.first, QColor(file.second)));
+    }
+    QCOMPARE(ScanPluginPreviewManager::hasLocalThumbnail(photo.fileId, "jpg"), hasAny);
+
+    QSignalSpy loaded(cache(), &ScanPluginPreviewManager::signalUpdateThumBnail);
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&photo);
+    QTRY_COMPARE(loaded.count() + missing.count(), 1);
+    QCOMPARE(loaded.count() == 1, !expected.isEmpty());
+    if (!expected.isEmpty()) {
+        const QPixmap picture = cache()->gridThumbnail(photo.fileId);
+        QCOMPARE(picture.size(), QSize(110, 83));
+        QVERIFY(isNear(middleOf(picture), QColor(expected)));
+    }
+}
+
+void tst_ScanPluginPreviewManager::requestsAreQueuedOnce()
+{
+    Photo photo(m_nextId++);
+    QVERIFY(TemporaryRoot::save(ThumbnailFiles::pngThumbnail(photo.fileId, "jpg"), Qt::red));
+    QSignalSpy updates(cache(), &ScanPluginPreviewManager::signalUpdateListView);
+    QSignalSpy loads(cache(), &ScanPluginPreviewManager::signalUpdateThumBnail);
+    for (int i = 0; i < 5; ++i)
+        cache()->requestThumbnail(&photo);
+    Photo twin(photo.fileId); // the other side's record of the same item
+    cache()->requestThumbnail(&twin);
+    Photo last(m_nextId++);
+    cache()->requestThumbnail(&last);
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    QTRY_COMPARE(missing.count(), 1);
+    QCOMPARE(updates.count(), 1);
+    QCOMPARE(loads.count(), 1);
+    QCOMPARE(updates.at(0).at(0).toLongLong(), photo.fileId);
+}
+
+void tst_ScanPluginPreviewManager::missIsReported()
+{
+    Photo photo(m_nextId++);
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&photo);
+    QTRY_COMPARE(missing.count(), 1);
+    QCOMPARE(missing.at(0).at(0).value<TreeItemData *>(), static_cast<TreeItemData *>(&photo));
+}
+
+void tst_ScanPluginPreviewManager::hostMayWriteTheFileLater()
+{
+    Photo photo(m_nextId++);
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&photo);
+    QTRY_COMPARE(missing.count(), 1);
+    QVERIFY(TemporaryRoot::save(ThumbnailFiles::jpegThumbnail(photo.fileId, "jpg"), Qt::red));
+    cache()->requestThumbnail(&photo);
+    QTRY_VERIFY(!cache()->gridThumbnail(photo.fileId).isNull());
+    QCOMPARE(missing.count(), 1);
+}
+
+void tst_ScanPluginPreviewManager::recordDiesBeforeTheAnswer_data()
+{
+    QTest::addColumn<bool>("answerIsUnderWay");
+    QTest::newRow("while queued") << false;
+    QTest::newRow("between miss and delivery") << true;
+}
+
+void tst_ScanPluginPreviewManager::recordDiesBeforeTheAnswer()
+{
+    QFETCH(bool, answerIsUnderWay);
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    auto doomed = std::make_unique<Photo>(m_nextId++);
+    Photo survivor(m_nextId++);
+    cache()->requestThumbnail(doomed.get());
+    cache()->requestThumbnail(&survivor);
+    if (answerIsUnderWay)
+        letTheWorkerWork();
+    doomed.reset();
+    QTRY_COMPARE(missing.count(), 1);
+    QCOMPARE(missing.at(0).at(0).value<TreeItemData *>(), static_cast<TreeItemData *>(&survivor));
+}
+
+void tst_ScanPluginPreviewManager::hostAnswerStopsTheAsking()
+{
+    Photo given(m_nextId++);
+    Photo refused(m_nextId++);
+    Photo open(m_nextId++);
+    cache()->storeThumbnail(given.fileId, filled(Qt::green));
+    cache()->storeThumbnail(refused.fileId, QPixmap());
+    QCOMPARE(middleOf(cache()->gridThumbnail(given.fileId)), QColor(Qt::green));
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&given);
+    cache()->requestThumbnail(&refused);
+    cache()->requestThumbnail(&open);
+    QTRY_COMPARE(missing.count(), 1);
+    QCOMPARE(missing.at(0).at(0).value<TreeItemData *>(), static_cast<TreeItemData *>(&open));
+}
+
+void tst_ScanPluginPreviewManager::hostAnswerBeatsAnOlderLookup()
+{
+    Photo photo(m_nextId++);
+    QVERIFY(TemporaryRoot::save(ThumbnailFiles::pngThumbnail(photo.fileId, "jpg"), Qt::red));
+    cache()->requestThumbnail(&photo);
+    letTheWorkerWork();
+    cache()->storeThumbnail(photo.fileId, filled(Qt::green));
+    Photo next(m_nextId++);
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&next);
+    QTRY_COMPARE(missing.count(), 1);
+    QCOMPARE(middleOf(cache()->gridThumbnail(photo.fileId)), QColor(Qt::green));
+}
+
+void tst_ScanPluginPreviewManager::hostIsAskedOnce()
+{
+    const qint64 id = m_nextId++;
+    QVERIFY(cache()->claimHostRequest(id));
+    QVERIFY(!cache()->claimHostRequest(id));
+    cache()->storeThumbnail(id, filled(Qt::red));
+    QVERIFY(cache()->claimHostRequest(id));
+    cache()->stop();
+    QVERIFY(cache()->claimHostRequest(id));
+}
+
+void tst_ScanPluginPreviewManager::stopForgetsAndDropsWhatIsUnderWay()
+{
+    Photo photo(m_nextId++);
+    Photo missing(m_nextId++);
+    QVERIFY(TemporaryRoot::save(ThumbnailFiles::pngThumbnail(photo.fileId, "jpg"), Qt::red));
+    QSignalSpy loads(cache(), &ScanPluginPreviewManager::signalUpdateThumBnail);
+    QSignalSpy misses(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&photo);
+    cache()->requestThumbnail(&missing);
+    letTheWorkerWork();
+    cache()->stop();
+    QCoreApplication::processEvents();
+    QCOMPARE(loads.count(), 0); // it belongs to a scan that is over
+    QCOMPARE(misses.count(), 0);
+
+    cache()->requestThumbnail(&photo);
+    QTRY_COMPARE(loads.count(), 1);
+    QVERIFY(!cache()->gridThumbnail(photo.fileId).isNull());
+    cache()->stop();
+    QVERIFY(cache()->gridThumbnail(photo.fileId).isNull());
+}
+
+void tst_ScanPluginPreviewManager::stopIsQuick()
+{
+    std::vector<std::unique_ptr<Photo>> photos;
+    for (int i = 0; i < 20; ++i) {
+        photos.push_back(std::make_unique<Photo>(m_nextId++));
+        QVERIFY(TemporaryRoot::saveSlowOne(
+            ThumbnailFiles::plainImage(photos.back()->fileId, QStringLiteral("jpg"))));
+    }
+    for (const auto &photo : photos)
+        cache()->requestThumbnail(photo.get());
+    QThread::msleep(20);
+    QElapsedTimer timer;
+    timer.start();
+    cache()->stop();
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void tst_ScanPluginPreviewManager::listPictures()
+{
+    Photo photo(m_nextId++);
+    const QSize small(32, 32);
+    QCOMPARE(cache()->listThumbnail(&photo).toImage(),
+             FileTypeIcons::icon(photo, FileTypeIcons::Size::List).toImage());
+    cache()->storeThumbnail(photo.fileId, filled(Qt::green, {400, 90}));
+    const QImage picture = cache()->listThumbnail(&photo).toImage();
+    QCOMPARE(picture.size(), small);
+    QCOMPARE(picture.pixelColor(16, 16), QColor(Qt::green));
+    for (const QPoint &corner : {QPoint(0, 0), QPoint(31, 0), QPoint(0, 31), QPoint(31, 31)})
+        QCOMPARE(picture.pixelColor(corner).alpha(), 0);
+    QVERIFY(!cache()->listThumbnail(nullptr).isNull());
+}
+
+void tst_ScanPluginPreviewManager::foldersAreNeverLookedUp()
+{
+    Photo folder(m_nextId++);
+    folder.kind = 1;
+    QVERIFY(TemporaryRoot::save(ThumbnailFiles::pngThumbnail(folder.fileId, "jpg"), Qt::red));
+    QVERIFY(TemporaryRoot::save(ThumbnailFiles::repairedPreview(folder.fileId, "jpg"), Qt::red));
+    cache()->requestThumbnail(&folder);
+    QVERIFY(!cache()->listThumbnail(&folder).isNull());
+    QVERIFY(!cache()->hasRepairedPreview(&folder));
+    Photo last(m_nextId++);
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&last);
+    QTRY_COMPARE(missing.count(), 1);
+    QVERIFY(cache()->gridThumbnail(folder.fileId).isNull());
+}
+
+void tst_ScanPluginPreviewManager::repairedStateStays()
+{
+    Photo photo(m_nextId++);
+    const QString path = ThumbnailFiles::repairedPreview(photo.fileId, photo.extension);
+    QVERIFY(!cache()->hasRepairedPreview(&photo));
+    QVERIFY(!photo.property("previewRepaired").isValid());
+    QVERIFY(TemporaryRoot::save(path, Qt::red));
+    QVERIFY(cache()->hasRepairedPreview(&photo));
+    QCOMPARE(photo.property("previewRepaired"), QVariant(true));
+    QCOMPARE(photo.property("previewRepairedPath"), QVariant(path));
+    QVERIFY(QFile::remove(path));
+    QVERIFY(cache()->hasRepairedPreview(&photo));
+    Photo twin(photo.fileId); // another record of the item: still repaired, the file is gone
+    QVERIFY(cache()->hasRepairedPreview(&twin));
+    QVERIFY(!twin.property("previewRepairedPath").isValid());
+    QVERIFY(!cache()->hasRepairedPreview(nullptr));
+
+    Photo told(m_nextId++);
+    told.setProperty("previewRepaired", true);
+    QVERIFY(cache()->hasRepairedPreview(&told));
+}
+
+void tst_ScanPluginPreviewManager::repairResult_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<bool>("isRepaired");
+    QTest::newRow("repaired preview") << "%1_repaired.jpg" << true;
+    QTest::newRow("thumbnail") << "%1_thumbnail.png" << false;
+    QTest::newRow("no path") << "" << false;
+}
+
+void tst_ScanPluginPreviewManager::repairResult()
+{
+    QFETCH(QString, fileName);
+    QFETCH(bool, isRepaired);
+    Photo photo(m_nextId++);
+    const QString path = fileName.isEmpty()
+        ? QString()
+        : QDir::tempPath() + QLatin1Char('/') + fileName.arg(photo.fileId);
+    cache()->storeThumbnail(photo.fileId, path, filled(Qt::blue));
+    QCOMPARE(cache()->hasRepairedPreview(&photo), isRepaired);
+    QCOMPARE(middleOf(cache()->gridThumbnail(photo.fileId)), QColor(Qt::blue));
+}
+
+void tst_ScanPluginPreviewManager::memoryIsBounded()
+{
+    Photo first(m_nextId++);
+    const QString path = QDir::tempPath() + QLatin1String("/elsewhere.png");
+    QVERIFY(TemporaryRoot::save(path, Qt::green));
+    cache()->storeThumbnail(first.fileId, path, filled(Qt::green, {4000, 3000}));
+    QCOMPARE(cache()->gridThumbnail(first.fileId).size(), QSize(640, 480));
+    for (int i = 0; i < 300; ++i)
+        cache()->storeThumbnail(m_nextId++, filled(Qt::red, {640, 640}));
+    QVERIFY(cache()->gridThumbnail(first.fileId).isNull());
+
+    // given up is not lost: the small picture is there, and the file that it came from
+    QCOMPARE(middleOf(cache()->listThumbnail(&first)), QColor(Qt::green));
+    cache()->requestThumbnail(&first);
+    QTRY_COMPARE(middleOf(cache()->gridThumbnail(first.fileId)), QColor(Qt::green));
+}
+
+void tst_ScanPluginPreviewManager::badIds()
+{
+    QSignalSpy updates(cache(), &ScanPluginPreviewManager::signalUpdateListView);
+    QTest::ignoreMessage(QtWarningMsg,
+                         "ScanPluginPreviewManager thumbnail for an invalid file id: -1");
+    cache()->storeThumbnail(-1, filled(Qt::red));
+    cache()->storeRepairResult(-1, QString(), filled(Qt::red));
+    QCOMPARE(updates.count(), 0);
+}
+
+void tst_ScanPluginPreviewManager::cleanupTestCase()
+{
+    Photo photo(m_nextId++);
+    cache()->requestThumbnail(&photo); // the process ends with the worker running
+}
+
+QTEST_MAIN(tst_ScanPluginPreviewManager)
+#include "tst_scanpluginpreviewmanager.moc"

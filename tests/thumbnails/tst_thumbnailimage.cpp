@@ -1,0 +1,176 @@
+#include "thumbnails/thumbnailimage.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <QtEndian>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+/// Left half red, right half blue.
+QImage twoColours(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    for (int y = 0; y < size.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        std::fill(line + size.width() / 2, line + size.width(), qRgb(0, 0, 255));
+    }
+    return image;
+}
+
+bool isRed(QRgb pixel)
+{
+    return qRed(pixel) > 200 && qBlue(pixel) < 50;
+}
+
+bool isBlue(QRgb pixel)
+{
+    return qBlue(pixel) > 200 && qRed(pixel) < 50;
+}
+
+/// A file that says it is \a size large and holds next to nothing.
+QByteArray pngHeader(const QSize &size)
+{
+    QByteArray header("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
+    const quint32 sides[] = {qToBigEndian(quint32(size.width())),
+                             qToBigEndian(quint32(size.height()))};
+    QByteArray chunk("IHDR");
+    chunk.append(reinterpret_cast<const char *>(sides), sizeof sides);
+    chunk.append("\x08\x02\0\0\0", 5);
+    quint32 sum = 0xFFFFFFFF;
+    for (const char byte : chunk) {
+        sum ^= uchar(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = (sum >> 1) ^ (sum & 1 ? 0xEDB88320 : 0);
+    }
+    const quint32 check = qToBigEndian(~sum);
+    return header.left(12) + chunk + QByteArray(reinterpret_cast<const char *>(&check), 4);
+}
+
+} // namespace
+
+class tst_ThumbnailImage : public QObject {
+    Q_OBJECT
+
+private slots:
+    void targetSize_data();
+    void targetSize();
+    void load_data();
+    void load();
+    void refuses_data();
+    void refuses();
+    void turnsUpright();
+    void endsWithItsThread();
+
+private:
+    QString write(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(m_folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            return {};
+        return file.fileName();
+    }
+
+    QTemporaryDir m_folder;
+};
+
+void tst_ThumbnailImage::targetSize_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("expected");
+    QTest::newRow("landscape") << QSize(400, 300) << QSize(110, 83);
+    QTest::newRow("upright") << QSize(300, 400) << QSize(146, 194);
+    QTest::newRow("square") << QSize(200, 200) << QSize(146, 146);
+    QTest::newRow("small ones grow") << QSize(3, 2) << QSize(124, 83);
+    QTest::newRow("one pixel") << QSize(1, 1) << QSize(146, 146);
+    QTest::newRow("strip") << QSize(100000, 1) << QSize(4096, 83);
+    QTest::newRow("upright strip") << QSize(1, 2000000000) << QSize(146, 4096);
+    QTest::newRow("nothing") << QSize(0, 20) << QSize();
+}
+
+void tst_ThumbnailImage::targetSize()
+{
+    QFETCH(QSize, size);
+    QTEST(ThumbnailImage::targetSize(size), "expected");
+}
+
+void tst_ThumbnailImage::load_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<QSize>("size");
+    for (const char *format : {"png", "jpg", "bmp"}) {
+        QTest::addRow("small %s", format) << QByteArray(format) << QSize(300, 225);
+        QTest::addRow("large %s", format) << QByteArray(format) << QSize(1333, 2001);
+    }
+}
+
+void tst_ThumbnailImage::load()
+{
+    QFETCH(QByteArray, format);
+    QFETCH(QSize, size);
+    const QString path = m_folder.filePath(QStringLiteral("picture.png")); // whatever it holds
+    QVERIFY(twoColours(size).save(path, format.constData(), 95));
+    const QImage image = ThumbnailImage::load(path);
+    QCOMPARE(image.size(), ThumbnailImage::targetSize(size));
+    const int middle = image.width() / 2;
+    for (const int y : {0, image.height() / 2, image.height() - 1}) {
+        QVERIFY(isRed(image.pixel(0, y)) && isRed(image.pixel(middle - 3, y)));
+        QVERIFY(isBlue(image.pixel(middle + 3, y)) && isBlue(image.pixel(image.width() - 1, y)));
+    }
+}
+
+void tst_ThumbnailImage::refuses_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("nothing in it") << QByteArray();
+    QTest::newRow("not a picture") << QByteArray(5000, 'x');
+    QTest::newRow("beginning of a picture") << pngHeader(QSize(100, 100));
+    QTest::newRow("monster") << pngHeader(QSize(40000, 40000));
+}
+
+void tst_ThumbnailImage::refuses()
+{
+    QFETCH(QByteArray, bytes);
+    QVERIFY(ThumbnailImage::load(write(QStringLiteral("bad.png"), bytes)).isNull());
+    QVERIFY(ThumbnailImage::load(m_folder.filePath(QStringLiteral("none.png"))).isNull());
+}
+
+void tst_ThumbnailImage::turnsUpright()
+{
+    const QString plain = m_folder.filePath(QStringLiteral("plain.jpg"));
+    QVERIFY(twoColours(QSize(400, 300)).save(plain, "jpg", 95));
+    QFile file(plain);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray bytes = file.readAll();
+    // an Exif block behind the first marker that says: turn by 90 degrees, clockwise
+    static const char exif[] = "\xFF\xE1\x00\x22"
+                               "Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0"
+                               "\0\0\0\0";
+    bytes.insert(2, QByteArray(exif, sizeof exif - 1));
+    const QImage image = ThumbnailImage::load(write(QStringLiteral("turned.jpg"), bytes));
+    QCOMPARE(image.size(), QSize(146, 194));
+    QVERIFY(isRed(image.pixel(70, 5)));
+    QVERIFY(isBlue(image.pixel(70, 190)));
+}
+
+void tst_ThumbnailImage::endsWithItsThread()
+{
+    const QString path = m_folder.filePath(QStringLiteral("unwanted.png"));
+    QVERIFY(twoColours(QSize(300, 200)).save(path));
+    QImage image;
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        QThread::currentThread()->requestInterruption();
+        image = ThumbnailImage::load(path);
+    }));
+    thread->start();
+    QVERIFY(thread->wait(10000));
+    QVERIFY(image.isNull());
+}
+
+QTEST_GUILESS_MAIN(tst_ThumbnailImage)
+#include "tst_thumbnailimage.moc"
