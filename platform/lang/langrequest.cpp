@@ -69,16 +69,17 @@ qint64 LangRequest::wholeNumber(const char *field)
     constexpr double Bound = 9223372036854775808.0; // 2^63, the first that does not fit
 
     const double approximate = number(field);
-    if (!(std::abs(approximate) < Bound)
-        && !(approximate == -Bound)) // the one that fits on this side only
-        fail(QStringLiteral("field %1 is too large").arg(quoted(field)));
-    else if (std::trunc(approximate) != approximate)
-        fail(QStringLiteral("field %1 is not a whole number").arg(quoted(field)));
     if (!isValid())
         return 0;
-    // a double cannot hold every 64-bit number; the variant still has the digits of the text
+    // a double cannot hold every 64-bit number; the variant has all digits of the text
     const QVariant exact = m_fields.value(QLatin1String(field)).toVariant();
-    return exact.type() == QVariant::Double ? qint64(approximate) : exact.toLongLong();
+    if (exact.userType() == QMetaType::LongLong)
+        return exact.toLongLong();
+    if (std::trunc(approximate) != approximate)
+        fail(QStringLiteral("field %1 is not a whole number").arg(quoted(field)));
+    else if (approximate >= Bound || approximate < -Bound)
+        fail(QStringLiteral("field %1 is too large").arg(quoted(field)));
+    return isValid() ? qint64(approximate) : 0;
 }
 
 qint64 LangRequest::wholeNumber(const char *field, qint64 smallest, qint64 largest)

@@ -1,31 +1,18 @@
 #include "zvlang.h"
 
+#include "langbuffer.h"
 #include "langlog.h"
 #include "langrequest.h"
 #include "langtexts.h"
 
 #include <QDebug>
 
-#include <cstring>
+#include <exception>
 
 namespace {
 
 constexpr qint64 StartOfYear1 = -62135596800;
 constexpr qint64 EndOfYear9999 = 253402300799;
-
-/// Copies as many whole characters of \a text as fit, and the closing zero byte.
-void copyText(const QString &text, char *buffer, int size)
-{
-    if (!buffer)
-        return;
-    const QByteArray bytes = text.toUtf8();
-    int length = qMin(bytes.size(), size - 1);
-    const auto continuesCharacter = [&](int at) { return (uchar(bytes.at(at)) & 0xC0) == 0x80; };
-    while (length > 0 && length < bytes.size() && continuesCharacter(length))
-        --length;
-    std::memcpy(buffer, bytes.constData(), size_t(length));
-    buffer[length] = '\0';
-}
 
 /// Nothing that is thrown may reach a caller in C.
 template <typename Work>

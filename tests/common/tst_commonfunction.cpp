@@ -1,0 +1,332 @@
+#include "common/commonfunction.h"
+#include "probe.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+#include <QWidget>
+
+#include <limits>
+#include <memory>
+
+namespace {
+
+/// Answers every text with its context in front of it.
+class ContextTranslator : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        return QLatin1String(context) + QLatin1Char('/') + QLatin1String(text);
+    }
+};
+
+int probeScreen()
+{
+    QTemporaryDir dir;
+    for (const char *name : {"/icon.png", "/icon@2x.png"}) {
+        QImage image(QByteArray(name).contains("@2x") ? QSize(32, 32) : QSize(16, 16),
+                     QImage::Format_RGB32);
+        image.save(dir.path() + QLatin1String(name));
+    }
+    const QString base = dir.path() + QStringLiteral("/icon");
+    const QPixmap pixmap = CommonFunction::highDpiPixmap(base);
+    return Probe::answer(
+        {{QStringLiteral("path"),
+          CommonFunction::getHighDpiPath(QStringLiteral("base"), QStringLiteral("jpg"))},
+         {QStringLiteral("ratio"), pixmap.devicePixelRatio()},
+         {QStringLiteral("shown"), pixmap.width() / pixmap.devicePixelRatio()}});
+}
+
+} // namespace
+
+class TestCommonFunction : public QObject {
+    Q_OBJECT
+
+private slots:
+    void categoryNames_data();
+    void categoryNames();
+    void categoryKeys_data();
+    void categoryKeys();
+    void dates_data();
+    void dates();
+    void sizes_data();
+    void sizes();
+    void locations_data();
+    void locations();
+    void screens_data();
+    void screens();
+    void themedImages_data();
+    void themedImages();
+    void maskCoversItsParent();
+};
+
+void TestCommonFunction::categoryNames_data()
+{
+    QTest::addColumn<int>("rootType");
+    QTest::addColumn<QString>("text");
+
+    const auto row = [](int rootType, const char *text) {
+        QTest::newRow(qPrintable(QString::number(rootType))) << rootType << text;
+    };
+    row(26, "CommonFunction/Photo");
+    row(27, "CommonFunction/Webfiles");
+    row(51, "CommonFunction/Unsaved files");
+    row(3, "CommonFunction/File lost location");
+    row(4, "QuarvoTRS/reconstructed_files_label");
+    row(6, "QuarvoTRS/time_nav_root_all_time");
+    row(7, "QuarvoTRS/time_nav_root_unknown_time");
+    row(55, "OneDrive");
+    row(0, "");
+    row(5, "");
+    row(-26, "");
+}
+
+void TestCommonFunction::categoryNames()
+{
+    QFETCH(int, rootType);
+    QFETCH(QString, text);
+
+    ContextTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    QCOMPARE(CommonFunction::categoryName(rootType), text);
+    QCoreApplication::removeTranslator(&translator);
+}
+
+void TestCommonFunction::categoryKeys_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("video") << "zenvo_video"
+                           << "Video";
+    QTest::newRow("games have another key") << "zenvo_game_files"
+                                            << "Game";
+    QTest::newRow("unsaved") << "zenvo_unsaved_files"
+                             << "Unsaved files";
+    QTest::newRow("other case") << "zenvo_Video"
+                                << "";
+    QTest::newRow("longer") << "zenvo_video2"
+                            << "";
+    QTest::newRow("prefix only") << "zenvo_"
+                                 << "";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestCommonFunction::categoryKeys()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, text);
+    QCOMPARE(CommonFunction::categoryKeyText(key), text);
+}
+
+void TestCommonFunction::dates_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<qint64>("seconds");
+    QTest::addColumn<QString>("text");
+
+    const qint64 noon = 1709290800; // 2024-03-01 11:00 UTC
+    QTest::newRow("Taiwan") << QByteArray("Asia/Taipei") << noon << "2024-03-01";
+    QTest::newRow("China") << QByteArray("Asia/Shanghai") << noon << "2024-03-01";
+    QTest::newRow("Hong Kong") << QByteArray("Asia/Hong_Kong") << noon << "2024-03-01";
+    QTest::newRow("Macau") << QByteArray("Asia/Macau") << noon << "2024-03-01";
+    QTest::newRow("Germany") << QByteArray("Europe/Berlin") << noon << "03-01-2024";
+    QTest::newRow("Singapore") << QByteArray("Asia/Singapore") << noon << "03-01-2024";
+    QTest::newRow("local day") << QByteArray("America/New_York") << qint64(1709254800)
+                               << "02-29-2024";
+    QTest::newRow("before the epoch")
+        << QByteArray("Europe/Berlin") << qint64(-86400 * 365) << "01-01-1969";
+    QTest::newRow("beyond every calendar")
+        << QByteArray("Europe/Berlin") << std::numeric_limits<qint64>::max() << "";
+    QTest::newRow("before every calendar")
+        << QByteArray("Europe/Berlin") << std::numeric_limits<qint64>::min() << "";
+}
+
+void TestCommonFunction::dates()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(qint64, seconds);
+    QFETCH(QString, text);
+
+    const QByteArray before = qgetenv("TZ");
+    qputenv("TZ", zone);
+    const QString date = CommonFunction::dateText(seconds);
+    if (before.isNull())
+        qunsetenv("TZ");
+    else
+        qputenv("TZ", before);
+    QCOMPARE(date, text);
+}
+
+void TestCommonFunction::sizes_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("text");
+
+    const qint64 kilo = 1024;
+    QTest::newRow("none") << qint64(0) << "0 SizeUnit_Bytes";
+    QTest::newRow("last byte") << kilo - 1 << "1023 SizeUnit_Bytes";
+    QTest::newRow("first kilobyte") << kilo << "1.00 SizeUnit_KB";
+    QTest::newRow("half") << kilo + kilo / 2 << "1.50 SizeUnit_KB";
+    QTest::newRow("never 1024.00") << kilo * kilo - 1 << "1.00 SizeUnit_MB";
+    QTest::newRow("gigabyte") << kilo * kilo * kilo << "1.00 SizeUnit_GB";
+    QTest::newRow("beyond the last unit")
+        << kilo * kilo * kilo * kilo * 2048 << "2048.00 SizeUnit_TB";
+    QTest::newRow("negative") << -kilo << "-1.00 SizeUnit_KB";
+}
+
+void TestCommonFunction::sizes()
+{
+    QFETCH(qint64, bytes);
+    QFETCH(QString, text);
+    QCOMPARE(CommonFunction::sizeText(bytes), text);
+}
+
+void TestCommonFunction::locations_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("root");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("volume dropped") << "/Volume/DCIM/100"
+                                    << "E:"
+                                    << "E:\\DCIM\\100";
+    QTest::newRow("closed root") << "/Volume/DCIM/100"
+                                 << "E:\\"
+                                 << "E:\\DCIM\\100";
+    QTest::newRow("root closed by a slash") << "DCIM"
+                                            << "/mnt/card/"
+                                            << "/mnt/card/DCIM";
+    QTest::newRow("no root") << "DCIM/100"
+                             << ""
+                             << "DCIM\\100";
+    QTest::newRow("no root, leading slash") << "/DCIM"
+                                            << ""
+                                            << "DCIM";
+    QTest::newRow("no root, backslashes") << "\\DCIM\\100"
+                                          << ""
+                                          << "DCIM\\100";
+    QTest::newRow("no root keeps the volume") << "/Volume/DCIM"
+                                              << ""
+                                              << "Volume\\DCIM";
+    QTest::newRow("only one leading separator") << "//server/share"
+                                                << ""
+                                                << "\\server\\share";
+    QTest::newRow("volume itself") << "Volume"
+                                   << "E:"
+                                   << "E:\\";
+    QTest::newRow("volume itself, with a slash") << "/Volume"
+                                                 << "E:"
+                                                 << "E:\\";
+    QTest::newRow("a folder that begins like it") << "Volumes/a"
+                                                  << "E:"
+                                                  << "E:\\Volumes\\a";
+    QTest::newRow("nowhere") << ""
+                             << "E:"
+                             << "";
+}
+
+void TestCommonFunction::locations()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, root);
+    QFETCH(QString, text);
+    QCOMPARE(CommonFunction::combinedPath(path, root), text);
+}
+
+void TestCommonFunction::screens_data()
+{
+    QTest::addColumn<QString>("factor");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("ratio");
+
+    QTest::newRow("1") << "1"
+                       << "base.jpg" << 1;
+    QTest::newRow("1.5") << "1.5"
+                         << "base.jpg" << 1;
+    QTest::newRow("2") << "2"
+                       << "base@2x.jpg" << 2;
+    QTest::newRow("2.5") << "2.5"
+                         << "base@2x.jpg" << 2;
+    QTest::newRow("3") << "3"
+                       << "base@2x.jpg" << 3;
+}
+
+void TestCommonFunction::screens()
+{
+    QFETCH(QString, factor);
+    QFETCH(QString, path);
+    QFETCH(int, ratio);
+
+    const QJsonObject result = Probe::run(QStringLiteral("screen"), {{"QT_SCALE_FACTOR", factor}});
+    QCOMPARE(result.value(QStringLiteral("path")).toString(), path);
+    QCOMPARE(result.value(QStringLiteral("ratio")).toInt(), ratio);
+    QCOMPARE(result.value(QStringLiteral("shown")).toInt(), 16);
+}
+
+void TestCommonFunction::themedImages_data()
+{
+    QTest::addColumn<QVariant>("theme");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("path");
+
+    const QString there = QStringLiteral("icon16_check_normal");
+    QTest::newRow("light") << QVariant(0) << there << ":/Images/icon16_check_normal.png";
+    QTest::newRow("dark") << QVariant(1) << there << ":/Images/Dark/icon16_check_normal.png";
+    QTest::newRow("dark twin missing") << QVariant(1) << "nosuch"
+                                       << ":/Images/nosuch.png";
+    QTest::newRow("neither light nor dark")
+        << QVariant(5) << there << ":/Images/icon16_check_normal.png";
+    QTest::newRow("no theme yet") << QVariant() << there << ":/Images/icon16_check_normal.png";
+}
+
+void TestCommonFunction::themedImages()
+{
+    QFETCH(QVariant, theme);
+    QFETCH(QString, name);
+    QFETCH(QString, path);
+
+    qApp->setProperty("ThemeType", theme);
+    QCOMPARE(CommonFunction::getThemeImagePath(name, QStringLiteral("png")), path);
+    QCOMPARE(CommonFunction::themePixmap(name).isNull(), name == QLatin1String("nosuch"));
+    qApp->setProperty("ThemeType", QVariant());
+}
+
+void TestCommonFunction::maskCoversItsParent()
+{
+    QVERIFY(!CommonFunction::createMaskLayer(nullptr));
+
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("QWidget { background: white; }"));
+    window.resize(200, 100);
+    QWidget *mask = CommonFunction::createMaskLayer(&window);
+    QCOMPARE(mask->objectName(), QStringLiteral("maskLayerID"));
+    QCOMPARE(mask->styleSheet(),
+             QStringLiteral("background: rgba(0, 0, 0, 0.5);border-radius:12px;"));
+    const std::unique_ptr<QWidget> other(CommonFunction::createMaskLayer(&window, 8));
+    QCOMPARE(other->styleSheet(),
+             QStringLiteral("background: rgba(0, 0, 0, 0.5);border-radius:8px;"));
+    window.show();
+    other->hide();
+    window.resize(300, 300);
+    QTRY_COMPARE(mask->geometry(), window.rect());
+    mask->raise();
+    const int grey = qGray(window.grab().toImage().pixel(150, 150));
+    QVERIFY2(grey > 100 && grey < 150, qPrintable(QString::number(grey)));
+}
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    if (Probe::isChild())
+        return probeScreen();
+    TestCommonFunction test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_commonfunction.moc"
