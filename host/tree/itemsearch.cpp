@@ -1,0 +1,89 @@
+#include "host/tree/itemsearch.h"
+
+#include "host/tree/itemtree.h"
+
+#include <QElapsedTimer>
+
+namespace {
+constexpr int SliceMs = 8;
+constexpr int ItemsBetweenLooksAtTheClock = 512;
+} // namespace
+
+ItemSearch::ItemSearch(const ItemTree &tree, QObject *parent)
+    : QObject(parent)
+    , m_tree(tree)
+{
+    m_timer.setInterval(0);
+    connect(&m_timer, &QTimer::timeout, this, &ItemSearch::step);
+}
+
+void ItemSearch::start(const QString &keyword)
+{
+    clear();
+    if (keyword.isEmpty())
+        return;
+    m_keyword = keyword;
+    m_matcher = QStringMatcher(keyword, Qt::CaseInsensitive);
+    m_root.reset(new TreeItemData);
+    m_root->kind = ItemRecord::FolderKind;
+    m_root->secondaryId = -2 - m_searches++; // below zero: never that of a record
+    m_root->exists = true;
+    m_timer.start();
+}
+
+void ItemSearch::resume()
+{
+    if (isActive() && !isComplete())
+        m_timer.start();
+}
+
+void ItemSearch::clear()
+{
+    m_timer.stop();
+    m_keyword.clear();
+    m_root.reset();
+    m_next = 0;
+}
+
+bool ItemSearch::isComplete() const
+{
+    return m_next >= m_tree.records().size();
+}
+
+void ItemSearch::step()
+{
+    QElapsedTimer clock;
+    clock.start();
+    const RecordStore &records = m_tree.records();
+    const int end = records.size();
+    while (m_next < end) {
+        ItemRecord *record = records.at(m_next++);
+        if (record->isShown && !record->isRoot && m_matcher.indexIn(record->name) >= 0) {
+            (record->isFolder() ? m_root->childFolders : m_root->childFiles).append(record);
+            ++m_root->itemCount;
+            m_root->folderSize += record->size();
+        }
+        if (m_next % ItemsBetweenLooksAtTheClock == 0 && clock.elapsed() >= SliceMs)
+            break;
+    }
+    if (isComplete())
+        m_timer.stop();
+    emit progressed();
+}
+
+void ItemSearch::updateCheckState()
+{
+    if (!m_root)
+        return;
+    bool checked = false;
+    bool unchecked = false;
+    for (const auto *list : {&m_root->childFolders, &m_root->childFiles}) {
+        for (const TreeItemData *item : *list) {
+            checked = checked || item->checkState != Qt::Unchecked;
+            unchecked = unchecked || item->checkState != Qt::Checked;
+            if (checked && unchecked)
+                break;
+        }
+    }
+    m_root->checkState = !checked ? Qt::Unchecked : unchecked ? Qt::PartiallyChecked : Qt::Checked;
+}

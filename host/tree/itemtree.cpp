@@ -1,0 +1,310 @@
+#include "host/tree/itemtree.h"
+
+#include "host/scan/filecategory.h"
+#include "host/tree/itemkinds.h"
+
+namespace {
+
+/// Everything that counts \a record: the folders above it and, for files, the roots by kind.
+template <typename Visit>
+void forEachContainer(const ItemRecord *record, ItemRecord *allFiles, Visit visit)
+{
+    for (ItemRecord *folder = record->folder(); folder; folder = folder->folder())
+        visit(folder);
+    if (record->kindRoot) {
+        visit(record->kindRoot);
+        visit(allFiles);
+    }
+}
+
+Qt::CheckState stateOf(const ItemRecord &record)
+{
+    if (record.checkedLeaves == 0)
+        return Qt::Unchecked;
+    return record.checkedLeaves == record.leaves ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+} // namespace
+
+ItemTree::ItemTree()
+{
+    clear();
+}
+
+ItemTree::~ItemTree() = default;
+
+void ItemTree::clear()
+{
+    m_folders.clear();
+    m_texts.clear();
+    m_volumes.clear();
+    m_kinds.clear();
+    m_placeRoot = nullptr;
+    m_records.clear();
+    m_checkedFiles = 0;
+    m_checkedBytes = 0;
+    m_allFiles = createRoot(QString(), ItemKinds::AllFilesRootType);
+    for (const ItemKind &kind : ItemKinds::All)
+        m_kinds.append(createRoot(QLatin1String(kind.key), kind.rootType));
+    ++m_revision;
+}
+
+void ItemTree::setVolumes(const QVector<VolumeInfo> &volumes)
+{
+    for (const VolumeInfo &info : volumes) {
+        ItemRecord *volume = createRoot(info.root, 0);
+        volume->volumeRoot = info.root;
+        volume->volume = m_volumes.size();
+        m_volumes.append(volume);
+    }
+    if (m_volumes.size() == 1) {
+        m_placeRoot = m_volumes.first();
+    } else if (!m_volumes.isEmpty()) {
+        m_placeRoot = createRoot(QString(), 0);
+        for (ItemRecord *volume : qAsConst(m_volumes)) {
+            volume->parent = m_placeRoot;
+            volume->path = QStringLiteral("/");
+            m_placeRoot->childFolders.append(volume);
+            ++m_placeRoot->itemCount;
+        }
+    }
+    ++m_revision;
+}
+
+void ItemTree::add(const QVector<FoundItem> &batch)
+{
+    if (m_volumes.isEmpty())
+        return;
+    for (const FoundItem &item : batch) {
+        ItemRecord *record = createRecord(item);
+        if (record->isFolder()) {
+            m_folders.insert(record->fileId, record);
+            if (!m_filter.isActive())
+                show(record);
+        } else if (m_filter.accepts(*record)) {
+            show(record);
+        }
+    }
+    ++m_revision;
+}
+
+void ItemTree::setFilter(const ItemFilter &filter)
+{
+    if (!filter.isActive() && !m_filter.isActive())
+        return;
+    m_filter = filter;
+    rebuild();
+}
+
+ItemRecord *ItemTree::createRoot(const QString &name, int rootType)
+{
+    ItemRecord *root = m_records.create();
+    root->name = name;
+    root->kind = ItemRecord::FolderKind;
+    root->rootType = rootType;
+    root->exists = true;
+    root->isRoot = true;
+    root->isShown = true;
+    return root;
+}
+
+ItemRecord *ItemTree::createRecord(const FoundItem &item)
+{
+    const auto shared = [this](const QString &text) {
+        const auto known = m_texts.constFind(text);
+        return known != m_texts.constEnd() ? *known : *m_texts.insert(text);
+    };
+    ItemRecord *volume = m_volumes.value(item.volume, m_volumes.first());
+    ItemRecord *record = m_records.create();
+    record->fileId = item.id;
+    record->name = item.name;
+    record->path = shared(QLatin1Char('/') + item.path);
+    record->volumeRoot = volume->volumeRoot;
+    record->volume = volume->volume;
+    record->modifiedTime = item.modifiedTime;
+    record->exists = !item.deleted;
+    record->address = item.address;
+    record->sequence = item.sequence;
+    record->parent = m_folders.value(item.parentId, volume);
+    record->isLeaf = true;
+    record->leaves = 1;
+    if (item.folder) {
+        record->kind = ItemRecord::FolderKind;
+    } else {
+        record->kind = ItemRecord::FileKind;
+        record->fileSize = item.size;
+        record->extension = shared(extensionOf(item.name));
+        record->fileCategory = categoryOfExtension(record->extension);
+    }
+    return record;
+}
+
+/// A folder that the filter had no use for comes with the first thing in it that is shown.
+void ItemTree::show(ItemRecord *record)
+{
+    if (!record->folder()->isShown)
+        show(record->folder());
+    record->isShown = true;
+    const bool inherits = record->folder()->checksNewcomers
+        || (!record->isFolder()
+            && (m_allFiles->checksNewcomers
+                || m_kinds[ItemKinds::indexOfCategory(record->fileCategory)]->checksNewcomers));
+    if (inherits && !record->isChecked) {
+        record->isChecked = true;
+        record->checksNewcomers = record->isFolder();
+        if (!record->isFolder()) {
+            ++m_checkedFiles;
+            m_checkedBytes += record->fileSize;
+        }
+    }
+    if (record->isLeaf)
+        record->checkedLeaves = record->isChecked ? 1 : 0;
+    writeCheckState(record);
+    if (!record->isFolder())
+        listByKind(record);
+    link(record);
+}
+
+void ItemTree::listByKind(ItemRecord *file)
+{
+    file->kindRoot = m_kinds[ItemKinds::indexOfCategory(file->fileCategory)];
+    for (ItemRecord *root : {file->kindRoot, m_allFiles}) {
+        root->childFiles.append(file);
+        root->leaves += 1;
+        root->checkedLeaves += file->checkedLeaves;
+        root->itemCount += 1;
+        root->folderSize += file->fileSize;
+        writeCheckState(root);
+        if (root->checkedLeaves < root->leaves)
+            root->checksNewcomers = false;
+    }
+}
+
+void ItemTree::link(ItemRecord *record)
+{
+    ItemRecord *holder = record->folder();
+    (record->isFolder() ? holder->childFolders : holder->childFiles).append(record);
+    int leaves = record->leaves;
+    int checkedLeaves = record->checkedLeaves;
+    if (holder->isLeaf) {
+        // It counted itself while it was empty; from now on its contents count for it.
+        leaves -= 1;
+        checkedLeaves -= holder->checkedLeaves;
+        holder->isLeaf = false;
+        holder->isChecked = false;
+    }
+    for (ItemRecord *folder = holder; folder; folder = folder->folder()) {
+        folder->leaves += leaves;
+        folder->checkedLeaves += checkedLeaves;
+        folder->itemCount += 1;
+        folder->folderSize += record->fileSize;
+        writeCheckState(folder);
+        if (folder->checkedLeaves < folder->leaves)
+            folder->checksNewcomers = false;
+    }
+}
+
+void ItemTree::writeCheckState(ItemRecord *record)
+{
+    record->checkState = stateOf(*record);
+}
+
+void ItemTree::setLeafChecked(ItemRecord *leaf, bool checked)
+{
+    if (leaf->isChecked != checked) {
+        const int step = checked ? 1 : -1;
+        leaf->isChecked = checked;
+        leaf->checkedLeaves = checked ? 1 : 0;
+        if (!leaf->isFolder()) {
+            m_checkedFiles += step;
+            m_checkedBytes += step * leaf->fileSize;
+        }
+        forEachContainer(leaf, m_allFiles, [step, checked](ItemRecord *container) {
+            container->checkedLeaves += step;
+            writeCheckState(container);
+            if (!checked)
+                container->checksNewcomers = false;
+        });
+    }
+    writeCheckState(leaf);
+}
+
+void ItemTree::setChecked(ItemRecord *record, bool checked)
+{
+    if (!record->isShown)
+        return;
+    QVector<ItemRecord *> open{record};
+    while (!open.isEmpty()) {
+        ItemRecord *current = open.takeLast();
+        if (current->isFolder())
+            current->checksNewcomers = checked;
+        if (current->isLeaf) {
+            setLeafChecked(current, checked);
+            continue;
+        }
+        for (TreeItemData *file : qAsConst(current->childFiles))
+            setLeafChecked(static_cast<ItemRecord *>(file), checked);
+        for (TreeItemData *folder : qAsConst(current->childFolders))
+            open.append(static_cast<ItemRecord *>(folder));
+        writeCheckState(
+            current); // the plug-in may have written a state that nothing below bears out
+    }
+}
+
+int ItemTree::hiddenCheckedFiles() const
+{
+    return m_checkedFiles - m_allFiles->checkedLeaves;
+}
+
+QVector<const ItemRecord *> ItemTree::checkedItems() const
+{
+    QVector<const ItemRecord *> items;
+    items.reserve(m_checkedFiles);
+    for (int i = 0; i < m_records.size(); ++i) {
+        const ItemRecord *record = m_records.at(i);
+        if (record->isLeaf && record->isChecked && (record->isShown || !record->isFolder()))
+            items.append(record);
+    }
+    return items;
+}
+
+void ItemTree::resetContainer(ItemRecord *record)
+{
+    record->childFolders.clear();
+    record->childFiles.clear();
+    record->itemCount = 0;
+    record->folderSize = 0;
+    record->leaves = 0;
+    record->checkedLeaves = 0;
+    record->checksNewcomers = false;
+    record->checkState = Qt::Unchecked;
+}
+
+void ItemTree::rebuild()
+{
+    for (int i = 0; i < m_records.size(); ++i) {
+        ItemRecord *record = m_records.at(i);
+        record->kindRoot = nullptr;
+        record->isShown = record->isRoot;
+        if (record->isFolder())
+            resetContainer(record);
+        if (!record->isRoot) {
+            record->isLeaf = true;
+            record->leaves = 1;
+        }
+    }
+    if (hasSeveralVolumes()) {
+        for (ItemRecord *volume : qAsConst(m_volumes)) {
+            m_placeRoot->childFolders.append(volume);
+            ++m_placeRoot->itemCount;
+        }
+    }
+    for (int i = 0; i < m_records.size(); ++i) {
+        ItemRecord *record = m_records.at(i);
+        if (record->isRoot || record->isShown)
+            continue;
+        if (record->isFolder() ? !m_filter.isActive() : m_filter.accepts(*record))
+            show(record);
+    }
+    ++m_revision;
+}
