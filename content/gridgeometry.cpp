@@ -26,7 +26,7 @@ QSize GridGeometry::contentSize() const
 {
     if (isEmpty())
         return {0, 0};
-    const int width = spacing + qMin(columns, rowCount) * columnWidth();
+    const int width = qMin(columns, rowCount) * columnWidth();
     const qint64 height = spacing + qint64(lineCount()) * lineHeight();
     return {width, int(qMin<qint64>(height, std::numeric_limits<int>::max()))};
 }

@@ -1,6 +1,7 @@
 #include "content/thumbnailgrid.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyle>
@@ -271,7 +272,8 @@ QModelIndex ThumbnailGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers
     int row = 0;
     int onward = 1;
     if (current.isValid()) {
-        const int linesPerPage = qMax(1, viewport()->height() / qMax(1, grid.lineHeight()));
+        const int linesPerPage = qMax(
+            1, (viewport()->height() - grid.cell.height()) / grid.lineHeight());
         row = GridNavigation::target(grid, current.row(), step, linesPerPage);
         onward = GridNavigation::direction(grid, step);
         if (row == current.row())
@@ -329,7 +331,13 @@ QItemSelectionModel::SelectionFlags ThumbnailGrid::selectionCommand(const QModel
 {
     if (m_movingAnchor)
         return QItemSelectionModel::NoUpdate;
-    return QListView::selectionCommand(index, event);
+    const QItemSelectionModel::SelectionFlags command = QListView::selectionCommand(index, event);
+    const bool byKey = event && event->type() == QEvent::KeyPress;
+    constexpr Qt::KeyboardModifiers both = Qt::ControlModifier | Qt::ShiftModifier;
+    if (byKey && command == QItemSelectionModel::NoUpdate
+        && (static_cast<const QKeyEvent *>(event)->modifiers() & both) == both)
+        return QItemSelectionModel::SelectCurrent; // the stock view only moves
+    return command;
 }
 
 QRegion ThumbnailGrid::visualRegionForSelection(const QItemSelection &selection) const
