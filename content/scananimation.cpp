@@ -35,8 +35,10 @@ ScanAnimation::ScanAnimation(QWidget *frame, QObject *parent)
 
 void ScanAnimation::initScaningLottie()
 {
-    if (!m_player)
+    if (!m_player) {
         m_player = new Tarn::ZVLottie(QString(), m_frame);
+        m_player->show(); // the frame may be on screen already
+    }
     m_player->setGeometry(QRect(QPoint(0, 0), m_frame->size()));
     m_player->setisLoop(true);
     m_player->setAnimationSize(m_frame->size());
