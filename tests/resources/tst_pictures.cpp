@@ -50,7 +50,8 @@ double difference(const QImage &left, const QImage &right)
 
 } // namespace
 
-class TestPictures : public QObject {
+class TestPictures : public QObject
+{
     Q_OBJECT
 
 private slots:
@@ -101,6 +102,9 @@ void TestPictures::exists_data()
     for (const char *name :
          {"image200_No_scan_white", "image200_Loading_white", "image200_NoFilter_white"})
         add(s_light + QLatin1String(name), 200, 200);
+    // asked for without the slash that every other picture has
+    add(QStringLiteral(":Images/image200_No scan_white"), 200, 200);
+    add(QStringLiteral(":Images/image142_Search"), 142, 142);
     for (const char *kind : s_fileKinds) {
         add(s_light + QLatin1String("icon32/icon32_File_") + QLatin1String(kind), 32, 32);
         add(s_light + QLatin1String("icon64_File_") + QLatin1String(kind), 64, 64);

@@ -20,7 +20,8 @@ QImage pictureOf(QWidget &widget, const QColor &page)
 
 } // namespace
 
-class TestScanningAnimation : public QObject {
+class TestScanningAnimation : public QObject
+{
     Q_OBJECT
 
 private slots:

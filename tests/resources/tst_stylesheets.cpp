@@ -67,7 +67,8 @@ double contrast(const QColor &text, const QColor &page)
 
 } // namespace
 
-class TestStylesheets : public QObject {
+class TestStylesheets : public QObject
+{
     Q_OBJECT
 
 private slots:

@@ -37,7 +37,8 @@ QMap<QString, QString> keysOfTheCode()
 
 } // namespace
 
-class TestTexts : public QObject {
+class TestTexts : public QObject
+{
     Q_OBJECT
 
 private slots:
