@@ -56,7 +56,7 @@ void CardBackground::draw(QPainter *painter, const DeviceGrid &grid, const CardL
         it = m_plates.insert(key, compose(key, layout, card, label));
     }
     if (grid.isAligned())
-        grid.draw(painter, plate, *it);
+        grid.drawAround(painter, plate, *it, card.covered);
     else
         painter->drawPixmap(plate, *it);
 }

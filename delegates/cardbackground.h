@@ -15,7 +15,8 @@ class RecoverabilityLabel;
 
 /// What lies under a card's picture and name: the view's base, the card in one of its looks, and
 /// the label at its foot. Composed once per size, look and label; then a card costs one copy.
-class CardBackground {
+class CardBackground
+{
 public:
     enum Look { NormalLook, HoverLook, SelectedLook };
 
@@ -24,16 +25,19 @@ public:
     /// What has been composed is out of date: the label's language or font has changed.
     void clear() { m_plates.clear(); }
 
-    struct Card {
+    struct Card
+    {
         Look look = NormalLook;
         std::optional<Recoverability> label;
         bool dark = false;
+        QRect covered; ///< what an opaque picture will hide; need not be painted
     };
     void draw(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
               const QBrush &base, const Card &card, const RecoverabilityLabel &label) const;
 
 private:
-    struct Key {
+    struct Key
+    {
         QSize deviceSize;
         QSize cellSize;
         qreal scale;

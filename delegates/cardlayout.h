@@ -5,7 +5,8 @@
 
 /// Where everything on a thumbnail card stands, in the coordinates of the cell. Painting, size hint
 /// and mouse handling all ask this one struct. Right-to-left mirrors what stands at one side.
-struct CardLayout {
+struct CardLayout
+{
     explicit CardLayout(const QRect &cellRect,
                         Qt::LayoutDirection layoutDirection = Qt::LeftToRight);
 

@@ -5,7 +5,8 @@
 #include <QPixmap>
 
 /// The pictures that cards lay over their background, loaded once per theme.
-struct CardPictures {
+struct CardPictures
+{
     void load();
 
     QPixmap previewMask;

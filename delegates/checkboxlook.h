@@ -18,7 +18,8 @@ Qt::CheckState toggled(int state);
 } // namespace CheckBox
 
 /// The check-box pictures of a theme.
-class CheckBoxPictures {
+class CheckBoxPictures
+{
 public:
     void load();
     const QPixmap &picture(CheckBox::Look look) const;

@@ -10,7 +10,8 @@ class QTextBrowser;
 
 /// Marks the search keyword in item names. Keywords are regular expressions, taken as they stand:
 /// "a.c" marks "abc" too, and one that is no valid pattern marks nothing.
-class CHighLighter : public QSyntaxHighlighter {
+class CHighLighter : public QSyntaxHighlighter
+{
     Q_OBJECT
 
 public:
@@ -24,7 +25,8 @@ protected:
     void highlightBlock(const QString &text) override;
 
 private:
-    struct Rule {
+    struct Rule
+    {
         QRegExp pattern;
         QTextCharFormat format;
     };

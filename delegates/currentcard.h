@@ -7,7 +7,8 @@
 
 /// The card that was pressed last. While results stream in the model is reset again and again; the
 /// card is then found by its record, so that the look stays with the item and does not jump.
-class CurrentCard {
+class CurrentCard
+{
 public:
     /// An invalid \a index forgets the card.
     void set(const QModelIndex &index, TreeItemData *item)

@@ -7,7 +7,8 @@ class QPixmap;
 
 /// The device pixels under a painter. What is composed once for whole device pixels and drawn
 /// through this stays sharp at 125 and 150 per cent, where logical edges fall between pixels.
-class DeviceGrid {
+class DeviceGrid
+{
 public:
     explicit DeviceGrid(const QPainter *painter);
 
@@ -16,10 +17,17 @@ public:
     qreal scale() const { return m_transform.m11(); }
     /// \a rect in device pixels, its edges rounded.
     QRect deviceRect(const QRect &rect) const;
-    /// Draws \a pixmap, one to one, over deviceRect(\a rect), of which it has the size.
+    /// Draws \a pixmap into \a rect, one to one where it has the size of deviceRect(\a rect),
+    /// smoothly scaled where not. The painter's hint for smooth scaling is left as it was needed.
     void draw(QPainter *painter, const QRect &rect, const QPixmap &pixmap) const;
+    /// The same for a pixmap of the right size, but for \a hole, which is about to be covered.
+    void drawAround(QPainter *painter, const QRect &rect, const QPixmap &pixmap,
+                    const QRect &hole) const;
 
 private:
+    void copy(QPainter *painter, const QPoint &devicePos, const QPixmap &pixmap,
+              const QRect &source) const;
+
     QTransform m_transform;
     bool m_aligned;
 };

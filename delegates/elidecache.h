@@ -5,7 +5,8 @@
 #include <QString>
 
 /// Names cut in the middle, remembered by text and width.
-class ElideCache {
+class ElideCache
+{
 public:
     ElideCache() { m_cache.setMaxCost(MostEntries); }
 

@@ -29,10 +29,15 @@ constexpr int ElideReserve = 15;
 constexpr qreal OverlayOpacity = 0.6;
 constexpr Qt::Alignment CentredText = Qt::AlignHCenter | Qt::AlignVCenter;
 
-void drawIfAny(QPainter *painter, const QRect &rect, const QPixmap &pixmap)
+void drawIfAny(QPainter *painter, const DeviceGrid &grid, const QRect &rect, const QPixmap &pixmap)
 {
     if (!pixmap.isNull() && !rect.isEmpty())
-        painter->drawPixmap(rect, pixmap);
+        grid.draw(painter, rect, pixmap);
+}
+
+QSize logicalSize(const QPixmap &pixmap)
+{
+    return (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
 }
 
 bool hasThumbnail(const TreeItemData &item)
@@ -156,9 +161,8 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const bool isFile = item && kind == ItemKind::File;
     QPixmap thumbnail;
     if (isFile) {
-        ScanPluginPreviewManager *previews = ScanPluginPreviewManager::instance();
-        previews->hasRepairedPreview(item);
-        thumbnail = previews->gridThumbnail(item->fileId);
+        thumbnail = ScanPluginPreviewManager::instance()->gridThumbnail(item->fileId);
+        m_repairedCheck.refresh(item, thumbnail.cacheKey());
     }
     paintCard(painter, option, index, item, kind, thumbnail);
     // last, because whoever listens may destroy the record
@@ -179,26 +183,33 @@ void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &opti
     card.dark = m_theme == DarkTheme;
     if (item && kind == ItemKind::File)
         card.label = recoverabilityOf(item, !thumbnail.isNull(), m_assessmentFinished);
+
+    QRect pictureRect = layout.icon;
+    QPixmap picture;
+    try {
+        if (!thumbnail.isNull()) {
+            pictureRect = layout.thumbnail(logicalSize(thumbnail));
+            picture = fitted(grid, pictureRect, thumbnail);
+            if (!picture.hasAlphaChannel())
+                card.covered = pictureRect;
+        } else if (item) {
+            picture = iconOf(*item, kind);
+        }
+    } catch (...) {
+        qDebug() << "icon delegate draw thumicon exception";
+        item = nullptr;
+    }
     m_background.draw(painter, grid, layout, option.palette.base(), card, m_label);
     if (!item)
         return;
 
-    QRect picture;
-    try {
-        if (!thumbnail.isNull())
-            picture = drawThumbnail(painter, grid, layout, thumbnail);
-        painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        if (thumbnail.isNull())
-            picture = drawIcon(painter, layout, *item, kind);
-    } catch (...) {
-        qDebug() << "icon delegate draw thumicon exception";
-        return;
-    }
+    drawIfAny(painter, grid, pictureRect, picture);
     if (kind == ItemKind::File)
-        drawOverlays(painter, layout, picture, *item, option.state & QStyle::State_MouseOver);
+        drawOverlays(painter, grid, layout, pictureRect, *item,
+                     option.state.testFlag(QStyle::State_MouseOver));
     if (!thumbnail.isNull() && item->property("previewRepaired").toBool())
-        drawIfAny(painter, layout.repairBadge(layout.thumbArea), m_pictures.repairBadge);
-    drawIfAny(painter, layout.checkBox,
+        drawIfAny(painter, grid, layout.repairBadge(layout.thumbArea), m_pictures.repairBadge);
+    drawIfAny(painter, grid, layout.checkBox,
               m_pictures.checkBox.picture(
                   CheckBox::lookOf(*item, item->checkState, m_emptyFolderCheckable)));
     drawTexts(painter, layout, *item);
@@ -218,38 +229,25 @@ CardBackground::Look IconDelegate::lookOf(const QStyleOptionViewItem &option,
     return CardBackground::NormalLook;
 }
 
-QRect IconDelegate::drawThumbnail(QPainter *painter, const DeviceGrid &grid,
-                                  const CardLayout &layout, const QPixmap &thumbnail) const
+QPixmap IconDelegate::fitted(const DeviceGrid &grid, const QRect &rect,
+                             const QPixmap &thumbnail) const
 {
-    const QRect target = layout.thumbnail(
-        (QSizeF(thumbnail.size()) / thumbnail.devicePixelRatio()).toSize());
-    if (target.isEmpty())
-        return {};
-    if (grid.isAligned()) {
-        const QSize deviceSize = grid.deviceRect(target).size();
-        if (!deviceSize.isEmpty())
-            grid.draw(painter, target, m_scaledThumbnails.scaled(thumbnail, deviceSize));
-    } else {
-        painter->setRenderHint(QPainter::SmoothPixmapTransform);
-        painter->drawPixmap(target, thumbnail);
-    }
-    return target;
+    if (!grid.isAligned())
+        return thumbnail;
+    const QSize deviceSize = rect.isEmpty() ? QSize() : grid.deviceRect(rect).size();
+    return deviceSize.isEmpty() ? QPixmap() : m_scaledThumbnails.scaled(thumbnail, deviceSize);
 }
 
-QRect IconDelegate::drawIcon(QPainter *painter, const CardLayout &layout, const TreeItemData &item,
-                             int kind) const
+QPixmap IconDelegate::iconOf(const TreeItemData &item, int kind) const
 {
-    if (ItemKind::isFolderLike(kind)) {
-        drawIfAny(painter, layout.icon, m_pictures.folderIcon);
-    } else if (kind == ItemKind::File) {
-        drawIfAny(painter, layout.icon, FileTypeIcons::icon(item, FileTypeIcons::Size::Card));
-        return layout.icon;
-    }
-    return {};
+    if (ItemKind::isFolderLike(kind))
+        return m_pictures.folderIcon;
+    return kind == ItemKind::File ? FileTypeIcons::icon(item, FileTypeIcons::Size::Card)
+                                  : QPixmap();
 }
 
-void IconDelegate::drawOverlays(QPainter *painter, const CardLayout &layout, const QRect &picture,
-                                const TreeItemData &item, bool hovered) const
+void IconDelegate::drawOverlays(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
+                                const QRect &picture, const TreeItemData &item, bool hovered) const
 {
     const bool playable = ItemKind::isPlayable(item.fileCategory);
     if (!playable && !hovered)
@@ -257,10 +255,11 @@ void IconDelegate::drawOverlays(QPainter *painter, const CardLayout &layout, con
     const QRect overlay = layout.overlay(picture);
     painter->setOpacity(OverlayOpacity);
     if (playable)
-        drawIfAny(painter, overlay, m_pictures.playButton);
+        drawIfAny(painter, grid, overlay, m_pictures.playButton);
     if (hovered) {
-        drawIfAny(painter, layout.thumbArea, m_pictures.previewMask);
-        drawIfAny(painter, overlay, playable ? m_pictures.playButton : m_pictures.previewButton);
+        drawIfAny(painter, grid, layout.thumbArea, m_pictures.previewMask);
+        drawIfAny(painter, grid, overlay,
+                  playable ? m_pictures.playButton : m_pictures.previewButton);
     }
     painter->setOpacity(1.0);
 }
@@ -318,12 +317,16 @@ bool IconDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
         return base();
     }
 
+    const QVariant kindOfItem = index.data(KindRole);
+    if (!kindOfItem.isValid()) // the record has died under the mouse
+        return base();
+    const int kind = kindOfItem.toInt();
     const auto *mouse = static_cast<QMouseEvent *>(event);
     const CardLayout layout(option.rect, option.direction);
     const bool inside = layout.cell.contains(mouse->pos());
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        if (inside && press(*mouse, model, layout, index))
+        if (inside && press(*mouse, model, layout, index, kind))
             return false;
         break;
     case QEvent::MouseButtonDblClick:
@@ -333,7 +336,7 @@ bool IconDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
         }
         break;
     case QEvent::MouseMove:
-        if (index.data(KindRole).toInt() == ItemKind::File) {
+        if (kind == ItemKind::File) {
             hover(mouse->pos(), layout, index);
             return false;
         }
@@ -346,9 +349,8 @@ bool IconDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
 }
 
 bool IconDelegate::press(const QMouseEvent &event, QAbstractItemModel *model,
-                         const CardLayout &layout, const QModelIndex &index)
+                         const CardLayout &layout, const QModelIndex &index, int kind)
 {
-    const int kind = index.data(KindRole).toInt();
     if (event.button() == Qt::RightButton) {
         if (kind != ItemKind::File)
             return false;

@@ -8,6 +8,7 @@
 #include "delegates/itemcolors.h"
 #include "delegates/namepainter.h"
 #include "delegates/recoverabilitylabel.h"
+#include "delegates/repairedpreviewcheck.h"
 #include "delegates/scaledthumbnails.h"
 #include "delegates/tooltipthrottle.h"
 
@@ -24,7 +25,8 @@ class QMouseEvent;
 /// item; a record that has died is an empty card. Writes check states through the model. The view
 /// hands it mouse events with tracking on, and a QEvent::Leave when the mouse leaves the grid.
 /// Follows the theme and the language by itself; repainting the view is the owner's. GUI thread.
-class IconDelegate : public QStyledItemDelegate {
+class IconDelegate : public QStyledItemDelegate
+{
     Q_OBJECT
 
 public:
@@ -84,18 +86,16 @@ private:
     CardBackground::Look lookOf(const QStyleOptionViewItem &option, const QModelIndex &index,
                                 TreeItemData *item) const;
     bool isMarked(const QModelIndex &index) const;
-    /// These two return where the picture has been drawn; nothing for a folder.
-    QRect drawThumbnail(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
-                        const QPixmap &thumbnail) const;
-    QRect drawIcon(QPainter *painter, const CardLayout &layout, const TreeItemData &item,
-                   int kind) const;
-    void drawOverlays(QPainter *painter, const CardLayout &layout, const QRect &picture,
-                      const TreeItemData &item, bool hovered) const;
+    /// \a thumbnail in the device pixels of \a rect; null when there is not one of them.
+    QPixmap fitted(const DeviceGrid &grid, const QRect &rect, const QPixmap &thumbnail) const;
+    QPixmap iconOf(const TreeItemData &item, int kind) const;
+    void drawOverlays(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
+                      const QRect &picture, const TreeItemData &item, bool hovered) const;
     void drawTexts(QPainter *painter, const CardLayout &layout, const TreeItemData &item) const;
 
     /// These two tell whether the press has been dealt with.
     bool press(const QMouseEvent &event, QAbstractItemModel *model, const CardLayout &layout,
-               const QModelIndex &index);
+               const QModelIndex &index, int kind);
     bool toggleCheck(QAbstractItemModel *model, const QModelIndex &index, int kind);
     void hover(const QPoint &pos, const CardLayout &layout, const QModelIndex &index);
 
@@ -106,6 +106,7 @@ private:
     CardBackground m_background;
     RecoverabilityLabel m_label;
     mutable ScaledThumbnails m_scaledThumbnails;
+    mutable RepairedPreviewCheck m_repairedCheck;
     mutable NamePainter m_names;
     mutable ElideCache m_elideCache;
     bool m_emptyFolderCheckable = false;

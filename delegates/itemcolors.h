@@ -5,7 +5,8 @@
 #include <QColor>
 
 /// Text colours that cards and rows share.
-struct ItemColors {
+struct ItemColors
+{
     explicit ItemColors(THEMETYPE theme = LightTheme);
 
     QColor text;

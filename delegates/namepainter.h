@@ -16,7 +16,8 @@ class QTextLayout;
 
 /// Draws item names, with the search keyword marked when there is one. The marks are found in a
 /// hidden text browser; what has been laid out once is kept, so that a name costs only its glyphs.
-class NamePainter {
+class NamePainter
+{
 public:
     NamePainter();
     ~NamePainter();

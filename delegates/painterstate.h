@@ -3,7 +3,8 @@
 #include <QPainter>
 
 /// Saves a painter's state and restores it at the end of the scope, also when something throws.
-class PainterState {
+class PainterState
+{
 public:
     explicit PainterState(QPainter *painter)
         : m_painter(painter)

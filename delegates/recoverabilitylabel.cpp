@@ -22,7 +22,8 @@ constexpr int CardMargin = 8;
 constexpr int DotSide = 6;
 constexpr int CaptionOffset = 9; // dot and gap
 
-struct LevelColors {
+struct LevelColors
+{
     QColor darkBackground, lightBackground;
     QColor darkText, lightText;
     QColor darkDot, lightDot;

@@ -13,7 +13,8 @@ class QPainter;
 
 /// The coloured label under a file's name that says how well the file can be recovered. Holds what
 /// is slow to get: the translated captions and their widths.
-class RecoverabilityLabel {
+class RecoverabilityLabel
+{
 public:
     /// To be called first, and again when language or font family have changed.
     void reload();
@@ -27,7 +28,8 @@ public:
     static QString tooltip(Recoverability level);
 
 private:
-    struct Caption {
+    struct Caption
+    {
         QString text;
         int width = 0;
     };

@@ -5,7 +5,8 @@
 
 /// Thumbnails scaled to the device pixels that they cover, so that scaling smoothly costs once and
 /// not at every paint. Bounded by memory; the least recently used goes first.
-class ScaledThumbnails {
+class ScaledThumbnails
+{
 public:
     ScaledThumbnails();
 
@@ -13,7 +14,8 @@ public:
     QPixmap scaled(const QPixmap &pixmap, const QSize &deviceSize);
 
 private:
-    struct Key {
+    struct Key
+    {
         qint64 picture;
         int width;
         int height;

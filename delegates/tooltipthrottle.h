@@ -4,7 +4,8 @@
 #include <QModelIndex>
 
 /// Lets a tooltip for the same index through only after a pause; another index's at once.
-class TooltipThrottle {
+class TooltipThrottle
+{
 public:
     explicit TooltipThrottle(qint64 pauseMs)
         : m_pauseMs(pauseMs)
