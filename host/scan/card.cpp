@@ -1,5 +1,7 @@
 #include "host/scan/card.h"
 
+#include "host/scan/clusterclaims.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -7,7 +9,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <type_traits>
 
 namespace {
 
@@ -157,7 +158,11 @@ CardPool::CardPool(const QString &path, const std::vector<CardVolume> &volumes)
     : m_path(path)
     , m_volumes(volumes)
 {
+    for (size_t i = 0; i < m_volumes.size(); ++i)
+        m_claims.push_back(std::make_unique<ClusterClaims>());
 }
+
+CardPool::~CardPool() = default;
 
 std::unique_ptr<Card> CardPool::take(QString *error)
 {

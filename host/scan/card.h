@@ -9,6 +9,8 @@
 
 #include <tsk/libtsk.h>
 
+class ClusterClaims;
+
 /// Where a file system begins on a medium.
 struct CardVolume {
     TSK_OFF_T offset = 0; ///< bytes
@@ -48,21 +50,24 @@ private:
     CardVolume m_volume;
 };
 
-/// Lends open cards of one medium to threads; as many are open as were in use at one time. Any
-/// thread.
+/// Lends open cards of one medium to threads; as many are open as were in use at one time. Keeps
+/// what readers need to know about the medium as a whole. Any thread.
 class CardPool {
 public:
     CardPool(const QString &path, const std::vector<CardVolume> &volumes);
+    ~CardPool();
 
     /// A card for the caller alone. Null with \a error when the medium cannot be opened any more.
     std::unique_ptr<Card> take(QString *error);
     void giveBack(std::unique_ptr<Card> card);
 
     const std::vector<CardVolume> &volumes() const { return m_volumes; }
+    ClusterClaims &claims(int volume) { return *m_claims[size_t(volume)]; }
 
 private:
     const QString m_path;
     const std::vector<CardVolume> m_volumes;
+    std::vector<std::unique_ptr<ClusterClaims>> m_claims; // one a volume
     std::mutex m_mutex;
     std::vector<std::unique_ptr<Card>> m_idle;
 };

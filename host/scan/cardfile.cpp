@@ -1,6 +1,8 @@
 #include "host/scan/cardfile.h"
 
+#include "host/scan/clusterclaims.h"
 #include "host/scan/deletedcontents.h"
+#include "host/scan/volumefinder.h"
 
 CardFile::CardFile(std::shared_ptr<CardPool> pool, std::unique_ptr<Card> card)
     : m_pool(std::move(pool))
@@ -52,7 +54,8 @@ bool CardFile::find(const FoundItem &item, QString *error)
     m_size = item.size;
     if (m_size == 0 && !item.deleted)
         return true;
-    return checkContents(m_file, item.deleted, error);
+    ClusterClaims *claims = isFatFamily(fs) ? &m_pool->claims(item.volume) : nullptr;
+    return checkContents(m_file, item.deleted, claims, error);
 }
 
 qint64 CardFile::readData(char *data, qint64 length)

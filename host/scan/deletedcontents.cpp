@@ -1,5 +1,6 @@
 #include "host/scan/deletedcontents.h"
 
+#include "host/scan/clusterclaims.h"
 #include "host/scan/volumefinder.h"
 
 #include <QCoreApplication>
@@ -11,14 +12,35 @@ QString tr(const char *text)
     return QCoreApplication::translate("ScanSource", text);
 }
 
-bool isInUse(TSK_FS_INFO *fs, TSK_DADDR_T block)
+QString overwritten()
 {
-    return fs->block_getflags(fs, block) & TSK_FS_BLOCK_FLAG_ALLOC;
+    return tr("A part of the contents has been overwritten by another file.");
+}
+
+QString brokenList()
+{
+    return tr("The list of the file's places on the card is broken.");
+}
+
+/// One stretch of the contents is on the medium and, of a deleted file, still free.
+bool isSound(TSK_FS_INFO *fs, const TSK_FS_ATTR_RUN &run, bool deleted, QString *error)
+{
+    if (run.addr > fs->last_block_act || run.len > fs->last_block_act + 1 - run.addr) {
+        *error = tr("The contents lie past the end of the card.");
+        return false;
+    }
+    for (TSK_DADDR_T block = run.addr; deleted && block < run.addr + run.len; ++block) {
+        if (fs->block_getflags(fs, block) & TSK_FS_BLOCK_FLAG_ALLOC) {
+            *error = overwritten();
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
 
-bool checkContents(TSK_FS_FILE *file, bool deleted, QString *error)
+bool checkContents(TSK_FS_FILE *file, bool deleted, ClusterClaims *claims, QString *error)
 {
     TSK_FS_INFO *fs = file->fs_info;
     const qint64 size = file->meta->size;
@@ -26,8 +48,12 @@ bool checkContents(TSK_FS_FILE *file, bool deleted, QString *error)
     if (size == 0 && isFatFamily(fs))
         return true; // an empty file has no place on the card
     if (!contents) {
-        *error = deleted ? tr("The card no longer says where the contents are.")
-                         : tr("The list of the file's places on the card is broken.");
+        if (!deleted)
+            *error = brokenList();
+        else if (isFatFamily(fs))
+            *error = overwritten(); // its first place is taken
+        else
+            *error = tr("The card no longer says where the contents are.");
         return false;
     }
     if (contents->flags & TSK_FS_ATTR_RES)
@@ -38,36 +64,16 @@ bool checkContents(TSK_FS_FILE *file, bool deleted, QString *error)
     }
 
     qint64 covered = 0;
-    TSK_DADDR_T expected = 0;
     for (const TSK_FS_ATTR_RUN *run = contents->nrd.run; run; run = run->next) {
         if (run->flags & TSK_FS_ATTR_RUN_FLAG_FILLER)
             break;
-        const bool sparse = run->flags & TSK_FS_ATTR_RUN_FLAG_SPARSE;
-        if (!sparse) {
-            if (run->addr + run->len > fs->last_block_act + 1) {
-                *error = tr("The contents lie past the end of the card.");
-                return false;
-            }
-            if (deleted && isFatFamily(fs) && expected != 0 && run->addr != expected) {
-                *error = tr(
-                    "Other files lie between the parts of this one; which parts were its own "
-                    "is no longer known.");
-                return false;
-            }
-            for (TSK_DADDR_T block = run->addr; deleted && block < run->addr + run->len; ++block) {
-                if (isInUse(fs, block)) {
-                    *error = tr("A part of the contents has been overwritten by another file.");
-                    return false;
-                }
-            }
-            expected = run->addr + run->len;
-        }
+        if (!(run->flags & TSK_FS_ATTR_RUN_FLAG_SPARSE) && !isSound(fs, *run, deleted, error))
+            return false;
         covered += qint64(run->len) * fs->block_size;
     }
     if (covered < size && !(contents->flags & TSK_FS_ATTR_COMP)) {
-        *error = deleted ? tr("A part of the contents has been overwritten by another file.")
-                         : tr("The list of the file's places on the card is broken.");
+        *error = deleted ? overwritten() : brokenList();
         return false;
     }
-    return true;
+    return !deleted || !claims || claims->belongTo(file, contents, error);
 }

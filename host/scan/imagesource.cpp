@@ -2,6 +2,7 @@
 
 #include "host/scan/card.h"
 #include "host/scan/cardfile.h"
+#include "host/scan/clusterclaims.h"
 #include "host/scan/volumefinder.h"
 #include "host/scan/volumewalker.h"
 
@@ -57,7 +58,8 @@ ScanOutcome ImageSource::scan(const Sink &sink, const std::atomic<bool> &cancel,
                               const Progress &progress)
 {
     ScanOutcome outcome;
-    std::unique_ptr<Card> card = m_pool->take(&outcome.error);
+    // Not one that has been in use: the library remembers what it has seen.
+    std::unique_ptr<Card> card = Card::open(path(), &outcome.error);
     if (!card)
         return outcome;
     card->setCancel(&cancel);
@@ -70,8 +72,12 @@ ScanOutcome ImageSource::scan(const Sink &sink, const std::atomic<bool> &cancel,
             warnings.add(tr("Volume %1 could not be opened.").arg(i + 1));
             continue;
         }
-        VolumeWalker walker(fs, int(i), ids, sink, cancel, warnings);
-        walker.walkFolders();
+        if (card->size() - volumes[i].offset < m_volumes.at(int(i)).bytes)
+            warnings.add(tr("The card ends before its file system does; files may be cut off."));
+        m_pool->claims(int(i)).clear();
+        VolumeWalker walker(fs, int(i), ids, sink, cancel, warnings, m_pool->claims(int(i)));
+        if (!walker.walkFolders() && !cancel)
+            outcome.error = tr("The card's top folder cannot be read.");
         if (!cancel)
             walker.walkOrphans(orphansName());
         if (progress)
@@ -83,7 +89,6 @@ ScanOutcome ImageSource::scan(const Sink &sink, const std::atomic<bool> &cancel,
     outcome.cancelled = cancel;
     outcome.warnings = warnings.lines();
     outcome.skipped = warnings.count();
-    m_pool->giveBack(std::move(card));
     return outcome;
 }
 

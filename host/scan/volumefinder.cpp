@@ -37,7 +37,7 @@ QString nameOf(TSK_FS_TYPE_ENUM type)
     }
 }
 
-QString labelIn(TSK_FS_INFO *fs)
+QString labelInRoot(TSK_FS_INFO *fs)
 {
     QString label;
     TSK_FS_DIR *root = tsk_fs_dir_open_meta(fs, fs->root_inum);
@@ -47,6 +47,41 @@ QString labelIn(TSK_FS_INFO *fs)
         label = volumeLabelOf(fs, tsk_fs_dir_get_name(root, i));
     tsk_fs_dir_close(root);
     return label;
+}
+
+QString labelInSuperblock(TSK_FS_INFO *fs)
+{
+    constexpr TSK_OFF_T LabelOffset = 1024 + 120;
+    char label[16 + 1] = {};
+    tsk_fs_read(fs, LabelOffset, label, sizeof(label) - 1);
+    return QString::fromUtf8(label).trimmed();
+}
+
+QString labelInVolumeRecord(TSK_FS_INFO *fs)
+{
+    constexpr TSK_INUM_T VolumeRecord = 3;
+    constexpr int MaxLetters = 128;
+    QString label;
+    TSK_FS_FILE *file = tsk_fs_file_open_meta(fs, nullptr, VolumeRecord);
+    const TSK_FS_ATTR *name = file
+        ? tsk_fs_file_attr_get_type(file, TSK_FS_ATTR_TYPE_NTFS_VNAME, 0, 0)
+        : nullptr;
+    char letters[MaxLetters * 2] = {};
+    const ssize_t got = name
+        ? tsk_fs_attr_read(name, 0, letters, sizeof(letters), TSK_FS_FILE_READ_FLAG_NONE)
+        : 0;
+    for (ssize_t i = 0; i + 1 < got; i += 2)
+        label += QChar(uchar(letters[i]), uchar(letters[i + 1]));
+    if (file)
+        tsk_fs_file_close(file);
+    return label;
+}
+
+QString labelIn(TSK_FS_INFO *fs)
+{
+    if (isFatFamily(fs))
+        return labelInRoot(fs);
+    return fs->ftype == TSK_FS_TYPE_NTFS ? labelInVolumeRecord(fs) : labelInSuperblock(fs);
 }
 
 template <size_t Count>

@@ -1,5 +1,6 @@
 #include "host/scan/volumewalker.h"
 
+#include "host/scan/clusterclaims.h"
 #include "host/scan/volumefinder.h"
 
 #include <QCoreApplication>
@@ -41,22 +42,26 @@ QString decoded(const char *name)
 } // namespace
 
 VolumeWalker::VolumeWalker(TSK_FS_INFO *fs, int volume, ScanIds &ids, const ScanSource::Sink &sink,
-                           const std::atomic<bool> &cancel, Warnings &warnings)
+                           const std::atomic<bool> &cancel, Warnings &warnings,
+                           ClusterClaims &claims)
     : m_fs(fs)
     , m_volume(volume)
     , m_ids(ids)
     , m_sink(sink)
     , m_cancel(cancel)
     , m_warnings(warnings)
+    , m_claims(claims)
 {
     m_sinceBatch.start();
 }
 
-void VolumeWalker::walkFolders()
+bool VolumeWalker::walkFolders()
 {
     m_walked.insert(m_fs->root_inum);
-    m_live.push_back({m_fs->root_inum, QString(), -1, 0, false});
+    if (!list({m_fs->root_inum, QString(), -1, 0, false}))
+        return false;
     walk();
+    return true;
 }
 
 void VolumeWalker::walkOrphans(const QString &folderName)
@@ -79,25 +84,30 @@ void VolumeWalker::walk()
     flush();
 }
 
-void VolumeWalker::list(const Folder &folder)
+bool VolumeWalker::list(const Folder &folder)
 {
     TSK_FS_DIR *dir = tsk_fs_dir_open_meta(m_fs, folder.address);
     if (!dir) {
         // Of a deleted folder it is no fault that nothing is left.
         if (!m_cancel && !folder.deleted)
             m_warnings.add(tr("The folder /%1 could not be read.").arg(folder.path));
-        return;
+        return false;
     }
     const size_t count = tsk_fs_dir_getsize(dir);
     for (size_t i = 0; i < count && !m_cancel; ++i) {
         TSK_FS_FILE *file = tsk_fs_dir_get(dir, i);
         if (!file)
             continue;
-        if (file->name && file->name->name)
+        if (file->name && file->name->name) {
+            // The library leaves the records of orphans out.
+            if (!file->meta && isFatFamily(m_fs))
+                m_fs->file_add_meta(m_fs, file, file->name->meta_addr);
             take(file, folder);
+        }
         tsk_fs_file_close(file);
     }
     tsk_fs_dir_close(dir);
+    return true;
 }
 
 bool VolumeWalker::isNoise(const TSK_FS_NAME *name, const TSK_FS_META *meta) const
@@ -107,6 +117,10 @@ bool VolumeWalker::isNoise(const TSK_FS_NAME *name, const TSK_FS_META *meta) con
     if (!isFolderType(name, meta) && !isFileType(name, meta))
         return true; // links, devices, and what the library makes up itself
     if (!volumeLabelOf(m_fs, name).isEmpty())
+        return true;
+    if (m_fs->ftype == TSK_FS_TYPE_EXFAT && name->par_addr == m_fs->root_inum
+        && (std::strcmp(name->name, "$ALLOC_BITMAP") == 0
+            || std::strcmp(name->name, "$UPCASE_TABLE") == 0))
         return true;
     if (m_fs->ftype == TSK_FS_TYPE_NTFS && name->meta_addr < FirstNtfsUserRecord)
         return true; // the file system's own
@@ -171,6 +185,8 @@ void VolumeWalker::take(TSK_FS_FILE *file, const Folder &folder)
     }
     item.id = m_ids.next();
     deliver(item);
+    if (isFatFamily(m_fs))
+        m_claims.add(file, item.deleted, !inOrphans);
 
     if (!item.folder || m_walked.contains(item.address))
         return;

@@ -11,7 +11,7 @@
 
 #include <tsk/libtsk.h>
 
-class Card;
+class ClusterClaims;
 
 /// Finds the files of one file system, live ones first, and hands them on in batches. One thread,
 /// which owns the file system while the walk runs.
@@ -22,10 +22,12 @@ class Card;
 class VolumeWalker {
 public:
     VolumeWalker(TSK_FS_INFO *fs, int volume, ScanIds &ids, const ScanSource::Sink &sink,
-                 const std::atomic<bool> &cancel, Warnings &warnings);
+                 const std::atomic<bool> &cancel, Warnings &warnings, ClusterClaims &claims);
 
-    void walkFolders();                          ///< what can be reached from the root
-    void walkOrphans(const QString &folderName); ///< deleted files whose folder is gone
+    /// What can be reached from the root. False when the root itself cannot be read.
+    bool walkFolders();
+    /// Deleted files whose folder is gone.
+    void walkOrphans(const QString &folderName);
 
 private:
     struct Folder {
@@ -37,7 +39,7 @@ private:
     };
 
     void walk();
-    void list(const Folder &folder);
+    bool list(const Folder &folder);
     void take(TSK_FS_FILE *file, const Folder &folder);
     bool isNoise(const TSK_FS_NAME *name, const TSK_FS_META *meta) const;
     bool isFirstSight(const TSK_FS_NAME *name, const Folder &folder);
@@ -50,6 +52,7 @@ private:
     const ScanSource::Sink &m_sink;
     const std::atomic<bool> &m_cancel;
     Warnings &m_warnings;
+    ClusterClaims &m_claims;
 
     std::deque<Folder> m_live; // walked before any of m_deleted
     std::deque<Folder> m_deleted;

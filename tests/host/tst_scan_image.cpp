@@ -1,0 +1,497 @@
+#include "cardbuilder.h"
+
+#include "host/scan/imagesource.h"
+#include "host/scan/scansource.h"
+
+#include <QHash>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+constexpr qint64 MiB = 1 << 20;
+
+struct Scan {
+    QString error; // of opening
+    ScanOutcome outcome;
+    std::shared_ptr<ScanSource> source;
+    QVector<FoundItem> items;
+
+    explicit Scan(const QString &path)
+    {
+        source = ScanSource::create(path, &error);
+        std::atomic<bool> cancel{false};
+        if (source)
+            outcome = source->scan([this](QVector<FoundItem> &&batch) { items += batch; }, cancel);
+    }
+
+    /// The item at a path; one without an id when there is none. \a deleted picks among two.
+    FoundItem at(const QString &path, bool deleted = false) const
+    {
+        for (const FoundItem &item : items) {
+            if (item.fullPath() == path && item.deleted == deleted)
+                return item;
+        }
+        return {};
+    }
+
+    /// What is read back, or the reason in front of which stands "!".
+    QByteArray contents(const FoundItem &item) const
+    {
+        QString reason;
+        const auto device = source->openFile(item, &reason);
+        if (!device)
+            return QByteArray("!") + reason.toUtf8();
+        QByteArray bytes(int(item.size), Qt::Uninitialized);
+        const qint64 got = device->read(bytes.data(), bytes.size());
+        return got == item.size ? bytes : QByteArray("!") + device->errorString().toUtf8();
+    }
+
+    QStringList paths() const
+    {
+        QStringList result;
+        for (const FoundItem &item : items)
+            result << item.fullPath() + (item.deleted ? QStringLiteral("*") : QString());
+        result.sort();
+        return result;
+    }
+};
+
+} // namespace
+
+class TestScanImage : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void everyFatKind_data();
+    void everyFatKind();
+    void otherFileSystems_data();
+    void otherFileSystems();
+    void ntfsContents();
+    void severalVolumes();
+    void fatTimesAreLocal();
+    void overwrittenIsNotDelivered();
+    void orphansHaveTheirFolder();
+    void foldersInCircles();
+    void brokenImages_data();
+    void brokenImages();
+    void goesAwayDuringTheScan();
+    void cancelIsQuick();
+    void readsOnManyThreads();
+    void mutatedImages();
+
+private:
+    QString file(const QString &name) const { return m_dir->filePath(name); }
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+#define NEEDS(...)                                                                                 \
+    do {                                                                                           \
+        const QStringList tools{__VA_ARGS__};                                                      \
+        if (!CardBuilder::hasTools(tools))                                                         \
+            QSKIP(qPrintable(QStringLiteral("needs ") + tools.join(QLatin1Char(' '))));            \
+    } while (false)
+#define NEEDS_FAT()                                                                                \
+    NEEDS(QStringLiteral("mkfs.fat"), QStringLiteral("mcopy"), QStringLiteral("mdel"))
+
+void TestScanImage::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+}
+
+void TestScanImage::everyFatKind_data()
+{
+    QTest::addColumn<int>("bits");
+    QTest::addColumn<int>("megabytes");
+    QTest::addColumn<int>("offset");
+    QTest::newRow("FAT12") << 12 << 2 << 0;
+    QTest::newRow("FAT16") << 16 << 20 << 0;
+    QTest::newRow("FAT32") << 32 << 40 << 0;
+    QTest::newRow("FAT32 in a partition") << 32 << 40 << int(MiB);
+}
+
+void TestScanImage::everyFatKind()
+{
+    NEEDS_FAT();
+    QFETCH(int, bits);
+    QFETCH(int, megabytes);
+    QFETCH(int, offset);
+    CardBuilder card(file(QStringLiteral("card.img")), megabytes * MiB, offset);
+    card.formatFat(bits);
+    if (offset > 0)
+        card.writePartitionTable(0x0c);
+    const QString longName = QStringLiteral("Ein längerer Name – 写真.jpeg");
+    card.makeFolder(QStringLiteral("DCIM"));
+    card.makeFolder(QStringLiteral("DCIM/100ABC"));
+    card.put(QStringLiteral("DCIM/100ABC/IMG_0001.JPG"), noise(70001, 1));
+    card.put(QStringLiteral("DCIM/100ABC/") + longName, noise(50000, 2));
+    card.put(QStringLiteral("DCIM/100ABC/gone with a long name.jpg"), noise(123457, 3));
+    card.put(QStringLiteral("DCIM/100ABC/IMG_0002.JPG"), noise(4096, 4));
+    card.put(QStringLiteral("empty.txt"), QByteArray());
+    card.remove(QStringLiteral("DCIM/100ABC/gone with a long name.jpg"));
+    card.remove(QStringLiteral("DCIM/100ABC/IMG_0002.JPG"));
+
+    const Scan scan(card.path());
+    QVERIFY2(scan.source, qPrintable(scan.error));
+    QVERIFY2(scan.outcome.error.isEmpty(), qPrintable(scan.outcome.error));
+    QCOMPARE(scan.source->volumes().size(), 1);
+    QCOMPARE(scan.source->volumes().first().fileSystem, QStringLiteral("FAT%1").arg(bits));
+    QCOMPARE(scan.source->volumes().first().label, QStringLiteral("CARD"));
+    const QString folder = QStringLiteral("DCIM/100ABC/");
+    const QStringList expected{QStringLiteral("DCIM"),
+                               QStringLiteral("DCIM/100ABC"),
+                               folder + longName,
+                               folder + QStringLiteral("IMG_0001.JPG"),
+                               folder + QStringLiteral("_MG_0002.JPG*"),
+                               folder + QStringLiteral("gone with a long name.jpg*"),
+                               QStringLiteral("empty.txt")};
+    QStringList sorted = expected;
+    sorted.sort();
+    QCOMPARE(scan.paths(), sorted);
+    QCOMPARE(scan.contents(scan.at(folder + QStringLiteral("IMG_0001.JPG"))), noise(70001, 1));
+    QCOMPARE(scan.contents(scan.at(folder + longName)), noise(50000, 2));
+    QCOMPARE(scan.contents(scan.at(folder + QStringLiteral("gone with a long name.jpg"), true)),
+             noise(123457, 3));
+    QCOMPARE(scan.contents(scan.at(folder + QStringLiteral("_MG_0002.JPG"), true)), noise(4096, 4));
+    QCOMPARE(scan.contents(scan.at(QStringLiteral("empty.txt"))), QByteArray());
+
+    QSet<qint64> known{-1};
+    for (const FoundItem &item : scan.items) {
+        QVERIFY2(known.contains(item.parentId), qPrintable(item.name));
+        QVERIFY(item.id > 0 && !known.contains(item.id));
+        known.insert(item.id);
+    }
+}
+
+void TestScanImage::otherFileSystems_data()
+{
+    QTest::addColumn<QString>("tool");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("fileSystem");
+    QTest::addColumn<int>("megabytes");
+    QTest::addColumn<bool>("filled");
+    const auto row = [](const char *name, const char *tool, const QStringList &arguments,
+                        const char *fileSystem, int megabytes, bool filled) {
+        QTest::newRow(name) << QString::fromLatin1(tool) << arguments
+                            << QString::fromLatin1(fileSystem) << megabytes << filled;
+    };
+    const QString l = QStringLiteral("-L");
+    const QString label = QStringLiteral("CARD");
+    const QString q = QStringLiteral("-q");
+    row("ext2", "mkfs.ext2", {q, l, label}, "ext2", 4, true);
+    row("ext3", "mkfs.ext3", {q, l, label}, "ext3", 8, true);
+    row("ext4", "mkfs.ext4", {q, l, label}, "ext4", 8, true);
+    row("exFAT", "mkfs.exfat", {l, label}, "exFAT", 8, false);
+    row("NTFS", "mkfs.ntfs", {QStringLiteral("-F"), QStringLiteral("-Q"), l, label}, "NTFS", 8,
+        false);
+}
+
+void TestScanImage::otherFileSystems()
+{
+    QFETCH(QString, tool);
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, fileSystem);
+    QFETCH(int, megabytes);
+    QFETCH(bool, filled);
+    NEEDS(tool);
+    CardBuilder card(file(QStringLiteral("card.img")), megabytes * MiB);
+    if (filled) {
+        QDir tree(file(QStringLiteral("tree")));
+        QVERIFY(tree.mkpath(QStringLiteral("DCIM")));
+        QFile photo(tree.filePath(QStringLiteral("DCIM/photo.jpg")));
+        QVERIFY(photo.open(QIODevice::WriteOnly));
+        photo.write(noise(300001, 5));
+        photo.close();
+        QFile::link(QStringLiteral("/etc"), tree.filePath(QStringLiteral("link")));
+        arguments << QStringLiteral("-d") << tree.path();
+    }
+    card.format(tool, arguments);
+    const Scan scan(card.path());
+    QVERIFY2(scan.source, qPrintable(scan.error));
+    QCOMPARE(scan.source->volumes().first().fileSystem, fileSystem);
+    QCOMPARE(scan.source->volumes().first().label, QStringLiteral("CARD"));
+    QVERIFY2(scan.outcome.error.isEmpty(), qPrintable(scan.outcome.error));
+    const QStringList expected{QStringLiteral("DCIM"), QStringLiteral("DCIM/photo.jpg"),
+                               QStringLiteral("lost+found")};
+    QCOMPARE(scan.paths(), filled ? expected : QStringList()); // nothing of the system's own
+    if (filled)
+        QCOMPARE(scan.contents(scan.at(QStringLiteral("DCIM/photo.jpg"))), noise(300001, 5));
+}
+
+void TestScanImage::ntfsContents()
+{
+    NEEDS(QStringLiteral("mkfs.ntfs"), QStringLiteral("ntfscp"));
+    CardBuilder card(file(QStringLiteral("card.img")), 8 * MiB);
+    card.format(QStringLiteral("mkfs.ntfs"), {QStringLiteral("-F"), QStringLiteral("-Q")});
+    for (int i = 0; i < 3; ++i) {
+        const QString photo = QStringLiteral("photo %1.jpg").arg(i);
+        QFile from(file(photo));
+        QVERIFY(from.open(QIODevice::WriteOnly));
+        from.write(noise(100001 + i, quint32(i)));
+        from.close();
+        QVERIFY(CardBuilder::run(QStringLiteral("ntfscp"),
+                                 {QStringLiteral("-f"), card.path(), from.fileName(), photo}));
+    }
+    // A name whose record is no longer in use, as a crash leaves it.
+    const QByteArray bytes = card.bytes();
+    const QString victim = QStringLiteral("photo 1.jpg");
+    const QByteArray name(reinterpret_cast<const char *>(victim.utf16()), victim.size() * 2);
+    int record = -1; // the name is in folders and logs as well
+    for (int at = bytes.indexOf(name); at >= 0 && record < 0; at = bytes.indexOf(name, at + 1)) {
+        const int start = at / 1024 * 1024;
+        if (bytes.mid(start, 4) == "FILE" && bytes.at(start + 44) >= 24) // not the system's own
+            record = start;
+    }
+    QVERIFY(record > 0);
+    card.poke(record + 22, QByteArray(2, 0));
+
+    const Scan scan(card.path());
+    QVERIFY2(scan.source, qPrintable(scan.error));
+    QCOMPARE(scan.items.size(), 3);
+    QCOMPARE(scan.contents(scan.at(QStringLiteral("photo 0.jpg"))), noise(100001, 0));
+    QCOMPARE(scan.contents(scan.at(QStringLiteral("photo 2.jpg"))), noise(100003, 2));
+    QVERIFY(scan.contents(scan.at(victim)).startsWith('!'));
+}
+
+void TestScanImage::severalVolumes()
+{
+    NEEDS_FAT();
+    CardBuilder first(file(QStringLiteral("card.img")), 10 * MiB, MiB);
+    first.formatFat(16, QStringLiteral("FIRST"));
+    first.put(QStringLiteral("same.txt"), "one");
+    QByteArray table = first.bytes();
+    CardBuilder second(file(QStringLiteral("other.img")), 10 * MiB);
+    second.formatFat(16, QStringLiteral("SECOND"));
+    second.put(QStringLiteral("same.txt"), "two");
+    CardBuilder both(file(QStringLiteral("both.img")), 20 * MiB, 10 * MiB);
+    both.writePartitionTable(0x06);
+    const QByteArray lastEntry = both.bytes().mid(446, 16);
+    both.poke(0, table);
+    both.poke(10 * MiB, second.bytes());
+    CardBuilder firstTable(file(QStringLiteral("table.img")), 10 * MiB, MiB);
+    firstTable.writePartitionTable(0x06);
+    both.poke(0, firstTable.bytes().left(512));
+    both.poke(446 + 16, lastEntry);
+
+    const Scan scan(both.path());
+    QVERIFY2(scan.source, qPrintable(scan.error));
+    QCOMPARE(scan.source->volumes().size(), 2);
+    QCOMPARE(scan.source->volumes().at(0).label, QStringLiteral("FIRST"));
+    QVERIFY(scan.source->volumes().at(0).root != scan.source->volumes().at(1).root);
+    QCOMPARE(scan.items.size(), 2);
+    QCOMPARE(scan.contents(scan.items.at(0)), QByteArray("one"));
+    QCOMPARE(scan.contents(scan.items.at(1)), QByteArray("two"));
+    QCOMPARE(scan.items.at(1).volume, 1);
+}
+
+void TestScanImage::fatTimesAreLocal()
+{
+    NEEDS_FAT();
+    CardBuilder card(file(QStringLiteral("card.img")), 2 * MiB);
+    card.formatFat(12);
+    const QDateTime summer(QDate(2023, 7, 14), QTime(12, 30, 2), Qt::LocalTime);
+    const QDateTime winter(QDate(2024, 1, 31), QTime(23, 59, 58), Qt::LocalTime);
+    card.put(QStringLiteral("summer.jpg"), "s", summer);
+    card.put(QStringLiteral("winter.jpg"), "w", winter);
+    const Scan scan(card.path());
+    QCOMPARE(scan.at(QStringLiteral("summer.jpg")).modifiedTime, summer.toSecsSinceEpoch());
+    QCOMPARE(scan.at(QStringLiteral("winter.jpg")).modifiedTime, winter.toSecsSinceEpoch());
+}
+
+void TestScanImage::overwrittenIsNotDelivered()
+{
+    NEEDS_FAT();
+    CardBuilder card(file(QStringLiteral("card.img")), 2 * MiB);
+    card.formatFat(12);
+    card.put(QStringLiteral("first.jpg"), noise(600000, 1));
+    card.put(QStringLiteral("second.jpg"), noise(600000, 2));
+    card.put(QStringLiteral("third.jpg"), noise(600000, 3));
+    card.remove(QStringLiteral("first.jpg"));
+    card.remove(QStringLiteral("third.jpg"));
+    card.put(QStringLiteral("new.jpg"), noise(700000, 4)); // more than the rest of the card: wraps
+    const Scan scan(card.path());
+    QCOMPARE(scan.contents(scan.at(QStringLiteral("second.jpg"))), noise(600000, 2));
+    QCOMPARE(scan.contents(scan.at(QStringLiteral("new.jpg"))), noise(700000, 4));
+    int damaged = 0;
+    for (const auto &gone :
+         {qMakePair(QStringLiteral("first.jpg"), 1u), qMakePair(QStringLiteral("third.jpg"), 3u)}) {
+        const QByteArray got = scan.contents(scan.at(gone.first, true));
+        damaged += got.startsWith('!');
+        QVERIFY(got.startsWith('!') || got == noise(600000, gone.second));
+    }
+    QVERIFY(damaged > 0);
+}
+
+void TestScanImage::orphansHaveTheirFolder()
+{
+    NEEDS_FAT();
+    CardBuilder card(file(QStringLiteral("card.img")), 20 * MiB);
+    card.formatFat(16);
+    card.makeFolder(QStringLiteral("lost"));
+    card.put(QStringLiteral("lost/holiday one.jpg"), noise(50000, 1));
+    card.put(QStringLiteral("lost/holiday two.jpg"), noise(60000, 2));
+    card.removeTree(QStringLiteral("lost"));
+    // Another entry takes the place of the folder's: what it held has no parent any more.
+    card.put(QStringLiteral("LOST"), QByteArray());
+    const Scan scan(card.path());
+    const QString orphans = ImageSource::orphansName();
+    const FoundItem two = scan.at(orphans + QStringLiteral("/_OLIDA~2.JPG"), true);
+    QVERIFY2(two.id > 0, qPrintable(scan.paths().join(QLatin1Char(' '))));
+    QCOMPARE(scan.contents(two), noise(60000, 2));
+    QVERIFY(scan.at(orphans, true).folder);
+    QCOMPARE(two.parentId, scan.at(orphans, true).id);
+}
+
+void TestScanImage::foldersInCircles()
+{
+    NEEDS_FAT();
+    CardBuilder card(file(QStringLiteral("card.img")), 2 * MiB);
+    card.formatFat(12);
+    card.makeFolder(QStringLiteral("AAAA"));
+    card.makeFolder(QStringLiteral("AAAA/BBBB"));
+    card.put(QStringLiteral("AAAA/file.txt"), "x");
+    // B's first cluster becomes A's.
+    const QByteArray bytes = card.bytes();
+    const int a = bytes.indexOf("AAAA       ");
+    const int b = bytes.indexOf("BBBB       ");
+    QVERIFY(a > 0 && b > 0);
+    card.poke(b + 26, bytes.mid(a + 26, 2));
+    const Scan scan(card.path());
+    QVERIFY(scan.at(QStringLiteral("AAAA/file.txt")).id > 0);
+    QVERIFY2(scan.items.size() < 10, qPrintable(scan.paths().join(QLatin1Char(' '))));
+}
+
+void TestScanImage::brokenImages_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("a few bytes") << QByteArray("hello");
+    QTest::newRow("zeros") << QByteArray(100000, 0);
+    QTest::newRow("random bytes") << noise(1000000, 9);
+    QByteArray boot = noise(1000000, 10);
+    boot.replace(510, 2, "\x55\xaa");
+    QTest::newRow("random bytes that end like a boot sector") << boot;
+}
+
+void TestScanImage::brokenImages()
+{
+    QFETCH(QByteArray, bytes);
+    QFile image(file(QStringLiteral("broken.img")));
+    QVERIFY(image.open(QIODevice::WriteOnly));
+    image.write(bytes);
+    image.close();
+    const Scan scan(image.fileName());
+    QVERIFY(!scan.source);
+    QVERIFY(scan.error.contains(QStringLiteral("broken.img")));
+}
+
+void TestScanImage::goesAwayDuringTheScan()
+{
+    NEEDS_FAT();
+    CardBuilder card(file(QStringLiteral("card.img")), 40 * MiB);
+    card.formatFat(32);
+    card.put(QStringLiteral("photo.jpg"), noise(100000, 1));
+    QString error;
+    const auto source = ScanSource::create(card.path(), &error);
+    QVERIFY2(source, qPrintable(error));
+    QVector<FoundItem> items;
+    std::unique_ptr<QIODevice> device;
+    const auto sink = [&](QVector<FoundItem> &&batch) {
+        items = batch;
+        device = source->openFile(items.first(), &error);
+        card.truncate(4096); // the search for orphans is still to come
+    };
+    std::atomic<bool> cancel{false};
+    const ScanOutcome outcome = source->scan(sink, cancel);
+    QCOMPARE(items.size(), 1);
+    QVERIFY(!outcome.error.isEmpty());
+    QVERIFY2(device, qPrintable(error));
+    QByteArray bytes(100000, 0);
+    QCOMPARE(device->read(bytes.data(), bytes.size()), qint64(-1));
+    QVERIFY(!device->errorString().isEmpty());
+}
+
+void TestScanImage::cancelIsQuick()
+{
+    NEEDS_FAT();
+    CardBuilder card(file(QStringLiteral("card.img")), 512 * MiB);
+    card.formatFat(32);
+    card.put(QStringLiteral("photo.jpg"), noise(1000, 1));
+    QString error;
+    const auto source = ScanSource::create(card.path(), &error);
+    QVERIFY2(source, qPrintable(error));
+    std::atomic<bool> cancel{false};
+    QElapsedTimer sinceCancel;
+    const auto sink = [&](QVector<FoundItem> &&) {
+        cancel = true; // the search for orphans is still to come
+        sinceCancel.start();
+    };
+    const ScanOutcome outcome = source->scan(sink, cancel);
+    QVERIFY(outcome.cancelled);
+    QVERIFY(outcome.error.isEmpty());
+    QVERIFY2(sinceCancel.elapsed() < 500, qPrintable(QString::number(sinceCancel.elapsed())));
+}
+
+void TestScanImage::readsOnManyThreads()
+{
+    NEEDS_FAT();
+    CardBuilder card(file(QStringLiteral("card.img")), 20 * MiB);
+    card.formatFat(16);
+    for (int i = 0; i < 12; ++i)
+        card.put(QStringLiteral("photo%1.jpg").arg(i), noise(100000 + i, quint32(i)));
+    const Scan scan(card.path());
+    QCOMPARE(scan.items.size(), 12);
+    QAtomicInt right;
+    std::vector<std::unique_ptr<QThread>> threads;
+    for (int t = 0; t < 3; ++t) {
+        threads.emplace_back(QThread::create([&] {
+            for (const FoundItem &item : scan.items) {
+                const int number = item.name.mid(5).section(QLatin1Char('.'), 0, 0).toInt();
+                if (scan.contents(item) == noise(100000 + number, quint32(number)))
+                    right.ref();
+            }
+        }));
+        threads.back()->start();
+    }
+    std::atomic<bool> cancel{false};
+    scan.source->scan([](QVector<FoundItem> &&) {}, cancel); // at the same time
+    for (const auto &thread : threads)
+        thread->wait();
+    QCOMPARE(right.loadRelaxed(), 36);
+}
+
+void TestScanImage::mutatedImages()
+{
+    NEEDS_FAT();
+    CardBuilder card(file(QStringLiteral("card.img")), 2 * MiB);
+    card.formatFat(12);
+    card.makeFolder(QStringLiteral("DCIM"));
+    for (int i = 0; i < 8; ++i)
+        card.put(QStringLiteral("DCIM/a photo with a long name %1.jpg").arg(i),
+                 noise(9000, quint32(i)));
+    card.remove(QStringLiteral("DCIM/a photo with a long name 3.jpg"));
+    const QByteArray sound = card.bytes();
+    QRandomGenerator random(4711);
+    for (int round = 0; round < 150; ++round) {
+        QByteArray bytes = sound;
+        const int systemArea = 32 * 1024; // tables and folders: where a fault does most
+        for (int i = 0; i < 1 + round % 40; ++i)
+            bytes[int(random.bounded(quint32(systemArea)))] = char(random.generate() & 0xff);
+        QFile image(file(QStringLiteral("mutant.img")));
+        QVERIFY(image.open(QIODevice::WriteOnly));
+        image.write(bytes);
+        image.close();
+        QElapsedTimer timer;
+        timer.start();
+        const Scan scan(image.fileName());
+        for (int i = 0; i < qMin(scan.items.size(), 50); ++i) {
+            if (!scan.items.at(i).folder && scan.items.at(i).size < 10 * MiB)
+                scan.contents(scan.items.at(i));
+        }
+        QVERIFY2(timer.elapsed() < 5000, qPrintable(QStringLiteral("round %1").arg(round)));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestScanImage)
+#include "tst_scan_image.moc"
