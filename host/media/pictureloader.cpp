@@ -7,7 +7,7 @@
 #include <QImageReader>
 #include <QMutex>
 
-#include <cmath>
+#include <algorithm>
 
 namespace {
 
@@ -32,11 +32,12 @@ bool isTrusted(const QByteArray &format)
 
 QSize covering(const QSize &picture, const QSize &cover)
 {
-    QSize scaled = picture.scaled(cover, Qt::KeepAspectRatioByExpanding);
-    scaled = scaled.boundedTo(cover * MaxStretch);
-    scaled = scaled.expandedTo(QSize(1, 1));
-    return scaled.width() < picture.width() || scaled.height() < picture.height() ? scaled
-                                                                                  : picture;
+    const double width = picture.width();
+    const double height = picture.height();
+    const double covers = std::max(cover.width() / width, cover.height() / height);
+    const double fits = MaxStretch * std::min(cover.width() / width, cover.height() / height);
+    const double scale = std::min({1.0, covers, fits});
+    return QSize(qRound(width * scale), qRound(height * scale)).expandedTo(QSize(1, 1));
 }
 
 } // namespace

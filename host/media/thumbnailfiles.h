@@ -6,7 +6,8 @@
 
 /// The thumbnail files in the folder that the plug-in reads. Ids are never given twice (ScanIds),
 /// so a file that an earlier run left behind is never shown; what this run wrote goes with it.
-class ThumbnailFiles {
+class ThumbnailFiles
+{
 public:
     ThumbnailFiles() = default;
     ~ThumbnailFiles() { clear(); }

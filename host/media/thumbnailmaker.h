@@ -16,7 +16,8 @@
 /// answered once, by thumbnailReady() or thumbnailFailed(), unless it is dropped.
 ///
 /// GUI thread; the signals come on it too. Destroying the maker waits for the pictures at work.
-class ThumbnailMaker : public QObject {
+class ThumbnailMaker : public QObject
+{
     Q_OBJECT
 
 public:
@@ -48,7 +49,8 @@ signals:
     void settled();
 
 private:
-    struct Request {
+    struct Request
+    {
         FoundItem item;
         QString extension;
         std::shared_ptr<const ScanSource> source;

@@ -11,7 +11,8 @@
 
 /// Writes items of a source below a target folder, one after the other, on the calling thread. See
 /// RecoveryJob for what it promises.
-class FileRecovery {
+class FileRecovery
+{
 public:
     using Tell = std::function<void(const RecoveryProgress &)>;
 

@@ -9,7 +9,8 @@ namespace {
 constexpr int PollMs = 100;
 }
 
-struct RecoveryJob::Run {
+struct RecoveryJob::Run
+{
     std::unique_ptr<QThread> thread;
     std::atomic<bool> cancel{false};
     QMutex mutex; // guards what follows

@@ -13,7 +13,8 @@
 /// pointless (target full, read-only or gone) the rest is reported as failed with that reason.
 ///
 /// Everything is told on the thread that the job lives in. Destroying the job cancels and waits.
-class RecoveryJob : public QObject {
+class RecoveryJob : public QObject
+{
     Q_OBJECT
 
 public:

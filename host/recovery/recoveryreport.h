@@ -5,7 +5,8 @@
 #include <QVector>
 
 /// One file that has been written, whole.
-struct RecoveredFile {
+struct RecoveredFile
+{
     QString
         path; ///< on the card, from its root; begins with the volume's name where there are several
     QString target;  ///< absolute, where it was written
@@ -14,14 +15,16 @@ struct RecoveredFile {
 };
 
 /// One file or folder that could not be recovered. Nothing of it is left in the target.
-struct FailedFile {
+struct FailedFile
+{
     QString path;   ///< as in RecoveredFile
     QString reason; ///< a sentence for the user
 };
 
 /// Every item that was asked for is in exactly one of the lists, folders only when they failed;
 /// after a cancel, what was not reached is in neither.
-struct RecoveryReport {
+struct RecoveryReport
+{
     QVector<RecoveredFile> recovered;
     QVector<FailedFile> failed;
     QString
@@ -30,7 +33,8 @@ struct RecoveryReport {
     qint64 bytes = 0; ///< written, of whole files
 };
 
-struct RecoveryProgress {
+struct RecoveryProgress
+{
     int filesDone = 0; ///< recovered or failed
     int filesTotal = 0;
     qint64 bytesDone = 0; ///< read so far, of whole files and the current one

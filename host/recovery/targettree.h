@@ -7,7 +7,8 @@
 /// The folders of a card, rebuilt below a target folder. Nothing that is there already is changed
 /// or followed out of the target: where a link or a file stands in a folder's place, the folder
 /// gets another name. One thread.
-class TargetTree {
+class TargetTree
+{
 public:
     explicit TargetTree(const QString &target);
 

@@ -28,7 +28,8 @@ qint64 sizeOf(const std::filesystem::path &path)
 
 } // namespace
 
-struct Card::Medium {
+struct Card::Medium
+{
     TSK_IMG_INFO info; // first: the library hands out its address, we get back to ours
     QFile file;
     const std::atomic<bool> *cancel = nullptr;

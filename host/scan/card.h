@@ -12,14 +12,16 @@
 class ClusterClaims;
 
 /// Where a file system begins on a medium.
-struct CardVolume {
+struct CardVolume
+{
     TSK_OFF_T offset = 0; ///< bytes
     TSK_FS_TYPE_ENUM type = TSK_FS_TYPE_DETECT;
 };
 
 /// An open medium with one open file system at a time: everything of The Sleuth Kit's that may not
 /// be shared between threads. Used by one thread at a time; never writes.
-class Card {
+class Card
+{
 public:
     /// Null when \a path cannot be read; then \a error is a sentence for the user.
     static std::unique_ptr<Card> open(const QString &path, QString *error);
@@ -52,7 +54,8 @@ private:
 
 /// Lends open cards of one medium to threads; as many are open as were in use at one time. Keeps
 /// what readers need to know about the medium as a whole. Any thread.
-class CardPool {
+class CardPool
+{
 public:
     CardPool(const QString &path, const std::vector<CardVolume> &volumes);
     ~CardPool();

@@ -7,7 +7,8 @@
 
 /// The contents of one file on a card. Holds a card of its own while it lives, so it may be used on
 /// any one thread. A place that cannot be read makes read() fail; nothing is filled up with zeros.
-class CardFile : public QIODevice {
+class CardFile : public QIODevice
+{
 public:
     /// Null when the contents are gone or were overwritten; then \a error says why.
     static std::unique_ptr<QIODevice> open(std::shared_ptr<CardPool> pool, const FoundItem &item,

@@ -13,7 +13,8 @@
 /// Which entries of a FAT or exFAT volume say that clusters are theirs. A deleted entry keeps only
 /// the first cluster and the size; whether the contents are still the file's shows only when it is
 /// held against all others. Filled by a scan, asked by readers, on any threads.
-class ClusterClaims {
+class ClusterClaims
+{
 public:
     void clear();
 
@@ -31,18 +32,21 @@ public:
     bool belongTo(TSK_FS_FILE *file, const TSK_FS_ATTR *contents, QString *error);
 
 private:
-    struct Claim {
+    struct Claim
+    {
         TSK_INUM_T address;
         TSK_DADDR_T first; // cluster
         qint64 size;       // bytes
         qint64 created;    // ms; 0: unknown
     };
-    struct Owner {
+    struct Owner
+    {
         TSK_DADDR_T first; // sector
         TSK_DADDR_T end;   // sector after the last
         qint64 created;
     };
-    struct Live {
+    struct Live
+    {
         TSK_INUM_T address;
         qint64 created;
     };

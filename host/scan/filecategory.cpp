@@ -4,7 +4,8 @@
 
 namespace {
 
-struct Family {
+struct Family
+{
     FileCategory category;
     const char *extensions; // lower case, a space between
 };

@@ -36,7 +36,8 @@ bool survivesAsText(const fs::path &name)
 }
 
 /// Reads files that Qt cannot name.
-class OddNameFile : public QIODevice {
+class OddNameFile : public QIODevice
+{
 public:
     explicit OddNameFile(const fs::path &path)
         : m_stream(path, std::ios::binary)
@@ -97,7 +98,8 @@ ScanOutcome FolderSource::scan(const Sink &sink, const std::atomic<bool> &cancel
                                const Progress &progress)
 {
     Q_UNUSED(progress) // the number of files is not known before the end
-    struct Folder {
+    struct Folder
+    {
         fs::path native;
         QString path;
         qint64 id;

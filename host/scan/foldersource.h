@@ -9,7 +9,8 @@
 
 /// The files below a folder of this computer. Links are not followed: what they lead to is found
 /// where it lies, and a walk cannot turn in circles. Special files are left out.
-class FolderSource : public ScanSource {
+class FolderSource : public ScanSource
+{
 public:
     static std::unique_ptr<ScanSource> open(const QString &path, QString *error);
 

@@ -5,7 +5,8 @@
 #include <QVector>
 
 /// One file system on the scanned medium, or the scanned folder.
-struct VolumeInfo {
+struct VolumeInfo
+{
     QString label;      ///< as the file system holds it; may be empty
     QString fileSystem; ///< "FAT32", "exFAT", "NTFS", "ext4" …; "folder" for a folder
     qint64 bytes = 0;   ///< size of the file system; 0: unknown
@@ -14,7 +15,8 @@ struct VolumeInfo {
 };
 
 /// A file or folder that a scan has found: a plain value that crosses threads.
-struct FoundItem {
+struct FoundItem
+{
     qint64 id = -1; ///< positive; unique over all scans, also those of earlier runs (see ScanIds)
     qint64 parentId =
         -1;       ///< -1: directly under the volume's root. A parent comes before its children

@@ -11,7 +11,8 @@ class CardPool;
 ///
 /// Deleted files whose folder is gone are delivered below a folder of their own, orphansName().
 /// What only describes the file system (boot records, allocation tables, journals) is left out.
-class ImageSource : public ScanSource {
+class ImageSource : public ScanSource
+{
 public:
     static std::unique_ptr<ScanSource> open(const QString &path, QString *error);
     ~ImageSource() override;

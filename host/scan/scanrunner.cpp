@@ -6,7 +6,8 @@ constexpr int DeliveryMs = 100;
 
 /// What the scanning thread and the runner share. The runner waits for the thread before it lets
 /// go.
-struct ScanRunner::Run {
+struct ScanRunner::Run
+{
     QString path;
     std::shared_ptr<ScanSource> source; // before the thread starts, or under the mutex
     std::atomic<bool> cancel{false};

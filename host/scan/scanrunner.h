@@ -9,7 +9,8 @@
 #include <QTimer>
 
 /// How far a scan has come. Counts are of what itemsFound() has delivered.
-struct ScanProgress {
+struct ScanProgress
+{
     qint64 files = 0;
     qint64 folders = 0;
     qint64 deleted = 0;        ///< files and folders among the above
@@ -22,7 +23,8 @@ struct ScanProgress {
 /// Opens a source and scans it on a thread of its own; everything it tells comes on the thread that
 /// the runner lives in (the GUI thread), at most about ten times a second. Destroying the runner
 /// cancels the scan and waits for its end.
-class ScanRunner : public QObject {
+class ScanRunner : public QObject
+{
     Q_OBJECT
 
 public:

@@ -11,7 +11,8 @@
 #include <memory>
 
 /// How a scan ended.
-struct ScanOutcome {
+struct ScanOutcome
+{
     QString error; ///< why the scan could not go on; empty: it went through (or was cancelled)
     QStringList warnings; ///< what had to be skipped, one readable line each (a limited number)
     int skipped = 0;      ///< how many things were skipped in all
@@ -25,7 +26,8 @@ Q_DECLARE_METATYPE(ScanOutcome)
 /// Threads: create() and scan() may run on any thread, scan() once at a time. volumes(), path() and
 /// openFile() may be called from any thread at any time, also while a scan runs. The source must
 /// outlive the devices that it opened; hold it by shared_ptr.
-class ScanSource {
+class ScanSource
+{
 public:
     /// Takes a batch of items, parents before children. Called on the scanning thread.
     using Sink = std::function<void(QVector<FoundItem> &&batch)>;

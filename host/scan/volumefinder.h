@@ -6,7 +6,8 @@
 #include <QVector>
 
 /// A file system that was found on a medium, and how it is shown.
-struct FoundVolume {
+struct FoundVolume
+{
     CardVolume volume;
     VolumeInfo info;
 };

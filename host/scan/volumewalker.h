@@ -19,7 +19,8 @@ class ClusterClaims;
 /// On a broken medium folders may contain themselves or each other, and the same entry may turn up
 /// below a live and a deleted folder: each folder is walked once and each entry is told once, the
 /// live place first.
-class VolumeWalker {
+class VolumeWalker
+{
 public:
     VolumeWalker(TSK_FS_INFO *fs, int volume, ScanIds &ids, const ScanSource::Sink &sink,
                  const std::atomic<bool> &cancel, Warnings &warnings, ClusterClaims &claims);
@@ -30,7 +31,8 @@ public:
     void walkOrphans(const QString &folderName);
 
 private:
-    struct Folder {
+    struct Folder
+    {
         TSK_INUM_T address;
         QString path;
         qint64 id;

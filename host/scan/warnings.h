@@ -4,7 +4,8 @@
 
 /// Collects what a scan had to skip. A ruined medium has thousands of faults: the lines are
 /// limited, the count is not.
-class Warnings {
+class Warnings
+{
 public:
     void add(const QString &line)
     {

@@ -8,7 +8,8 @@
 
 /// Makes disk images for tests with the systems' own tools (dosfstools, mtools, e2fsprogs,
 /// exfatprogs, ntfs-3g), so that what we read was not written by us.
-class CardBuilder {
+class CardBuilder
+{
 public:
     /// An image file \a path of \a bytes zeros. The file system begins at \a offset.
     CardBuilder(const QString &path, qint64 bytes, qint64 offset = 0);

@@ -13,7 +13,8 @@
 namespace {
 
 /// A card that holds what a test puts on it, with faults where the test wants them.
-class FakeSource : public ScanSource {
+class FakeSource : public ScanSource
+{
 public:
     FakeSource()
         : ScanSource(QStringLiteral("fake"))
@@ -99,7 +100,8 @@ QStringList everythingIn(const QString &folder)
 
 } // namespace
 
-class TestRecoveryFiles : public QObject {
+class TestRecoveryFiles : public QObject
+{
     Q_OBJECT
 
 private slots:

@@ -11,7 +11,8 @@ namespace {
 
 constexpr qint64 MiB = 1 << 20;
 
-struct Scan {
+struct Scan
+{
     QString error; // of opening
     ScanOutcome outcome;
     std::shared_ptr<ScanSource> source;
@@ -59,7 +60,8 @@ struct Scan {
 
 } // namespace
 
-class TestScanImage : public QObject {
+class TestScanImage : public QObject
+{
     Q_OBJECT
 
 private slots:
