@@ -1,5 +1,8 @@
 #include "content/thumbnailgrid.h"
 
+#include "content/gridaccessible.h"
+
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -26,6 +29,7 @@ ThumbnailGrid::ThumbnailGrid(QWidget *parent)
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_Hover);
+    GridAccessible::install();
 }
 
 ThumbnailGrid::~ThumbnailGrid() = default;
@@ -34,7 +38,7 @@ GridGeometry ThumbnailGrid::geometryNow() const
 {
     GridGeometry grid;
     grid.cell = m_cell;
-    grid.spacing = spacing();
+    grid.spacing = qMax(0, spacing());
     grid.rowCount = model() && model()->columnCount(rootIndex()) > 0
         ? model()->rowCount(rootIndex())
         : 0;
@@ -267,6 +271,8 @@ QModelIndex ThumbnailGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers
 {
     layOutIfDue();
     const GridGeometry grid = geometryNow();
+    if (grid.isEmpty())
+        return currentIndex();
     const QModelIndex current = currentIndex();
     const GridNavigation::Step step = stepOf(action);
     int row = 0;
@@ -405,6 +411,8 @@ void ThumbnailGrid::currentChanged(const QModelIndex &current, const QModelIndex
     if (!m_band.isActive())
         m_anchor = current;
     QAbstractItemView::currentChanged(current, previous);
+    if (current.isValid() && hasFocus())
+        announce(QAccessible::Focus, current.row());
 }
 
 void ThumbnailGrid::selectionChanged(const QItemSelection &selected,
@@ -412,12 +420,33 @@ void ThumbnailGrid::selectionChanged(const QItemSelection &selected,
 {
     m_selectionTouched = true;
     QAbstractItemView::selectionChanged(selected, deselected);
+    // a range is told by its first item: one event a row would be a million
+    if (!deselected.isEmpty())
+        announce(QAccessible::SelectionRemove, deselected.first().top());
+    if (!selected.isEmpty())
+        announce(QAccessible::SelectionAdd, selected.first().top());
+}
+
+void ThumbnailGrid::announce(QAccessible::Event type, int row)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(this, type);
+    event.setChild(row);
+    QAccessible::updateAccessibility(&event);
 }
 
 void ThumbnailGrid::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                 const QVector<int> &roles)
 {
-    Q_UNUSED(roles)
+    if (QAccessible::isActive() && (roles.isEmpty() || roles.contains(Qt::CheckStateRole))
+        && currentIndex().row() >= topLeft.row() && currentIndex().row() <= bottomRight.row()) {
+        QAccessible::State changed;
+        changed.checked = true;
+        QAccessibleStateChangeEvent event(this, changed);
+        event.setChild(currentIndex().row());
+        QAccessible::updateAccessibility(&event);
+    }
     if (!isVisible())
         return;
     const QPair<int, int> visible = visibleRows();

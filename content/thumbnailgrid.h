@@ -4,6 +4,7 @@
 #include "content/gridnavigation.h"
 #include "content/rubberband.h"
 
+#include <QAccessible>
 #include <QBasicTimer>
 #include <QListView>
 
@@ -12,7 +13,8 @@
 /// model; every cell has the delegate's size hint for the first row; right-to-left mirrors the
 /// columns. Items are not dragged: a drag anywhere draws a rubber band. Hidden rows and a grid size
 /// are not supported.
-class ThumbnailGrid : public QListView {
+class ThumbnailGrid : public QListView
+{
     Q_OBJECT
 
 public:
@@ -81,6 +83,7 @@ private:
     bool isEnabled(const QModelIndex &index) const;
     void addRun(QItemSelection *selection, GridGeometry::Run run) const;
     bool severalSelected() const;
+    void announce(QAccessible::Event type, int row);
 
     void paintCards(QPainter *painter, const QRegion &region);
     void paintFocus(QPainter *painter, const QStyleOptionViewItem &option);

@@ -11,7 +11,8 @@
 namespace {
 
 template <class View>
-class Opened : public View {
+class Opened : public View
+{
 public:
     using View::contentsSize;
     using View::horizontalOffset;
@@ -38,7 +39,8 @@ QVector<int> selectedRows(const QAbstractItemView &view)
 
 } // namespace
 
-class TestThumbnailGridStock : public QObject {
+class TestThumbnailGridStock : public QObject
+{
     Q_OBJECT
 
 private slots:

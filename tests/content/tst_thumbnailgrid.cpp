@@ -1,0 +1,571 @@
+#include "content/thumbnailgrid.h"
+#include "support/carddelegate.h"
+#include "support/plainlistmodel.h"
+
+#include <QAccessible>
+#include <QScrollBar>
+#include <QtTest>
+
+namespace {
+
+/// Notes which cards are painted in which state, and which events reach them.
+class NotingDelegate : public CardDelegate
+{
+public:
+    using CardDelegate::CardDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override
+    {
+        CardDelegate::paint(painter, option, index);
+        states[index.row()] = option.state;
+    }
+
+    bool editorEvent(QEvent *event, QAbstractItemModel *, const QStyleOptionViewItem &option,
+                     const QModelIndex &index) override
+    {
+        events.append({event->type(), index.row()});
+        rects.append(option.rect);
+        return false;
+    }
+
+    mutable QMap<int, QStyle::State> states;
+    QVector<QPair<QEvent::Type, int>> events;
+    QVector<QRect> rects;
+};
+
+/// Rows whose record is gone have no index.
+class HoledModel : public PlainListModel
+{
+public:
+    using PlainListModel::PlainListModel;
+
+    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override
+    {
+        return dead.contains(row) ? QModelIndex() : PlainListModel::index(row, column, parent);
+    }
+
+    QSet<int> dead;
+};
+
+constexpr int Spacing = 8;
+constexpr int Columns = 4;
+constexpr QSize Card(150, 124);
+
+} // namespace
+
+class TestThumbnailGrid : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void cursor_data();
+    void cursor();
+    void shiftRangeIsOneRange();
+    void topCardStaysOnResize();
+    void scrollToShowsWholeCard_data();
+    void scrollToShowsWholeCard();
+
+    void band_data();
+    void band();
+    void bandNeedsDistance();
+    void bandScrollsAtTheEdge();
+    void bandEndsWithEscape();
+    void bandOutlivesReset();
+    void severalByKeyAreAnnounced();
+    void anchorOutlivesReset();
+
+    void repaintsOnlyWhatChanged_data();
+    void repaintsOnlyWhatChanged();
+    void hoverFollowsPointerAndContent();
+    void eventsReachTheCard();
+
+    void survives_data();
+    void survives();
+    void deadRows();
+    void resetWhilePressed();
+    void rowsRemovedUnderHover();
+    void accessibleCards();
+
+private:
+    void show(int rows);
+    QPoint centre(int row) const { return m_grid->visualRect(m_model->index(row, 0)).center(); }
+    QVector<int> selected() const;
+    void drag(const QPoint &from, const QPoint &to, Qt::KeyboardModifiers modifiers = {});
+    void move(const QPoint &to, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers = {});
+
+    QScopedPointer<HoledModel> m_model;
+    QScopedPointer<NotingDelegate> m_delegate;
+    QScopedPointer<ThumbnailGrid> m_grid;
+};
+
+void TestThumbnailGrid::init()
+{
+    m_model.reset(new HoledModel);
+    m_delegate.reset(new NotingDelegate(Card));
+    m_grid.reset(new ThumbnailGrid);
+    m_grid->setFrameShape(QFrame::NoFrame);
+    m_grid->setSpacing(Spacing);
+    m_grid->setItemDelegate(m_delegate.data());
+    m_grid->setModel(m_model.data());
+}
+
+void TestThumbnailGrid::cleanup()
+{
+    m_grid.reset();
+}
+
+void TestThumbnailGrid::show(int rows)
+{
+    m_model->reset(rows);
+    const int bar = m_grid->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    m_grid->resize(Spacing + Columns * (Card.width() + Spacing) + 1 + bar, 500);
+    m_grid->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_grid.data()));
+    m_grid->setFocus();
+    QCoreApplication::processEvents();
+}
+
+QVector<int> TestThumbnailGrid::selected() const
+{
+    QVector<int> rows;
+    const QModelIndexList indexes = m_grid->selectionModel()->selectedIndexes();
+    for (const QModelIndex &index : indexes)
+        rows.append(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void TestThumbnailGrid::move(const QPoint &to, Qt::MouseButtons buttons,
+                             Qt::KeyboardModifiers modifiers)
+{
+    QMouseEvent event(QEvent::MouseMove, to, m_grid->viewport()->mapToGlobal(to), Qt::NoButton,
+                      buttons, modifiers);
+    QCoreApplication::sendEvent(m_grid->viewport(), &event);
+}
+
+void TestThumbnailGrid::drag(const QPoint &from, const QPoint &to, Qt::KeyboardModifiers modifiers)
+{
+    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, modifiers, from);
+    move((from + to) / 2, Qt::LeftButton, modifiers);
+    move(to, Qt::LeftButton, modifiers);
+    QTest::mouseRelease(m_grid->viewport(), Qt::LeftButton, modifiers, to);
+}
+
+void TestThumbnailGrid::cursor_data()
+{
+    QTest::addColumn<bool>("rightToLeft");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("to");
+    QTest::newRow("right across a line's end") << false << 3 << int(Qt::Key_Right) << 4;
+    QTest::newRow("left across a line's end") << false << 4 << int(Qt::Key_Left) << 3;
+    QTest::newRow("right-to-left, left is onward") << true << 3 << int(Qt::Key_Left) << 4;
+    QTest::newRow("right-to-left, right is back") << true << 4 << int(Qt::Key_Right) << 3;
+    QTest::newRow("down to no card") << false << 39 << int(Qt::Key_Down) << 41;
+    QTest::newRow("down in the last line") << false << 40 << int(Qt::Key_Down) << 40;
+    QTest::newRow("up in the first line") << false << 2 << int(Qt::Key_Up) << 2;
+    QTest::newRow("page keeps the column") << false << 1 << int(Qt::Key_PageDown) << 9;
+    QTest::newRow("page beyond the end") << false << 36 << int(Qt::Key_PageDown) << 40;
+    QTest::newRow("page beyond the start") << false << 6 << int(Qt::Key_PageUp) << 2;
+    QTest::newRow("over a dead row") << false << 9 << int(Qt::Key_Right) << 11;
+    QTest::newRow("down onto a dead row") << false << 6 << int(Qt::Key_Down) << 11;
+}
+
+void TestThumbnailGrid::cursor()
+{
+    QFETCH(bool, rightToLeft);
+    QFETCH(int, from);
+    QFETCH(int, key);
+    QFETCH(int, to);
+    m_grid->setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    show(42);
+    m_model->dead = {10};
+    m_grid->setCurrentIndex(m_model->index(from, 0));
+    QTest::keyClick(m_grid.data(), Qt::Key(key));
+    QCOMPARE(m_grid->currentIndex().row(), to);
+    QVERIFY(m_grid->viewport()->rect().contains(m_grid->visualRect(m_grid->currentIndex())));
+}
+
+void TestThumbnailGrid::shiftRangeIsOneRange()
+{
+    show(1000000);
+    m_grid->setCurrentIndex(m_model->index(6, 0));
+    QTest::keyClick(m_grid.data(), Qt::Key_End, Qt::ShiftModifier);
+    QCOMPARE(m_grid->selectionModel()->selection().size(), 1);
+    QCOMPARE(m_grid->selectionModel()->selection().first().height(), 999994);
+    QTest::keyClick(m_grid.data(), Qt::Key_Home, Qt::ShiftModifier);
+    QCOMPARE(selected(), QVector<int>({0, 1, 2, 3, 4, 5, 6}));
+    QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, Qt::ControlModifier, centre(8));
+    QTest::keyClick(m_grid.data(), Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(selected(), QVector<int>({0, 1, 2, 3, 4, 5, 6, 8, 9}));
+    QTest::keyClick(m_grid.data(), Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(m_grid->selectionModel()->selection().size(), 1);
+    QVERIFY(m_grid->selectionModel()->isSelected(m_model->index(999999, 0)));
+    QTest::keyClick(m_grid.data(), Qt::Key_Escape);
+    QVERIFY(!m_grid->selectionModel()->hasSelection());
+}
+
+void TestThumbnailGrid::topCardStaysOnResize()
+{
+    show(1000);
+    const QSize size = m_grid->size();
+    m_grid->verticalScrollBar()->setValue(3000);
+    const QPair<int, int> seen = m_grid->visibleRows();
+    const int y = m_grid->visualRect(m_model->index(seen.first, 0)).y();
+    for (int columns : {3, 1, 2, 5}) {
+        m_grid->resize(size.width() + (columns - Columns) * (Card.width() + Spacing), 500);
+        QTRY_COMPARE(m_grid->visualRect(m_model->index(seen.first, 0)).y(), y);
+    }
+    m_grid->resize(size);
+    QTRY_COMPARE(m_grid->verticalScrollBar()->value(), 3000);
+    QCOMPARE(m_grid->visibleRows(), seen);
+}
+
+void TestThumbnailGrid::scrollToShowsWholeCard_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("height");
+    QTest::newRow("first") << 0 << 500;
+    QTest::newRow("half hidden at the top") << 40 << 500;
+    QTest::newRow("below") << 80 << 500;
+    QTest::newRow("last") << 999 << 500;
+    QTest::newRow("viewport lower than a card") << 500 << 60;
+}
+
+void TestThumbnailGrid::scrollToShowsWholeCard()
+{
+    QFETCH(int, row);
+    QFETCH(int, height);
+    show(1000);
+    m_grid->resize(m_grid->width(), height);
+    m_grid->verticalScrollBar()->setValue(1380);
+    m_grid->scrollTo(m_model->index(row, 0));
+    const QRect card = m_grid->visualRect(m_model->index(row, 0));
+    QVERIFY(card.top() >= 0);
+    QVERIFY(card.bottom() < height || card.top() <= Spacing);
+    const int value = m_grid->verticalScrollBar()->value();
+    m_grid->scrollTo(m_model->index(row, 0));
+    QCOMPARE(m_grid->verticalScrollBar()->value(), value);
+}
+
+void TestThumbnailGrid::band_data()
+{
+    QTest::addColumn<QVector<int>>("before");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QVector<int>>("after");
+    using Rows = QVector<int>;
+    const int none = Qt::NoModifier;
+    QTest::newRow("across two lines") << Rows{11} << 1 << 6 << none << Rows{1, 2, 5, 6};
+    QTest::newRow("backwards") << Rows{} << 6 << 1 << none << Rows{1, 2, 5, 6};
+    QTest::newRow("whole lines") << Rows{} << 0 << 7 << none << Rows{0, 1, 2, 3, 4, 5, 6, 7};
+    QTest::newRow("within a card") << Rows{} << 5 << 5 << none << Rows{5};
+    QTest::newRow("with Ctrl adds")
+        << Rows{2, 11} << 1 << 6 << int(Qt::ControlModifier) << Rows{1, 2, 5, 6, 11};
+    QTest::newRow("with Ctrl from a selected card takes away")
+        << Rows{1, 2, 11} << 1 << 6 << int(Qt::ControlModifier) << Rows{11};
+}
+
+void TestThumbnailGrid::band()
+{
+    QFETCH(QVector<int>, before);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(int, modifiers);
+    QFETCH(QVector<int>, after);
+    show(12);
+    for (int row : qAsConst(before))
+        m_grid->selectionModel()->select(m_model->index(row, 0), QItemSelectionModel::Select);
+    QSignalSpy several(m_grid.data(), &ThumbnailGrid::signalMutilSelectEvent);
+    const QPoint slack(from == to ? 20 : 0, 0);
+    drag(centre(from), centre(to) + slack, Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(selected(), after);
+    QCOMPARE(several.count(), after.size() > 1 ? 1 : 0);
+}
+
+void TestThumbnailGrid::bandNeedsDistance()
+{
+    show(12);
+    QSignalSpy clicked(m_grid.data(), &QAbstractItemView::clicked);
+    const int near = QApplication::startDragDistance() - 1;
+    drag(centre(5), centre(5) + QPoint(near, 0));
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(selected(), QVector<int>({5}));
+    drag(centre(5), centre(6));
+    QCOMPARE(clicked.count(), 1);
+}
+
+void TestThumbnailGrid::bandScrollsAtTheEdge()
+{
+    show(1000);
+    const QPoint below(centre(1).x(), m_grid->viewport()->height() + 200);
+    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, {}, centre(0));
+    move(below, Qt::LeftButton);
+    QTRY_VERIFY(m_grid->verticalScrollBar()->value() > 2 * (Card.height() + Spacing));
+    move(m_grid->viewport()->rect().center(), Qt::LeftButton);
+    const int rest = m_grid->verticalScrollBar()->value();
+    QTest::mouseRelease(m_grid->viewport(), Qt::LeftButton, {},
+                        m_grid->viewport()->rect().center());
+    QCOMPARE(m_grid->verticalScrollBar()->value(), rest);
+    QCOMPARE(selected().first(), 0);
+    QVERIFY(selected().contains(8));
+    QVERIFY(!selected().contains(11));
+}
+
+void TestThumbnailGrid::bandEndsWithEscape()
+{
+    show(12);
+    m_grid->selectionModel()->select(m_model->index(11, 0), QItemSelectionModel::Select);
+    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, Qt::ShiftModifier, {1, 1});
+    move(centre(5), Qt::LeftButton, Qt::ShiftModifier);
+    QCOMPARE(selected(), QVector<int>({0, 1, 4, 5, 11}));
+    QTest::keyClick(m_grid.data(), Qt::Key_Escape);
+    QCOMPARE(selected(), QVector<int>({11}));
+    move(centre(6), Qt::LeftButton, Qt::ShiftModifier);
+    QTest::mouseRelease(m_grid->viewport(), Qt::LeftButton, Qt::ShiftModifier, centre(6));
+    QCOMPARE(selected(), QVector<int>({11}));
+}
+
+void TestThumbnailGrid::bandOutlivesReset()
+{
+    show(12);
+    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, {}, {1, 1});
+    move(centre(5), Qt::LeftButton);
+    m_model->reset(24);
+    move(centre(6), Qt::LeftButton);
+    QTest::mouseRelease(m_grid->viewport(), Qt::LeftButton, {}, centre(6));
+    QCOMPARE(selected(), QVector<int>({0, 1, 2, 4, 5, 6}));
+}
+
+void TestThumbnailGrid::severalByKeyAreAnnounced()
+{
+    show(12);
+    m_grid->setCurrentIndex(m_model->index(0, 0));
+    QSignalSpy several(m_grid.data(), &ThumbnailGrid::signalMutilSelectEvent);
+    QTest::keyClick(m_grid.data(), Qt::Key_Right);
+    QCOMPARE(several.count(), 0);
+    QTest::keyClick(m_grid.data(), Qt::Key_Right, Qt::ShiftModifier);
+    QCOMPARE(several.count(), 1);
+    QTest::keyClick(m_grid.data(), Qt::Key_Right, Qt::ControlModifier);
+    QCOMPARE(several.count(), 1);
+}
+
+void TestThumbnailGrid::anchorOutlivesReset()
+{
+    show(20);
+    QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, {}, centre(2));
+    QTest::keyClick(m_grid.data(), Qt::Key_Right, Qt::ShiftModifier);
+    const int anchor = m_grid->selectionAnchor().row();
+    QCOMPARE(anchor, 2);
+    m_model->reset(40);
+    m_grid->selectionModel()->setCurrentIndex(m_model->index(3, 0), QItemSelectionModel::NoUpdate);
+    m_grid->setSelectionAnchor(m_model->index(anchor, 0));
+    QCOMPARE(m_grid->currentIndex().row(), 3);
+    QVERIFY(!m_grid->selectionModel()->hasSelection());
+    QTest::keyClick(m_grid.data(), Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(selected(), QVector<int>({2, 3, 4, 5, 6, 7}));
+}
+
+void TestThumbnailGrid::repaintsOnlyWhatChanged_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+    QTest::addColumn<int>("painted");
+    QTest::newRow("one card") << 5 << 5 << 1;
+    QTest::newRow("off screen") << 500 << 600 << 0;
+    QTest::newRow("all rows") << 0 << 999 << 16;
+    QTest::newRow("from sight to beyond") << 14 << 999 << 2;
+}
+
+void TestThumbnailGrid::repaintsOnlyWhatChanged()
+{
+    QFETCH(int, first);
+    QFETCH(int, last);
+    QFETCH(int, painted);
+    show(1000);
+    QCOMPARE(m_grid->visibleRows(), qMakePair(0, 15));
+    m_delegate->painted = 0;
+    emit m_model->dataChanged(m_model->index(first, 0), m_model->index(last, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_delegate->painted, painted);
+
+    m_delegate->painted = 0;
+    m_grid->repaintMatching(PlainListModel::IdRole, first);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_delegate->painted, first < 16 ? 1 : 0);
+}
+
+void TestThumbnailGrid::hoverFollowsPointerAndContent()
+{
+    show(1000);
+    const auto hovered = [this] {
+        m_delegate->states.clear();
+        m_grid->viewport()->repaint();
+        QVector<int> rows;
+        for (auto it = m_delegate->states.cbegin(); it != m_delegate->states.cend(); ++it)
+            if (it.value() & QStyle::State_MouseOver)
+                rows.append(it.key());
+        return rows;
+    };
+    const QPoint pointer = centre(1);
+    move(pointer, Qt::NoButton);
+    QCOMPARE(hovered(), QVector<int>({1}));
+    m_grid->verticalScrollBar()->setValue(Card.height() + Spacing);
+    QCOMPARE(hovered(), QVector<int>({5}));
+    m_model->insert(0, 1);
+    QTRY_COMPARE(hovered(), QVector<int>({5}));
+    m_delegate->events.clear();
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(m_grid->viewport(), &leave);
+    QCOMPARE(hovered(), QVector<int>());
+    QCOMPARE(m_delegate->events, (QVector<QPair<QEvent::Type, int>>{{QEvent::Leave, 5}}));
+}
+
+void TestThumbnailGrid::eventsReachTheCard()
+{
+    show(12);
+    QTest::mouseMove(m_grid->viewport(), centre(4));
+    QCoreApplication::processEvents();
+    m_delegate->events.clear();
+    m_delegate->rects.clear();
+    const QPoint point = centre(5);
+    move(point, Qt::NoButton);
+    QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, {}, point);
+    QTest::mouseDClick(m_grid->viewport(), Qt::LeftButton, {}, point);
+    QVector<QPair<QEvent::Type, int>> of5;
+    for (int i = 0; i < m_delegate->events.size(); ++i) {
+        if (m_delegate->events.at(i).second != 5)
+            continue;
+        of5.append(m_delegate->events.at(i));
+        QCOMPARE(m_delegate->rects.at(i), m_grid->visualRect(m_model->index(5, 0)));
+    }
+    QCOMPARE(of5,
+             (QVector<QPair<QEvent::Type, int>>{{QEvent::MouseMove, 5},
+                                                {QEvent::MouseButtonPress, 5},
+                                                {QEvent::MouseButtonRelease, 5},
+                                                {QEvent::MouseButtonDblClick, 5}}));
+}
+
+void TestThumbnailGrid::survives_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("card");
+    QTest::addColumn<int>("spacing");
+    QTest::newRow("no rows") << 0 << QSize(600, 400) << Card << 8;
+    QTest::newRow("no width") << 50 << QSize(0, 400) << Card << 8;
+    QTest::newRow("no height") << 50 << QSize(600, 0) << Card << 8;
+    QTest::newRow("null card") << 50 << QSize(600, 400) << QSize(0, 0) << 0;
+    QTest::newRow("invalid card") << 50 << QSize(600, 400) << QSize() << 8;
+    QTest::newRow("negative spacing") << 50 << QSize(600, 400) << QSize(10, 10) << -10;
+    QTest::newRow("card beyond the viewport") << 50 << QSize(60, 40) << QSize(3000, 3000) << 8;
+    QTest::newRow("one long column") << 16000000 << QSize(200, 400) << QSize(150, 500) << 8;
+}
+
+void TestThumbnailGrid::survives()
+{
+    QFETCH(int, rows);
+    QFETCH(QSize, size);
+    QFETCH(QSize, card);
+    QFETCH(int, spacing);
+    NotingDelegate delegate(card);
+    m_grid->setItemDelegate(&delegate);
+    m_grid->setSpacing(spacing);
+    m_grid->show();
+    m_model->reset(rows);
+    m_grid->resize(size);
+    QCoreApplication::processEvents();
+    for (Qt::Key key : {Qt::Key_Right, Qt::Key_End, Qt::Key_PageUp, Qt::Key_Down, Qt::Key_Home})
+        QTest::keyClick(m_grid.data(), key, Qt::ShiftModifier);
+    drag({1, 1}, {300, 300});
+    QTest::mouseDClick(m_grid->viewport(), Qt::LeftButton, {}, {20, 20});
+    m_grid->selectAll();
+    m_grid->scrollTo(m_model->index(rows - 1, 0));
+    m_grid->repaintRow(rows);
+    m_grid->viewport()->repaint();
+    QVERIFY(m_grid->visibleRows().second < qMax(1, rows));
+    m_grid->setModel(nullptr);
+    QTest::keyClick(m_grid.data(), Qt::Key_End);
+    drag({1, 1}, {300, 300});
+    QCOMPARE(m_grid->indexAt({20, 20}), QModelIndex());
+    QCOMPARE(m_grid->visibleRows(), qMakePair(0, -1));
+    m_grid->setItemDelegate(m_delegate.data());
+}
+
+void TestThumbnailGrid::deadRows()
+{
+    show(12);
+    m_model->dead = {0, 5, 11};
+    m_grid->selectAll();
+    QCOMPARE(m_grid->selectionModel()->selection().size(), 1);
+    QVERIFY(m_grid->selectionModel()->isSelected(m_model->index(10, 0)));
+    QCOMPARE(m_grid->indexAt({20, 20}), QModelIndex());
+    m_delegate->states.clear();
+    m_grid->viewport()->repaint();
+    QCOMPARE(m_delegate->states.size(), 9);
+    emit m_model->dataChanged(m_model->index(1, 0), m_model->index(11, 0));
+    QCoreApplication::processEvents();
+    QVERIFY(m_delegate->painted > 9);
+}
+
+void TestThumbnailGrid::resetWhilePressed()
+{
+    show(12);
+    QObject context;
+    connect(m_grid.data(), &QAbstractItemView::pressed, &context, [this] { m_model->reset(2); });
+    QSignalSpy clicked(m_grid.data(), &QAbstractItemView::clicked);
+    const QPoint point = centre(9);
+    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, {}, point);
+    QTest::mouseRelease(m_grid->viewport(), Qt::LeftButton, {}, point);
+    QCOMPARE(clicked.count(), 0);
+    QVERIFY(!m_grid->selectionModel()->hasSelection());
+}
+
+void TestThumbnailGrid::rowsRemovedUnderHover()
+{
+    show(1000);
+    m_grid->verticalScrollBar()->setValue(m_grid->verticalScrollBar()->maximum());
+    move({20, 300}, Qt::NoButton);
+    m_model->remove(3, 997);
+    QTRY_COMPARE(m_grid->verticalScrollBar()->maximum(), 0);
+    m_grid->viewport()->repaint();
+    QCOMPARE(m_grid->visibleRows(), qMakePair(0, 2));
+    m_model->remove(0, 3);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_grid->visibleRows(), qMakePair(0, -1));
+}
+
+void TestThumbnailGrid::accessibleCards()
+{
+    QAccessible::setActive(true);
+    show(1000);
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(m_grid.data());
+    QVERIFY(list);
+    QCOMPARE(list->role(), QAccessible::List);
+    QCOMPARE(list->childCount(), 1000);
+    const QModelIndex index = m_model->index(6, 0);
+    QAccessibleInterface *card = list->child(6);
+    QVERIFY(card);
+    QCOMPARE(card->text(QAccessible::Name), QStringLiteral("item 6"));
+    QCOMPARE(list->indexOfChild(card), 6);
+    const QRect rect = m_grid->visualRect(index);
+    QCOMPARE(card->rect(), QRect(m_grid->viewport()->mapToGlobal(rect.topLeft()), rect.size()));
+    const QPoint middle = card->rect().center();
+    QCOMPARE(list->childAt(middle.x(), middle.y()), card);
+    QVERIFY(!card->state().selected);
+    m_grid->setCurrentIndex(index);
+    QVERIFY(card->state().selected);
+    QVERIFY(card->state().focused);
+    QVERIFY(list->child(900)->state().offscreen);
+    m_model->reset(3);
+    QVERIFY(!list->child(6));
+    QAccessible::setActive(false);
+}
+
+QTEST_MAIN(TestThumbnailGrid)
+#include "tst_thumbnailgrid.moc"
