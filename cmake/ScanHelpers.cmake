@@ -15,7 +15,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(QUARVO_BIN_DIR "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${QUARVO_BIN_DIR}")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${QUARVO_BIN_DIR}")
-set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR};$ORIGIN/..")
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../lib;$ORIGIN/..")
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
@@ -53,7 +53,9 @@ function(scan_add_test name)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${QUARVO_BIN_DIR}")
     add_test(NAME ${name} COMMAND ${name})
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
     set_tests_properties(${name} PROPERTIES
+        LABELS ${folder}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-config/${name};TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
         TIMEOUT ${arg_TIMEOUT})
 endfunction()

@@ -5,7 +5,8 @@
 #include <QString>
 
 /// One file of the card, before it is written.
-struct CardFile {
+struct CardFile
+{
     enum Fate {
         Live,
         Deleted,     ///< its entry is marked, its clusters are untouched

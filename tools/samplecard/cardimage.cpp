@@ -49,6 +49,9 @@ CardImage::CardImage(const QString &path)
     for (const auto &[tool, package] : tools)
         if (toolPath(tool).isEmpty())
             fail(QStringLiteral("%1 is missing: install the package %2").arg(tool, package));
+    QFile image(m_path);
+    if (!image.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        fail(QStringLiteral("%1: %2").arg(m_path, image.errorString()));
     if (!m_staging.isValid())
         fail(QStringLiteral("no temporary folder: %1").arg(m_staging.errorString()));
 }

@@ -8,9 +8,11 @@
 /// Writes a FAT32 card with dosfstools and mtools, then deletes what is to be deleted: last, so
 /// that nothing is written over it, but for the one file that is meant to be. Every operation
 /// throws std::runtime_error with a message for a person.
-class CardImage {
+class CardImage
+{
 public:
-    /// \a path is written anew. Throws when a tool is missing, naming the package to install.
+    /// \a path is written anew. Throws at once when it cannot be, or when a tool is missing: then
+    /// the message names the package to install.
     explicit CardImage(const QString &path);
 
     void write(const QVector<CardFile> &files);

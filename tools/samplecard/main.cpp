@@ -12,12 +12,13 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMutex>
 #include <QTextStream>
-
 #include <QtConcurrent>
 
 #include <exiv2/exiv2.hpp>
 
+#include <atomic>
 #include <stdexcept>
 
 namespace {
@@ -104,6 +105,7 @@ QString manifestPath(const QString &image)
 int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen"); // it draws, but never on a screen
+    qputenv("LC_ALL", "C.UTF-8"); // names on the card are not ASCII, whatever the user's locale
     QGuiApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(

@@ -26,7 +26,8 @@ void check(int result, const char *what)
     throw std::runtime_error(std::string(what) + ": " + reason);
 }
 
-struct ContextCloser {
+struct ContextCloser
+{
     void operator()(AVFormatContext *context) const
     {
         avio_closep(&context->pb);
@@ -41,7 +42,8 @@ template <typename T>
 using Owned = std::unique_ptr<T, ContextCloser>;
 
 /// Encodes pictures of one size into a file, whose suffix chooses the container.
-class MovieWriter {
+class MovieWriter
+{
 public:
     MovieWriter(const QString &path, AVCodecID codecId, const QSize &size, int framesPerSecond)
         : m_size(size)

@@ -39,7 +39,8 @@ QSize sizeOf(Shape shape)
 
 enum Trait { Plain = 0, Gone = 1, Damaged = 2, Sideways = 4, Preview = 8 };
 
-struct Entry {
+struct Entry
+{
     const char *path;
     Photo::Motif motif;
     int variant;

@@ -8,7 +8,8 @@
 #include <QVector>
 
 /// One photo that the card holds.
-struct Photo {
+struct Photo
+{
     using Motif = void (*)(Canvas &, int);
 
     CardFile file; ///< without content

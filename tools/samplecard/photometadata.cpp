@@ -8,7 +8,8 @@
 
 namespace {
 
-struct Camera {
+struct Camera
+{
     const char *make;
     const char *model;
     const char *software;
@@ -20,7 +21,8 @@ const Camera s_cameras[] = {
     {"Lumenar", "LX-500", "Darkroom Desk 6.2"},
 };
 
-struct Exposure {
+struct Exposure
+{
     quint16 iso;
     Exiv2::Rational time;
     Exiv2::Rational aperture;

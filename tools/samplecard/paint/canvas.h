@@ -11,7 +11,8 @@
 #include <functional>
 
 /// A colour between 0 and 1 a channel, not premultiplied, for shading point by point.
-struct Tint {
+struct Tint
+{
     double r = 0;
     double g = 0;
     double b = 0;
@@ -27,7 +28,8 @@ QColor mix(const QColor &from, const QColor &to, double t);
 QColor withAlpha(QColor color, double alpha);
 
 /// How the finished photo is developed.
-struct Development {
+struct Development
+{
     double grain = 0.018;   ///< of the full range
     double vignette = 0.28; ///< darkening in the corners
     double bloom = 0.16;    ///< light that bleeds out of bright places
@@ -35,7 +37,8 @@ struct Development {
 
 /// A photo being drawn. Positions are in units in which the photo is 1000 high, whatever its
 /// number of pixels. Belongs to one thread; any number of canvases may work at once.
-class Canvas {
+class Canvas
+{
 public:
     using Drawing = std::function<void(QPainter &)>;
     using Shading = std::function<Tint(double x, double y)>;

@@ -8,7 +8,8 @@ using namespace Nature;
 
 namespace {
 
-struct CityLook {
+struct CityLook
+{
     QGradientStops sky;
     QColor far;
     QColor near;

@@ -8,7 +8,8 @@ using namespace Nature;
 
 namespace {
 
-struct MountainLook {
+struct MountainLook
+{
     QGradientStops sky;
     QPointF sun; ///< as shares of width and height
     QColor sunColor;
@@ -204,7 +205,8 @@ void Scenes::mountains(Canvas &canvas, int variant)
 
 namespace {
 
-struct HillLook {
+struct HillLook
+{
     QGradientStops sky;
     QPointF sun;
     QColor sunColor;

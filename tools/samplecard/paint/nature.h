@@ -5,7 +5,8 @@
 /// What landscapes are made of.
 namespace Nature {
 
-struct Clouds {
+struct Clouds
+{
     double cover = 0.5;   ///< 0 clear, 1 overcast
     double horizon = 600; ///< they end there, flat with distance
     QColor lit = Qt::white;
@@ -21,7 +22,8 @@ void moon(Canvas &canvas, const QPointF &center, double radius, double phase);
 void stars(Canvas &canvas, double horizon, int count);
 
 /// Heights of a ridge, one each `Step` units from the left edge.
-struct Ridge {
+struct Ridge
+{
     static constexpr double Step = 2;
     QVector<double> tops;
     double at(double x) const;
@@ -31,7 +33,8 @@ struct Ridge {
 Ridge peaks(Canvas &canvas, double base, double amplitude, double breadth, int octaves = 6);
 Ridge downs(Canvas &canvas, double base, double amplitude, double breadth, int octaves = 3);
 
-struct Rock {
+struct Rock
+{
     QColor dark;
     QColor lit;
     QColor haze;

@@ -3,7 +3,8 @@
 #include <QtGlobal>
 
 /// Repeatable random numbers: the same seed gives the same picture on every machine.
-class Random {
+class Random
+{
 public:
     explicit Random(quint64 seed)
         : m_state(seed)

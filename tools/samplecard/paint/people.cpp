@@ -8,7 +8,8 @@ using namespace Nature;
 
 namespace {
 
-struct Person {
+struct Person
+{
     QColor skin;
     QColor hair;
     QColor cloth;

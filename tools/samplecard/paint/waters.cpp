@@ -8,7 +8,8 @@ using namespace Nature;
 
 namespace {
 
-struct SeaLook {
+struct SeaLook
+{
     QGradientStops sky;
     QPointF sun;
     QColor sunColor;

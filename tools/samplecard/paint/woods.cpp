@@ -8,7 +8,8 @@ using namespace Nature;
 
 namespace {
 
-struct ForestLook {
+struct ForestLook
+{
     QColor lightColor;
     QColor haze;
     QColor dark;
