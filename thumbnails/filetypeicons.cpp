@@ -12,7 +12,8 @@ namespace {
 constexpr int FileKind = 2;
 const char *const s_defaultFamily = "Default";
 
-struct ExtensionFamily {
+struct ExtensionFamily
+{
     const char *family;
     const char *extensions; ///< upper case, each between blanks
 };

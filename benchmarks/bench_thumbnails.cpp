@@ -1,0 +1,76 @@
+#include "benchmarks/ratio.h"
+#include "thumbnails/thumbnailimage.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+namespace {
+
+/// Neither flat nor noise: soft colours with some grain, as photos have.
+QImage photo(const QSize &size)
+{
+    QImage soft(24, 18, QImage::Format_RGB32);
+    QRandomGenerator random(1);
+    for (int y = 0; y < soft.height(); ++y) {
+        for (int x = 0; x < soft.width(); ++x)
+            soft.setPixel(x, y, random.generate() | 0xFF000000);
+    }
+    QImage image = soft.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    for (int y = 0; y < image.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            line[x] ^= random.generate() & 0x00030303;
+    }
+    return image;
+}
+
+void loadStock(benchmark::State &state, const QString &path)
+{
+    for (auto _ : state) {
+        const QImage image(path);
+        benchmark::DoNotOptimize(image.scaled(ThumbnailImage::targetSize(image.size()),
+                                              Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
+void loadOurs(benchmark::State &state, const QString &path)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ThumbnailImage::load(path));
+    state.SetItemsProcessed(state.iterations());
+}
+
+void add(const std::string &name, const QString &path)
+{
+    benchmark::RegisterBenchmark((name + "/ours").c_str(), [path](benchmark::State &state) {
+        loadOurs(state, path);
+    })->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark((name + "/stock").c_str(), [path](benchmark::State &state) {
+        loadStock(state, path);
+    })->Unit(benchmark::kMillisecond);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    const QTemporaryDir folder;
+    const QString small = folder.filePath(QStringLiteral("small.png"));
+    const QString camera = folder.filePath(QStringLiteral("camera.jpg"));
+    const QString screen = folder.filePath(QStringLiteral("screen.png"));
+    if (!photo({300, 225}).save(small) || !photo({4000, 3000}).save(camera, "jpg", 92)
+        || !photo({2560, 1440}).save(screen))
+        return 1;
+    add("png300x225", small);
+    add("jpeg12megapixels", camera);
+    add("png2560x1440", screen);
+
+    benchmark::Initialize(&argc, argv);
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+}
