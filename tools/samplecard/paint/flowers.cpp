@@ -47,6 +47,7 @@ static void petal(QPainter &painter, const QPointF &center, double angle, double
     fill.setColorAt(0, base);
     fill.setColorAt(0.55, mix(base, tip, 0.75));
     fill.setColorAt(1, tip);
+    painter.setBrush(Qt::NoBrush);
     painter.fillPath(path, fill);
     QLinearGradient round(0, -half, 0, half);
     round.setColorAt(0, QColor(255, 255, 255, 60));
@@ -284,16 +285,16 @@ void Scenes::blossom(Canvas &canvas, int variant)
         const double turn = random.between(0, 360);
         for (int i = 0; i < 5; ++i)
             petal(painter, at, turn + i * 72, size * 0.06, size, size * 0.42,
-                  mix(QColor(240, 120, 160), QColor(250, 180, 200), random.unit()),
-                  mix(QColor(255, 236, 240), QColor(255, 206, 220), random.unit() * 0.6), 0.1);
+                  mix(QColor(232, 90, 140), QColor(246, 150, 184), random.unit()),
+                  mix(QColor(255, 232, 240), QColor(255, 190, 212), random.unit() * 0.7), 0.1);
         painter.setBrush(QColor(214, 80, 110));
         painter.drawEllipse(at, size * 0.11, size * 0.11);
         for (int i = 0; i < 9; ++i) {
             const double angle = random.unit() * 6.2832;
             painter.setBrush(QColor(255, 220, 120));
             painter.drawEllipse(
-                at + QPointF(std::cos(angle), std::sin(angle)) * size * random.between(0.15, 0.34),
-                size * 0.035, size * 0.035);
+                at + QPointF(std::cos(angle), std::sin(angle)) * size * random.between(0.12, 0.28),
+                size * 0.024, size * 0.024);
         }
     };
     for (int layer = 0; layer < 3; ++layer) {
@@ -311,11 +312,11 @@ void Scenes::blossom(Canvas &canvas, int variant)
             painter.setPen(QPen(QColor(160, 120, 106, 120), mix(2, 5, t)));
             painter.drawPath(branch.translated(-2, -4));
             painter.setPen(Qt::NoPen);
-            for (int i = 0; i < 26; ++i)
+            for (int i = 0; i < 44; ++i)
                 spray(painter,
                       branch.pointAtPercent(random.unit())
-                          + QPointF(random.between(-80, 80), random.between(-80, 80)),
-                      mix(34, 66, t) * random.between(0.7, 1.15));
+                          + QPointF(random.between(-80, 80), random.between(-90, 90)),
+                      mix(38, 78, t) * random.between(0.7, 1.15));
         };
         if (layer < 2)
             canvas.drawSoft(layer ? 7 : 20, bough);

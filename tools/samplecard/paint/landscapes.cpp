@@ -294,8 +294,8 @@ void Scenes::hills(Canvas &canvas, int variant)
     constexpr int Layers = 6;
     for (int i = 0; i < Layers; ++i) {
         const double t = double(i) / (Layers - 1);
-        ridge = downs(canvas, mix(530, 860, t * t) + (i == 0 ? 0 : 20), mix(45, 105, t),
-                      mix(300, 800, t), desert ? 2 : 3);
+        ridge = downs(canvas, mix(530, 860, t * t) + (i == 0 ? 0 : 20),
+                      mix(45, desert ? 190 : 105, t), mix(300, 800, t), desert ? 2 : 3);
         const quint32 seed = canvas.newSeed();
         const Tint dark = Tint::of(look.dark);
         const Tint lit = Tint::of(look.lit);
@@ -308,13 +308,14 @@ void Scenes::hills(Canvas &canvas, int variant)
             const double crest = (ridge.at(x - 20) - ridge.at(x + 20)) / 40 * -side;
             const double roll = cloudNoise(x / mix(120, 420, t), y / mix(40, 130, t),
                                            desert ? 2 : 4, seed);
-            double level = 0.5 + crest * 1.1 + roll * 0.5 - depth / 900;
+            double level = desert ? 0.5 + crest * 2.4 + roll * 0.3 - depth / 1400
+                                  : 0.5 + crest * 1.1 + roll * 0.5 - depth / 900;
             if (desert)
                 level += 0.06
                     * std::sin((y * 1.6 + 26 * noise(x / 120, y / 60, seed + 3)) / (2 + 5 * t));
             level += 0.1 * cloudNoise(x / 7, y / 4, 2, seed + 1) * t;
             Tint tint = mix(dark, lit, std::clamp(level, 0.0, 1.0));
-            if (look.rows > 0 && i >= 3) {
+            if (look.rows > 0 && i >= 4) {
                 const double slant = (x - vanish) / (depth + 90) * look.rows * 0.5;
                 const double furrow = 0.5
                     + 0.5 * std::sin(slant * 3.2 + noise(x / 60, y / 60, seed) * 0.8);

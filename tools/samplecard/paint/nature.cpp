@@ -206,7 +206,8 @@ QPainterPath conifers(Canvas &canvas, const Ridge &ground, double low, double hi
     for (double x = -gap; x < canvas.width() + gap; x += gap * random.between(0.5, 1.5)) {
         const double stand = 0.5 + 0.5 * noise(x / 130, 3.3, seed);
         const double height = mix(low, high, stand) * random.between(0.7, 1.15);
-        wood.addPath(conifer(random, QPointF(x, ground.at(x) + 3), height));
+        // sunk a little, so that no light shows below the lowest branches
+        wood.addPath(conifer(random, QPointF(x, ground.at(x) + 3 + 0.06 * height), height));
     }
     return wood;
 }

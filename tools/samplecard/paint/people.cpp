@@ -16,7 +16,7 @@ struct Person
     int hairStyle; ///< 0 short, 1 long, 2 bun, 3 curly, 4 cap, 5 bob
     bool beard = false;
     bool glasses = false;
-    double age = 1; ///< a child's features are rounder and lower
+    double age = 1; ///< below 1: larger, lower features, as a child has them
 };
 
 const Person s_people[] = {
@@ -128,9 +128,9 @@ void features(QPainter &painter, const Person &who, const QPointF &c, double s, 
     const QColor shade = mix(who.skin, QColor(120, 40, 40), 0.34);
     for (int side = -1; side <= 1; side += 2) {
         const QPointF eye = c + QPointF(0.2 * side, -0.02 + low) * s;
-        const double wide = s * (0.085 + 0.02 * (1 - who.age));
+        const double wide = s * (0.098 + 0.02 * (1 - who.age));
         QPainterPath lid(eye + QPointF(-wide, 0));
-        lid.quadTo(eye + QPointF(0, -wide * 0.95), eye + QPointF(wide, 0));
+        lid.quadTo(eye + QPointF(0, -wide * 1.2), eye + QPointF(wide, 0));
         lid.quadTo(eye + QPointF(0, wide * 0.75), eye + QPointF(-wide, 0));
         painter.fillPath(lid, QColor(252, 250, 248));
         painter.save();
@@ -147,7 +147,7 @@ void features(QPainter &painter, const Person &who, const QPointF &c, double s, 
         painter.restore();
         painter.setBrush(Qt::NoBrush);
         QPainterPath lash(eye + QPointF(-wide * 1.08, wide * 0.06));
-        lash.quadTo(eye + QPointF(0, -wide * 1.1), eye + QPointF(wide * 1.1, -wide * 0.02));
+        lash.quadTo(eye + QPointF(0, -wide * 1.34), eye + QPointF(wide * 1.1, -wide * 0.02));
         painter.setPen(QPen(mix(who.hair, Qt::black, 0.6), s * 0.022, Qt::SolidLine, Qt::RoundCap));
         painter.drawPath(lash);
         QPainterPath brow(c + QPointF(0.1 * side, -0.155 + low) * s);
