@@ -72,7 +72,7 @@ void IconDelegate::loadThemeResources(THEMETYPE theme)
     retranslate();
 }
 
-void IconDelegate::retranslate()
+void IconDelegate::retranslate() const
 {
     const FontManager *fonts = FontManager::instance();
     m_fontFamily = fonts->family();
@@ -95,39 +95,6 @@ bool IconDelegate::eventFilter(QObject *watched, QEvent *event)
 void IconDelegate::setSearchKeyword(const QString &keyword)
 {
     m_names.setKeyword(keyword);
-}
-
-void IconDelegate::setMarkedIndexes(const QModelIndexList &indexes)
-{
-    clearMarkedIndexes();
-    m_marked.reserve(indexes.size());
-    m_markedLookup.reserve(indexes.size());
-    for (const QModelIndex &index : indexes) {
-        m_marked.append(index);
-        m_markedLookup.insert(m_marked.constLast());
-    }
-}
-
-void IconDelegate::clearMarkedIndexes()
-{
-    m_marked.clear();
-    m_markedLookup.clear();
-}
-
-QModelIndexList IconDelegate::markedIndexes() const
-{
-    QModelIndexList indexes;
-    indexes.reserve(m_marked.size());
-    for (const QPersistentModelIndex &index : m_marked) {
-        if (index.isValid())
-            indexes.append(index);
-    }
-    return indexes;
-}
-
-bool IconDelegate::isMarked(const QModelIndex &index) const
-{
-    return !m_markedLookup.isEmpty() && m_markedLookup.contains(index);
 }
 
 void IconDelegate::setPressedIndex(const QModelIndex &index)
@@ -154,7 +121,7 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         return;
     }
     if (m_fontFamily != FontManager::instance()->family())
-        const_cast<IconDelegate *>(this)->retranslate();
+        retranslate();
 
     TreeItemData *item = itemOf(index);
     const int kind = item ? index.data(KindRole).toInt() : 0;
@@ -219,7 +186,7 @@ CardBackground::Look IconDelegate::lookOf(const QStyleOptionViewItem &option,
                                           const QModelIndex &index, TreeItemData *item) const
 {
     if (!m_pressed.isSet() || m_pressed.is(index, item)
-        || option.state.testFlag(QStyle::State_Selected) || isMarked(index)) {
+        || option.state.testFlag(QStyle::State_Selected) || m_marked.contains(index)) {
         // one card of a fresh grid is always current: the first to be painted
         m_pressed.set(index, item);
         return CardBackground::SelectedLook;
@@ -364,7 +331,7 @@ bool IconDelegate::press(const QMouseEvent &event, QAbstractItemModel *model,
         return false;
     }
     if (!(event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)))
-        clearMarkedIndexes();
+        m_marked.clear();
     // before the signal: whoever listens may reset the model
     setPressedIndex(index);
     emit signalMutilSelectEvent();

@@ -6,6 +6,7 @@
 #include "delegates/currentcard.h"
 #include "delegates/elidecache.h"
 #include "delegates/itemcolors.h"
+#include "delegates/markedcards.h"
 #include "delegates/namepainter.h"
 #include "delegates/recoverabilitylabel.h"
 #include "delegates/repairedpreviewcheck.h"
@@ -13,10 +14,7 @@
 #include "delegates/tooltipthrottle.h"
 
 #include <QCursor>
-#include <QPersistentModelIndex>
-#include <QSet>
 #include <QStyledItemDelegate>
-#include <QVector>
 
 class DeviceGrid;
 class QMouseEvent;
@@ -42,10 +40,10 @@ public:
 
     /// Cards that show the selected look beside those the view has selected. Cards may be many:
     /// what the selection model selects already need not be listed to be painted.
-    void setMarkedIndexes(const QModelIndexList &indexes);
-    void clearMarkedIndexes();
+    void setMarkedIndexes(const QModelIndexList &indexes) { m_marked.set(indexes); }
+    void clearMarkedIndexes() { m_marked.clear(); }
     /// Without those that have gone from the model.
-    QModelIndexList markedIndexes() const;
+    QModelIndexList markedIndexes() const { return m_marked.indexes(); }
 
     /// The current card. Set by presses; to be set by the owner when the current item changes in
     /// another way (keyboard), and to an invalid index when another folder is shown: then the first
@@ -79,13 +77,12 @@ signals:
 private:
     void loadThemeResources(THEMETYPE theme);
     /// Texts and fonts of the language; the font family may also change without notice.
-    void retranslate();
+    void retranslate() const;
 
     void paintCard(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
                    TreeItemData *item, int kind, const QPixmap &thumbnail) const;
     CardBackground::Look lookOf(const QStyleOptionViewItem &option, const QModelIndex &index,
                                 TreeItemData *item) const;
-    bool isMarked(const QModelIndex &index) const;
     /// \a thumbnail in the device pixels of \a rect; null when there is not one of them.
     QPixmap fitted(const DeviceGrid &grid, const QRect &rect, const QPixmap &thumbnail) const;
     QPixmap iconOf(const TreeItemData &item, int kind) const;
@@ -100,11 +97,11 @@ private:
     void hover(const QPoint &pos, const CardLayout &layout, const QModelIndex &index);
 
     mutable CurrentCard m_pressed;
-    QVector<QPersistentModelIndex> m_marked;
-    QSet<QPersistentModelIndex> m_markedLookup;
+    MarkedCards m_marked;
     CardPictures m_pictures;
-    CardBackground m_background;
-    RecoverabilityLabel m_label;
+    // what is prepared for painting, and prepared again when the language has changed
+    mutable CardBackground m_background;
+    mutable RecoverabilityLabel m_label;
     mutable ScaledThumbnails m_scaledThumbnails;
     mutable RepairedPreviewCheck m_repairedCheck;
     mutable NamePainter m_names;
@@ -115,6 +112,6 @@ private:
     TooltipThrottle m_labelTip;
     THEMETYPE m_theme = LightTheme;
     ItemColors m_colors;
-    QString m_fontFamily;
-    QFont m_countFont;
+    mutable QString m_fontFamily;
+    mutable QFont m_countFont;
 };

@@ -120,6 +120,11 @@ void NamePainter::drawPlain(QPainter *painter, const QRect &rect, const QString 
         prepared->prepare(painter->transform(), m_font);
         m_plainTexts.insert(text, prepared, 1);
     }
+    if (prepared->textOption().textDirection() != painter->layoutDirection()) {
+        QTextOption option = prepared->textOption();
+        option.setTextDirection(painter->layoutDirection());
+        prepared->setTextOption(option);
+    }
     const QSizeF size = prepared->size();
     if (size.width() > rect.width() || size.height() > rect.height())
         painter->setClipRect(rect, Qt::IntersectClip);
@@ -145,8 +150,9 @@ void NamePainter::drawHighlighted(QPainter *painter, const QRect &rect, const QS
 QTextLayout *NamePainter::highlightedLayout(const QString &text, const QRect &rect,
                                             Qt::Alignment alignment, Qt::LayoutDirection direction)
 {
-    if (QTextLayout *layout = m_highlightedTexts.object(text))
-        return layout;
+    QTextLayout *known = m_highlightedTexts.object(text);
+    if (known && known->textOption().textDirection() == direction)
+        return known;
 
     const QString line = onOneLine(text);
     m_renderer->setFont(m_font);

@@ -15,6 +15,7 @@ private slots:
     void initTestCase() { System::registerFontSubstitutes(); }
     void plainNameIsOrdinaryText_data();
     void plainNameIsOrdinaryText();
+    void keywordDoesNotMoveTheName_data();
     void keywordDoesNotMoveTheName();
     void markFollowsKeywordAndColours();
     void staysOnOneLineInItsRect_data();
@@ -35,10 +36,12 @@ QImage blank()
     return image;
 }
 
-QImage drawn(NamePainter &names, const QString &text)
+QImage drawn(NamePainter &names, const QString &text,
+             Qt::LayoutDirection direction = Qt::LeftToRight)
 {
     QImage image = blank();
     QPainter painter(&image);
+    painter.setLayoutDirection(direction);
     names.draw(&painter, NameRect, text, Qt::AlignCenter);
     return image;
 }
@@ -78,21 +81,29 @@ void TestNamePainter::plainNameIsOrdinaryText()
     QFETCH(QString, text);
     NamePainter names;
     setUp(names);
-    QImage expected = blank();
-    QPainter painter(&expected);
-    painter.setFont(names.font());
-    painter.setPen(ItemColors().text);
-    painter.drawText(NameRect, Qt::AlignCenter, text);
-    painter.end();
-    QCOMPARE(drawn(names, text), expected);
-    QCOMPARE(drawn(names, text), expected); // and from what was kept
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft, Qt::LeftToRight}) {
+        QImage expected = blank();
+        QPainter painter(&expected);
+        painter.setLayoutDirection(direction);
+        painter.setFont(names.font());
+        painter.setPen(ItemColors().text);
+        painter.drawText(NameRect, Qt::AlignCenter, text);
+        painter.end();
+        QCOMPARE(drawn(names, text, direction), expected);
+        QCOMPARE(drawn(names, text, direction), expected); // and from what was kept
+    }
+}
+
+void TestNamePainter::keywordDoesNotMoveTheName_data()
+{
+    plainNameIsOrdinaryText_data();
 }
 
 void TestNamePainter::keywordDoesNotMoveTheName()
 {
+    QFETCH(QString, text);
     NamePainter names;
     setUp(names);
-    const QString text = QStringLiteral("DSC_4711.JPG");
     const QImage plain = drawn(names, text);
     names.setKeyword(QStringLiteral("elsewhere"));
     QCOMPARE(drawn(names, text), plain);
