@@ -38,11 +38,10 @@ public:
     /// What has not been assessed by now is of medium recoverability.
     void setAssessmentFinished(bool finished) { m_assessmentFinished = finished; }
 
-    /// Cards that show the selected look beside those the view has selected. Cards may be many:
-    /// what the selection model selects already need not be listed to be painted.
+    /// Cards of one model that show the selected look beside those the view has selected.
     void setMarkedIndexes(const QModelIndexList &indexes) { m_marked.set(indexes); }
     void clearMarkedIndexes() { m_marked.clear(); }
-    /// Without those that have gone from the model.
+    /// By rows, without those that have gone from the model.
     QModelIndexList markedIndexes() const { return m_marked.indexes(); }
 
     /// The current card. Set by presses; to be set by the owner when the current item changes in

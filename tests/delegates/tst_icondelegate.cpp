@@ -61,6 +61,7 @@ private slots:
     void togglesCheck();
     void marksSurviveOnlyExtendingPresses();
     void marksFollowTheirCards();
+    void marksMayHaveGaps();
     void pressMakesCurrent_data();
     void pressMakesCurrent();
 
@@ -235,6 +236,19 @@ void TestIconDelegate::marksFollowTheirCards()
     QCOMPARE(cards.paint(delegate, cards.indexOf(a), QStyle::State_Selected) == other, false);
     cards.model.clear();
     QVERIFY(delegate.markedIndexes().isEmpty());
+}
+
+void TestIconDelegate::marksMayHaveGaps()
+{
+    CardFixture cards;
+    for (int i = 0; i < 6; ++i)
+        cards.add(QString::number(i));
+    const auto index = [&](int row) { return cards.model.index(row, 0); };
+    IconDelegate delegate;
+    delegate.setMarkedIndexes({index(4), {}, index(0), index(5), index(1)});
+    QCOMPARE(delegate.markedIndexes(), (QModelIndexList{index(0), index(1), index(4), index(5)}));
+    delegate.setMarkedIndexes({index(2)}); // replaces the list
+    QCOMPARE(delegate.markedIndexes(), QModelIndexList{index(2)});
 }
 
 void TestIconDelegate::pressMakesCurrent_data()
