@@ -1,7 +1,5 @@
 #include "content/gridgeometry.h"
 
-#include <limits>
-
 namespace {
 
 /// First and last of the bands [gap + n * pitch, gap + n * pitch + size) that [from, to] touches.
@@ -27,8 +25,7 @@ QSize GridGeometry::contentSize() const
     if (isEmpty())
         return {0, 0};
     const int width = qMin(columns, rowCount) * columnWidth();
-    const qint64 height = spacing + qint64(lineCount()) * lineHeight();
-    return {width, int(qMin<qint64>(height, std::numeric_limits<int>::max()))};
+    return {width, spacing + lineCount() * lineHeight()};
 }
 
 QRect GridGeometry::cardRect(int row) const

@@ -15,7 +15,7 @@ struct GridGeometry {
 
     QSize cell;      ///< of one card; an empty one leaves nothing to show
     int spacing = 0; ///< before, between and after the cards
-    int rowCount = 0;
+    int rowCount = 0; ///< so few that all lines together fit into an int of pixels
     int columns = 1;
     int mirrorWidth = 0; ///< right-to-left: the width that x is mirrored in; 0: left-to-right
 

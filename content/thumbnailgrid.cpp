@@ -10,8 +10,11 @@
 #include <QStyle>
 #include <QTimerEvent>
 
+#include <limits>
+
 namespace {
 constexpr int LinesPerWheelNotch = 1;
+constexpr int MostPixels = std::numeric_limits<int>::max() / 2;
 } // namespace
 
 ThumbnailGrid::ThumbnailGrid(QWidget *parent)
@@ -50,6 +53,9 @@ GridGeometry ThumbnailGrid::geometryNow() const
                                  verticalScrollBar()))
         width -= style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, verticalScrollBar());
     grid.columns = GridGeometry::columnsFor(grid.cell, grid.spacing, width);
+    if (!grid.isEmpty()) // coordinates are ints: what lies beyond them cannot be shown
+        grid.rowCount = int(
+            qMin<qint64>(grid.rowCount, qint64(MostPixels / grid.lineHeight()) * grid.columns));
     if (isRightToLeft())
         grid.mirrorWidth = qMax(viewport()->width(), grid.contentSize().width());
     return grid;

@@ -74,12 +74,12 @@ void ThumbnailGrid::paintFocus(QPainter *painter, const QStyleOptionViewItem &op
 void ThumbnailGrid::paintBand(QPainter *painter)
 {
     QStyleOptionRubberBand option;
-    option.initFrom(this);
+    option.initFrom(viewport()); // a style may draw an opaque band on a window
     option.shape = QRubberBand::Rectangle;
     option.opaque = false;
     option.rect = m_band.rect();
     painter->save();
-    style()->drawControl(QStyle::CE_RubberBand, &option, painter, this);
+    style()->drawControl(QStyle::CE_RubberBand, &option, painter, viewport());
     painter->restore();
 }
 
