@@ -27,6 +27,9 @@ void registerFontSubstitutes();
 /// draws one for a class.
 void removeClassShadow(WId window);
 
+/// Windows can be shown to somebody. May be called before there is an application object.
+bool hasDisplay();
+
 /// Keeps the library that holds \a address mapped until the process ends.
 void pinModule(const void *address);
 

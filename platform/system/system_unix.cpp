@@ -16,7 +16,8 @@
 namespace {
 
 /// Families that look alike, the closest first.
-struct Substitute {
+struct Substitute
+{
     const char *family;
     QStringList standIns;
 };
@@ -118,6 +119,12 @@ void System::registerFontSubstitutes()
 void System::removeClassShadow(WId)
 {
     // windows have no class here that could carry a shadow
+}
+
+bool System::hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
 void System::pinModule(const void *address)

@@ -129,6 +129,11 @@ void System::removeClassShadow(WId window)
                   LONG(GetClassLongW(handle, GCL_STYLE) & ~DWORD(CS_DROPSHADOW)));
 }
 
+bool System::hasDisplay()
+{
+    return true;
+}
+
 void System::pinModule(const void *address)
 {
     HMODULE module = nullptr;

@@ -1,0 +1,327 @@
+#include "host/app/session.h"
+
+#include "host/app/pathpattern.h"
+
+#include <QPixmap>
+
+namespace {
+constexpr int PublishMs = 100; // ten times a second is all that an eye can follow
+using Plugin = SDCardScanContentPluginInterface;
+} // namespace
+
+Session::Session(ContentPlugin &plugin, QObject *parent)
+    : QObject(parent)
+    , m_plugin(plugin)
+    , m_search(m_tree)
+{
+    m_publisher.setInterval(PublishMs);
+    connect(&m_publisher, &QTimer::timeout, this, &Session::publish);
+    connect(&m_search, &ItemSearch::progressed, this, [this] {
+        if (!m_publisher.isActive())
+            m_publisher.start();
+    });
+    connectScan();
+    connectPlugin();
+    m_plugin->setFilterCondition(&m_filter);
+}
+
+Session::~Session()
+{
+    m_plugin->setFilterCondition(nullptr);
+    m_plugin->clearData(Plugin::BothSides); // before the records go
+}
+
+void Session::connectScan()
+{
+    connect(&m_runner, &ScanRunner::opened, this, &Session::takeVolumes);
+    connect(&m_runner, &ScanRunner::itemsFound, this, &Session::takeItems);
+    connect(&m_runner, &ScanRunner::finished, this, &Session::finishScan);
+    connect(&m_runner, &ScanRunner::progress, this, [this](const ScanProgress &progress) {
+        m_progress = progress;
+        emit scanProgressed();
+    });
+    connect(&m_thumbnails, &ThumbnailMaker::thumbnailReady, this, &Session::answerThumbnail);
+    connect(&m_thumbnails, &ThumbnailMaker::thumbnailFailed, this,
+            [this](qint64 id) { answerThumbnail(id, QString(), QImage()); });
+}
+
+void Session::connectPlugin()
+{
+    connect(&m_plugin, &ContentPlugin::treeItemChecked, this, &Session::takeCheck);
+    connect(&m_plugin, &ContentPlugin::searchItemChecked, this, &Session::takeSearchCheck);
+    connect(&m_plugin, &ContentPlugin::searchAllChecked, this,
+            [this](Qt::CheckState state) { takeSearchCheck(m_search.root(), state); });
+    connect(&m_plugin, &ContentPlugin::folderOpened, this, &Session::openFolder);
+    connect(&m_plugin, &ContentPlugin::thumbnailRequested, this, &Session::requestThumbnail);
+    connect(&m_plugin, &ContentPlugin::tooltipRequested, this, &Session::tooltipRequested);
+    connect(&m_plugin, &ContentPlugin::recoverRequested, this, &Session::recoverRequested);
+    // What follows changes the trees that the plug-in is showing: not from inside its signal.
+    connect(
+        &m_plugin, &ContentPlugin::fileOpened, this,
+        [this](TreeItemData *item) {
+            if (const ItemRecord *file = m_tree.records().find(item))
+                emit fileActivated(file);
+        },
+        Qt::QueuedConnection);
+    connect(
+        &m_plugin, &ContentPlugin::locateRequested, this,
+        [this](TreeItemData *item) {
+            if (const ItemRecord *record = m_tree.records().find(item))
+                locate(record);
+        },
+        Qt::QueuedConnection);
+}
+
+void Session::clear()
+{
+    m_publisher.stop();
+    m_thumbnails.drop();
+    m_plugin->clearData(Plugin::BothSides);
+    m_search.clear();
+    m_shown = nullptr;
+    m_tree.clear();
+    m_progress = ScanProgress();
+    m_outcome = ScanOutcome();
+    m_publishedRevision = 0;
+    m_publishedMatches = -1;
+}
+
+void Session::open(const QString &path)
+{
+    clear();
+    m_path = path;
+    m_scanning = true;
+    m_plugin->setScanState(Plugin::ScanStarted);
+    m_plugin->setViewMode(m_viewMode); // starting a scan puts the grid back
+    emit shownRootChanged();
+    emit searchChanged();
+    emit checksChanged();
+    m_runner.start(path);
+}
+
+void Session::takeVolumes(const QVector<VolumeInfo> &volumes)
+{
+    m_tree.setVolumes(volumes);
+    m_thumbnails.setSource(m_runner.source());
+    m_shown = m_tree.allFiles();
+    m_publisher.start();
+    emit opened();
+    emit shownRootChanged();
+}
+
+void Session::takeItems(const QVector<FoundItem> &batch)
+{
+    m_tree.add(batch);
+    m_search.resume();
+}
+
+void Session::finishScan(const ScanOutcome &outcome)
+{
+    m_scanning = false;
+    m_outcome = outcome;
+    publish();
+    m_plugin->setScanState(Plugin::ScanFinished);
+    if (m_shown && m_shown->itemCount == 0)
+        m_plugin->updateScanData(
+            m_shown); // an empty root chooses its page by the state of the scan
+    m_plugin->refreshScanCheckState();
+    emit scanFinished(outcome);
+}
+
+/// Hands over what is shown when it has changed since the last time, and rests when nothing can.
+void Session::publish()
+{
+    if (m_shown && m_tree.revision() != m_publishedRevision) {
+        m_publishedRevision = m_tree.revision();
+        m_plugin->updateScanData(m_shown);
+        emit treeGrew();
+        emit checksChanged(); // what is found in a checked folder is checked
+    }
+    publishSearch();
+    if (!m_scanning && (!m_search.isActive() || m_search.isComplete()))
+        m_publisher.stop();
+}
+
+void Session::publishSearch()
+{
+    // An empty answer is one only when everything has been looked at.
+    if (!m_search.isActive() || (m_search.count() == 0 && !m_search.isComplete())
+        || m_search.count() == m_publishedMatches)
+        return;
+    m_publishedMatches = m_search.count();
+    m_search.updateCheckState();
+    m_plugin->updateSearchData(m_search.root(), m_search.keyword());
+    emit searchChanged();
+}
+
+void Session::publishChecks()
+{
+    m_plugin->refreshScanCheckState();
+    if (m_search.isActive()) {
+        m_search.updateCheckState();
+        m_plugin->refreshSearchCheckState();
+    }
+    emit checksChanged();
+}
+
+void Session::setViewMode(int mode)
+{
+    m_viewMode = mode;
+    m_plugin->setViewMode(mode);
+}
+
+void Session::show(ItemRecord *root)
+{
+    if (!root)
+        return;
+    if (m_search.isActive())
+        setKeyword(QString());
+    m_shown = root;
+    m_publishedRevision = m_tree.revision();
+    m_plugin->updateScanData(root);
+    emit shownRootChanged();
+}
+
+void Session::locate(const ItemRecord *item)
+{
+    const qint64 id = item->fileId;
+    show(item->folder());
+    m_plugin->locateItemByFileId(id);
+}
+
+void Session::setKeyword(const QString &keyword)
+{
+    if (keyword == m_search.keyword())
+        return;
+    m_plugin->clearData(Plugin::SearchSide); // before the root of the old search goes
+    m_publishedMatches = -1;
+    m_search.start(keyword);
+    emit searchChanged();
+}
+
+void Session::setFilter(const FilterCondition &condition)
+{
+    m_filter = condition;
+    m_tree.setFilter(ItemFilter(condition));
+    m_plugin->setFilterCondition(&m_filter);
+    // the folder that was shown may have nothing left in it: go up to where there is something
+    while (m_shown && m_shown->folder() && !m_shown->isShown)
+        m_shown = m_shown->folder();
+    const QString keyword = m_search.keyword();
+    if (!keyword.isEmpty()) {
+        setKeyword(QString());
+        setKeyword(keyword);
+    }
+    publish();
+    emit shownRootChanged();
+    emit checksChanged();
+}
+
+void Session::setChecked(const QVector<ItemRecord *> &items, bool checked)
+{
+    for (ItemRecord *item : items)
+        m_tree.setChecked(item, checked);
+    publishChecks();
+}
+
+void Session::takeCheck(TreeItemData *item, Qt::CheckState state)
+{
+    if (ItemRecord *record = m_tree.records().find(item))
+        setChecked({record}, state == Qt::Checked);
+}
+
+void Session::takeSearchCheck(TreeItemData *item, Qt::CheckState state)
+{
+    if (!m_search.isRoot(item)) {
+        takeCheck(item, state);
+        return;
+    }
+    QVector<ItemRecord *> found;
+    found.reserve(m_search.count());
+    for (const auto *list : {&item->childFolders, &item->childFiles}) {
+        for (TreeItemData *child : *list)
+            found.append(static_cast<ItemRecord *>(child));
+    }
+    setChecked(found, state == Qt::Checked);
+}
+
+void Session::openFolder(TreeItemData *item)
+{
+    ItemRecord *folder = m_tree.records().find(item);
+    if (!folder)
+        return;
+    if (folder->childFolders.isEmpty() && folder->childFiles.isEmpty()) {
+        emit noticed(tr("“%1” is empty.").arg(folder->name));
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this,
+        [this, item] {
+            if (ItemRecord *record = m_tree.records().find(item)) // a new scan may have begun
+                show(record);
+        },
+        Qt::QueuedConnection);
+}
+
+void Session::requestThumbnail(TreeItemData *item)
+{
+    const ItemRecord *record = m_tree.records().find(item);
+    if (!record || record->isFolder())
+        return;
+    m_thumbnails.request(record->found(), record->extension);
+    emit thumbnailTraffic();
+}
+
+void Session::answerThumbnail(qint64 id, const QString &path, const QImage &image)
+{
+    if (image.isNull())
+        m_plugin->updateThumbnail(id, QPixmap());
+    else
+        m_plugin->updateThumbnailWithPath(id, path, QPixmap::fromImage(image));
+    emit thumbnailTraffic();
+}
+
+QVector<ItemRecord *> Session::matching(const QString &pattern) const
+{
+    const PathPattern wanted(pattern);
+    QVector<ItemRecord *> found;
+    for (int i = 0; i < m_tree.records().size(); ++i) {
+        ItemRecord *record = m_tree.records().at(i);
+        if (!record->isRoot && record->isShown
+            && wanted.matches(record->cardPath(m_tree.hasSeveralVolumes())))
+            found.append(record);
+    }
+    return found;
+}
+
+QVector<FoundItem> Session::selectedForRecovery() const
+{
+    QVector<FoundItem> items;
+    QVector<const TreeItemData *> open;
+    QSet<qint64> seen; // a folder and something in it may both be selected
+    const auto selected = m_plugin->getSelectedItems(m_search.isActive() ? Plugin::SearchSide
+                                                                         : Plugin::ScanSide);
+    for (const TreeItemData *item : selected)
+        open.append(item);
+    while (!open.isEmpty()) {
+        const ItemRecord *record = m_tree.records().find(open.takeLast());
+        if (!record || seen.contains(record->secondaryId))
+            continue;
+        seen.insert(record->secondaryId);
+        if (!record->isRoot)
+            items.append(record->found());
+        for (const auto *list : {&record->childFolders, &record->childFiles}) {
+            for (const TreeItemData *child : *list)
+                open.append(child);
+        }
+    }
+    return items;
+}
+
+QVector<FoundItem> Session::checkedForRecovery() const
+{
+    QVector<FoundItem> items;
+    for (const ItemRecord *record : m_tree.checkedItems())
+        items.append(record->found());
+    return items;
+}

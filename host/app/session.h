@@ -1,0 +1,103 @@
+#pragma once
+
+#include "host/app/contentplugin.h"
+#include "host/media/thumbnailmaker.h"
+#include "host/scan/scanrunner.h"
+#include "host/tree/itemsearch.h"
+#include "host/tree/itemtree.h"
+
+#include <QObject>
+#include <QTimer>
+
+/// One source after the other: scans it, keeps its records, drives the plug-in with them and
+/// answers what the plug-in asks for. Knows no widget of the host. GUI thread.
+class Session : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Session(ContentPlugin &plugin, QObject *parent = nullptr);
+    ~Session() override;
+
+    void open(const QString &path);
+    void cancelScan() { m_runner.cancel(); }
+    bool isScanning() const { return m_scanning; }
+    QString path() const { return m_path; }
+    std::shared_ptr<ScanSource> source() const { return m_runner.source(); }
+    ScanProgress progress() const { return m_progress; }
+    ScanOutcome outcome() const { return m_outcome; } ///< of the latest scan that has ended
+
+    const ItemTree &tree() const { return m_tree; }
+    const ItemSearch &search() const { return m_search; }
+    const ThumbnailMaker &thumbnails() const { return m_thumbnails; }
+
+    void setViewMode(int mode);
+    int viewMode() const { return m_viewMode; }
+
+    /// Shows what is in \a root: a folder, a volume or a kind.
+    void show(ItemRecord *root);
+    ItemRecord *shownRoot() const { return m_shown; }
+    bool showsPlaces() const { return m_shown && m_shown->rootType == 0; }
+    /// Goes to the folder of \a item and makes it the current item.
+    void locate(const ItemRecord *item);
+
+    /// An empty \a keyword ends the search.
+    void setKeyword(const QString &keyword);
+    void setFilter(const FilterCondition &condition);
+    const FilterCondition &filter() const { return m_filter; }
+
+    /// What a click on a check box does, for one item or for many.
+    void setChecked(const QVector<ItemRecord *> &items, bool checked);
+    /// The files and folders that \a pattern means, see PathPattern.
+    QVector<ItemRecord *> matching(const QString &pattern) const;
+    /// What is selected on the side that is on screen; folders with all that is shown in them.
+    QVector<FoundItem> selectedForRecovery() const;
+    QVector<FoundItem> checkedForRecovery() const;
+
+signals:
+    void opened();
+    void scanProgressed();
+    void scanFinished(const ScanOutcome &outcome);
+    void treeGrew(); ///< at most ten times a second
+    void shownRootChanged();
+    void checksChanged();
+    void searchChanged(); ///< it began, went on or ended
+    void fileActivated(const ItemRecord *file);
+    void recoverRequested();
+    void noticed(const QString &text); ///< worth telling, but no failure
+    void tooltipRequested(const QString &text);
+    /// A thumbnail was asked for or has been answered.
+    void thumbnailTraffic();
+
+private:
+    void connectScan();
+    void connectPlugin();
+    void clear();
+    void takeVolumes(const QVector<VolumeInfo> &volumes);
+    void takeItems(const QVector<FoundItem> &batch);
+    void finishScan(const ScanOutcome &outcome);
+    void publish();
+    void publishSearch();
+    void publishChecks();
+    void takeCheck(TreeItemData *item, Qt::CheckState state);
+    void takeSearchCheck(TreeItemData *item, Qt::CheckState state);
+    void openFolder(TreeItemData *item);
+    void requestThumbnail(TreeItemData *item);
+    void answerThumbnail(qint64 id, const QString &path, const QImage &image);
+
+    ContentPlugin &m_plugin;
+    FilterCondition m_filter; // the plug-in reads it whenever it chooses a page
+    ItemTree m_tree;
+    ItemSearch m_search;
+    ThumbnailMaker m_thumbnails;
+    ScanRunner m_runner;
+    QTimer m_publisher;
+    QString m_path;
+    ScanProgress m_progress;
+    ScanOutcome m_outcome;
+    ItemRecord *m_shown = nullptr;
+    int m_viewMode = SDCardScanContentPluginInterface::GridView;
+    quint64 m_publishedRevision = 0;
+    int m_publishedMatches = -1;
+    bool m_scanning = false;
+};

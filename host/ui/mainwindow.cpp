@@ -1,0 +1,301 @@
+#include "host/ui/mainwindow.h"
+
+#include "host/scan/filecategory.h"
+#include "host/ui/bottombar.h"
+#include "host/ui/breadcrumbs.h"
+#include "host/ui/filterbar.h"
+#include "host/ui/messagebanner.h"
+#include "host/ui/pictureviewer.h"
+#include "host/ui/recoverydialog.h"
+#include "host/ui/sidepanel.h"
+#include "host/ui/topbar.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QStandardPaths>
+#include <QToolTip>
+
+namespace {
+constexpr QSize MinimumSize{640, 480};
+constexpr QSize FirstSize{1280, 800};
+constexpr int SidePanelFrom = 860; // below this width the results need the room
+enum Side { ScanPage, SearchPage };
+} // namespace
+
+MainWindow::MainWindow(ContentPlugin &plugin, Session &session)
+    : m_plugin(plugin)
+    , m_session(session)
+    , m_topBar(new TopBar(this))
+    , m_banner(new MessageBanner(this))
+    , m_navBar(new QFrame(this))
+    , m_crumbs(new Breadcrumbs(session.tree(), m_navBar))
+    , m_filters(new FilterBar(m_navBar))
+    , m_side(new SidePanel(session.tree(), this))
+    , m_sides(new QStackedWidget(this))
+    , m_bottomBar(new BottomBar(this))
+{
+    setMinimumSize(MinimumSize);
+    resize(FirstSize);
+    setWindowTitle(QCoreApplication::applicationName());
+    buildLayout();
+    connectBars();
+    connectSession();
+    addShortcuts();
+    setTheme(THEMETYPE(qApp->property("ThemeType").toInt()));
+}
+
+MainWindow::~MainWindow()
+{
+    // they go with the plug-in object
+    m_plugin->getScanContentFrame()->setParent(nullptr);
+    m_plugin->getSearchResultFrame()->setParent(nullptr);
+}
+
+void MainWindow::buildLayout()
+{
+    m_navBar->setObjectName(QStringLiteral("navBar"));
+    auto *navigation = new QHBoxLayout(m_navBar);
+    navigation->setContentsMargins(12, 6, 12, 6);
+    navigation->setSpacing(8);
+    navigation->addWidget(m_crumbs, 1);
+    navigation->addWidget(m_filters);
+
+    m_sides->insertWidget(ScanPage, m_plugin->getScanContentFrame());
+    m_sides->insertWidget(SearchPage, m_plugin->getSearchResultFrame());
+    auto *results = new QVBoxLayout;
+    results->setSpacing(0);
+    results->addWidget(m_navBar);
+    results->addWidget(m_banner);
+    results->addWidget(m_sides, 1);
+    auto *middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addWidget(m_side);
+    middle->addLayout(results, 1);
+    auto *whole = new QWidget(this);
+    auto *column = new QVBoxLayout(whole);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_topBar);
+    column->addLayout(middle, 1);
+    column->addWidget(m_bottomBar);
+    setCentralWidget(whole);
+    whole->setFocusPolicy(Qt::ClickFocus);
+    whole->setFocus(); // else the first button would begin with a focus frame
+}
+
+void MainWindow::connectBars()
+{
+    connect(m_topBar, &TopBar::openFolderRequested, this, &MainWindow::chooseFolder);
+    connect(m_topBar, &TopBar::openImageRequested, this, &MainWindow::chooseImage);
+    connect(m_topBar, &TopBar::rescanRequested, this, [this] { openSource(m_session.path()); });
+    connect(m_topBar, &TopBar::stopRequested, &m_session, &Session::cancelScan);
+    connect(m_topBar, &TopBar::keywordChanged, &m_session, &Session::setKeyword);
+    connect(m_topBar, &TopBar::viewModePicked, &m_session, &Session::setViewMode);
+    connect(m_topBar, &TopBar::themeToggled, this,
+            [this] { setTheme(m_theme.isDark ? LightTheme : DarkTheme); });
+    connect(m_filters, &FilterBar::changed, this,
+            [this] { m_session.setFilter(m_filters->condition()); });
+    connect(m_side, &SidePanel::picked, &m_session, &Session::show);
+    connect(m_crumbs, &Breadcrumbs::picked, &m_session, &Session::show);
+    connect(m_bottomBar, &BottomBar::stopRequested, &m_session, &Session::cancelScan);
+    connect(m_bottomBar, &BottomBar::recoverRequested, this,
+            [this] { chooseTarget(m_session.checkedForRecovery()); });
+}
+
+void MainWindow::connectSession()
+{
+    connect(&m_session, &Session::opened, m_banner, &QWidget::hide);
+    connect(&m_session, &Session::scanProgressed, this,
+            [this] { m_bottomBar->setProgress(m_session.progress(), m_session.isScanning()); });
+    connect(&m_session, &Session::scanFinished, this, &MainWindow::tellOutcome);
+    connect(&m_session, &Session::treeGrew, m_side, &SidePanel::refresh);
+    connect(&m_session, &Session::checksChanged, this, &MainWindow::refreshChecks);
+    connect(&m_session, &Session::shownRootChanged, this, [this] {
+        m_crumbs->follow(m_session.shownRoot());
+        m_side->follow(m_session.shownRoot());
+        refreshSide();
+    });
+    connect(&m_session, &Session::searchChanged, this, &MainWindow::refreshSide);
+    connect(&m_session, &Session::fileActivated, this, &MainWindow::openFile);
+    connect(
+        &m_session, &Session::recoverRequested, this,
+        [this] { chooseTarget(m_session.selectedForRecovery()); },
+        Qt::QueuedConnection); // a dialog must not open inside the plug-in's signal
+    connect(&m_session, &Session::noticed, this,
+            [this](const QString &text) { m_banner->tell(MessageBanner::Hint, text); });
+    connect(&m_session, &Session::tooltipRequested, this,
+            [this](const QString &text) { QToolTip::showText(QCursor::pos(), text, this); });
+    connect(&m_opener, &FileOpener::failed, this, &MainWindow::tellFailure);
+}
+
+void MainWindow::addShortcuts()
+{
+    auto *find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, m_topBar, &TopBar::focusSearch);
+    for (int mode = 0; mode <= SDCardScanContentPluginInterface::ListView; ++mode) {
+        auto *view = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + mode)), this);
+        connect(view, &QShortcut::activated, this, [this, mode] { setViewMode(mode); });
+    }
+}
+
+void MainWindow::openSource(const QString &path)
+{
+    m_banner->hide();
+    m_filters->clear();
+    m_session.setFilter(FilterCondition());
+    m_topBar->setKeyword(QString());
+    m_topBar->setSource(path);
+    m_topBar->setScanning(true);
+    m_session.open(path);
+    m_side->reload(nullptr);
+    m_bottomBar->setProgress(m_session.progress(), true);
+}
+
+void MainWindow::setViewMode(int mode)
+{
+    m_topBar->setViewMode(mode);
+    m_session.setViewMode(mode);
+}
+
+void MainWindow::setTheme(THEMETYPE type)
+{
+    m_theme = type == DarkTheme ? HostTheme::dark() : HostTheme::light();
+    setPalette(m_theme.palette());
+    QToolTip::setPalette(m_theme.palette());
+    m_theme.applyTo(m_navBar);
+    m_topBar->setTheme(m_theme);
+    m_banner->setTheme(m_theme);
+    m_crumbs->setTheme(m_theme);
+    m_filters->setTheme(m_theme);
+    m_side->setTheme(m_theme);
+    m_bottomBar->setTheme(m_theme);
+    m_plugin->updateTheme(type);
+}
+
+void MainWindow::search(const QString &keyword)
+{
+    m_topBar->setKeyword(keyword);
+    m_session.setKeyword(m_topBar->keyword());
+}
+
+void MainWindow::refreshSide()
+{
+    const ItemSearch &search = m_session.search();
+    m_sides->setCurrentIndex(search.isActive() ? SearchPage : ScanPage);
+    if (search.isActive()) {
+        m_crumbs->followSearch(search.keyword(), search.count());
+    } else {
+        m_crumbs->follow(m_session.shownRoot());
+        if (!m_topBar->keyword().isEmpty() && !m_session.isScanning())
+            m_topBar->setKeyword(QString()); // the user went elsewhere
+    }
+}
+
+void MainWindow::refreshChecks()
+{
+    const ItemTree &tree = m_session.tree();
+    m_bottomBar->setChecked(tree.checkedFiles(), tree.checkedBytes(), tree.hiddenCheckedFiles());
+}
+
+void MainWindow::tellOutcome(const ScanOutcome &outcome)
+{
+    m_topBar->setScanning(false);
+    m_bottomBar->setProgress(m_session.progress(), false);
+    m_side->refresh();
+    if (!outcome.error.isEmpty())
+        tellFailure(outcome.error);
+    else if (outcome.cancelled)
+        m_banner->tell(MessageBanner::Hint, tr("The scan was stopped. What it found is shown."));
+    else if (outcome.skipped > 0)
+        m_banner->tell(MessageBanner::Hint,
+                       tr("%1 things could not be read, first: %2")
+                           .arg(outcome.skipped)
+                           .arg(outcome.warnings.value(0)));
+}
+
+void MainWindow::tellFailure(const QString &text)
+{
+    m_banner->tell(MessageBanner::Failure, text);
+}
+
+void MainWindow::chooseFolder()
+{
+    const QString path = QFileDialog::getExistingDirectory(this, tr("Open folder"),
+                                                           m_session.path());
+    if (!path.isEmpty())
+        openSource(path);
+}
+
+void MainWindow::chooseImage()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open disk image"),
+                                                      m_session.path());
+    if (!path.isEmpty())
+        openSource(path);
+}
+
+void MainWindow::chooseTarget(const QVector<FoundItem> &items)
+{
+    if (items.isEmpty()) {
+        m_banner->tell(MessageBanner::Hint, tr("Nothing is chosen."));
+        return;
+    }
+    const QString home = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
+    const QString target = QFileDialog::getExistingDirectory(this, tr("Recover to"), home);
+    if (!target.isEmpty())
+        recover(items, target);
+}
+
+void MainWindow::recover(const QVector<FoundItem> &items, const QString &target)
+{
+    auto *dialog = new RecoveryDialog(m_session.source(), m_theme, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::WindowModal);
+    connect(dialog, &RecoveryDialog::recovered, this, [this, target](const RecoveryReport &report) {
+        const bool whole = report.failed.isEmpty() && report.stopReason.isEmpty();
+        m_banner->tell(whole ? MessageBanner::Success : MessageBanner::Failure,
+                       RecoveryDialog::summaryOf(report, target));
+        emit recovered(report);
+    });
+    dialog->open();
+    dialog->start(items, target);
+}
+
+void MainWindow::openFile(const ItemRecord *file)
+{
+    if (file->fileCategory != PhotoCategory) {
+        m_opener.open(m_session.source(), file->found());
+        return;
+    }
+    const ItemSearch &search = m_session.search();
+    const TreeItemData *root = search.isActive() ? search.root() : m_session.shownRoot();
+    QVector<FoundItem> pictures;
+    int current = 0;
+    for (TreeItemData *item : root->childFiles) {
+        if (item->fileCategory != PhotoCategory)
+            continue;
+        if (item == file)
+            current = pictures.size();
+        pictures.append(static_cast<ItemRecord *>(item)->found());
+    }
+    if (pictures.isEmpty())
+        pictures.append(file->found());
+    auto *viewer = new PictureViewer(m_session.source(), this);
+    viewer->open(pictures, current);
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    m_side->setVisible(width() >= SidePanelFrom);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    QMainWindow::closeEvent(event);
+    QCoreApplication::quit();
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "host/app/fileopener.h"
+#include "host/app/session.h"
+#include "host/recovery/recoveryreport.h"
+#include "host/ui/hosttheme.h"
+
+#include <QMainWindow>
+
+class BottomBar;
+class Breadcrumbs;
+class FilterBar;
+class MessageBanner;
+class QStackedWidget;
+class SidePanel;
+class TopBar;
+
+/// The window: bars around the two frames of the plug-in. Turns what the user does into calls of
+/// the session, and what the session tells into what the user sees.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainWindow(ContentPlugin &plugin, Session &session);
+    ~MainWindow() override;
+
+    void openSource(const QString &path);
+    void setViewMode(int mode);
+    void setTheme(THEMETYPE type);
+    void search(const QString &keyword);
+    /// Recovers \a items into \a target and shows how it goes; recovered() follows.
+    void recover(const QVector<FoundItem> &items, const QString &target);
+    void tellFailure(const QString &text);
+
+signals:
+    void recovered(const RecoveryReport &report);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void buildLayout();
+    void connectBars();
+    void connectSession();
+    void addShortcuts();
+    void chooseFolder();
+    void chooseImage();
+    void chooseTarget(const QVector<FoundItem> &items);
+    void openFile(const ItemRecord *file);
+    void refreshSide();
+    void refreshChecks();
+    void tellOutcome(const ScanOutcome &outcome);
+
+    ContentPlugin &m_plugin;
+    Session &m_session;
+    FileOpener m_opener;
+    HostTheme m_theme = HostTheme::light();
+    TopBar *m_topBar;
+    MessageBanner *m_banner;
+    QFrame *m_navBar;
+    Breadcrumbs *m_crumbs;
+    FilterBar *m_filters;
+    SidePanel *m_side;
+    QStackedWidget *m_sides;
+    BottomBar *m_bottomBar;
+};

@@ -1,0 +1,149 @@
+#include "host/ui/pictureviewer.h"
+
+#include "host/media/pictureloader.h"
+#include "host/ui/glyphs.h"
+#include "host/ui/texts.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QToolButton>
+#include <QtConcurrent>
+
+namespace {
+constexpr int Margin = 24;
+constexpr int CaptionHeight = 40;
+constexpr int ButtonSide = 40;
+constexpr int IconSide = 24;
+const QColor Ground(20, 22, 30);
+const QColor Words(255, 255, 255, 200);
+} // namespace
+
+PictureViewer::PictureViewer(std::shared_ptr<const ScanSource> source, QWidget *parent)
+    : QWidget(parent, Qt::Window)
+    , m_source(std::move(source))
+    , m_previous(new QToolButton(this))
+    , m_next(new QToolButton(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    resize(QGuiApplication::primaryScreen()->availableSize() * 3 / 4);
+    const auto prepare = [this](QToolButton *button, Glyph glyph, const QString &name, int by) {
+        button->setIcon(glyphIcon(glyph, Words, QColor(255, 255, 255, 60)));
+        button->setIconSize({IconSide, IconSide});
+        button->setFixedSize(ButtonSide, ButtonSide);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setAccessibleName(name);
+        button->setToolTip(name);
+        connect(button, &QToolButton::clicked, this, [this, by] { step(by); });
+    };
+    prepare(m_previous, Glyph::Left, tr("Previous picture"), -1);
+    prepare(m_next, Glyph::Right, tr("Next picture"), 1);
+    connect(&m_watcher, &QFutureWatcherBase::finished, this, [this] {
+        m_loaded = m_watcher.result();
+        update();
+    });
+}
+
+PictureViewer::~PictureViewer()
+{
+    m_watcher.waitForFinished();
+}
+
+void PictureViewer::open(const QVector<FoundItem> &pictures, int current)
+{
+    m_pictures = pictures;
+    m_current = current;
+    load();
+    show();
+}
+
+void PictureViewer::step(int by)
+{
+    const int next = m_current + by;
+    if (next < 0 || next >= m_pictures.size())
+        return;
+    m_current = next;
+    load();
+}
+
+void PictureViewer::load()
+{
+    const FoundItem item = m_pictures.at(m_current);
+    setWindowTitle(item.name);
+    m_previous->setEnabled(m_current > 0);
+    m_next->setEnabled(m_current + 1 < m_pictures.size());
+    m_loaded = Loaded();
+    const QSize cover = QGuiApplication::primaryScreen()->size() * devicePixelRatioF();
+    // a watcher forgets the picture before, whose result nobody waits for any more
+    m_watcher.setFuture(QtConcurrent::run([source = m_source, item, cover] {
+        Loaded loaded;
+        const std::unique_ptr<QIODevice> file = source->openFile(item, &loaded.error);
+        if (file)
+            loaded.image = loadPicture(*file, cover, &loaded.error);
+        return loaded;
+    }));
+    update();
+}
+
+void PictureViewer::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Ground);
+    painter.setPen(Words);
+    const QRect room = rect().adjusted(Margin, Margin, -Margin, -CaptionHeight);
+    if (!m_loaded.image.isNull()) {
+        const QSize full = m_loaded.image.size() / devicePixelRatioF();
+        QSize size = full;
+        if (size.width() > room.width() || size.height() > room.height())
+            size = size.scaled(room.size(), Qt::KeepAspectRatio);
+        QRect target(QPoint(), size);
+        target.moveCenter(room.center());
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(target, m_loaded.image);
+    } else {
+        const QString why = m_loaded.error.isEmpty()
+            ? tr("Loading…")
+            : tr("This picture cannot be shown.\n%1").arg(m_loaded.error);
+        painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, why);
+    }
+    const QRect caption(Margin, height() - CaptionHeight, width() - 2 * Margin, CaptionHeight);
+    const QString text = tr("%1   %2 of %3")
+                             .arg(m_pictures.at(m_current).name, Texts::number(m_current + 1),
+                                  Texts::number(m_pictures.size()));
+    painter.drawText(caption, Qt::AlignCenter,
+                     painter.fontMetrics().elidedText(text, Qt::ElideMiddle, caption.width()));
+}
+
+void PictureViewer::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Left:
+        step(-1);
+        break;
+    case Qt::Key_Right:
+    case Qt::Key_Space:
+        step(1);
+        break;
+    case Qt::Key_Escape:
+        close();
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void PictureViewer::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placeButtons();
+}
+
+void PictureViewer::placeButtons()
+{
+    const int y = (height() - CaptionHeight - ButtonSide) / 2;
+    m_previous->move(Margin / 2, y);
+    m_next->move(width() - ButtonSide - Margin / 2, y);
+}

@@ -1,0 +1,218 @@
+#include "host/ui/sidepanel.h"
+
+#include "host/tree/itemkinds.h"
+#include "host/tree/itemtree.h"
+#include "host/ui/hosttheme.h"
+#include "host/ui/segments.h"
+#include "host/ui/texts.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int RecordRole = Qt::UserRole;
+constexpr int PanelWidth = 216;
+constexpr int IconSide = 18;
+constexpr int Indent = 14;
+enum Column { NameColumn, CountColumn };
+} // namespace
+
+SidePanel::SidePanel(const ItemTree &tree, QWidget *parent)
+    : QFrame(parent)
+    , m_tree(tree)
+    , m_arrangements(new Segments(this))
+    , m_rows(new QTreeWidget(this))
+{
+    setObjectName(QStringLiteral("sidePanel"));
+    setFixedWidth(PanelWidth);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 12, 0, 0);
+    column->setSpacing(10);
+    auto *head = new QHBoxLayout;
+    head->setContentsMargins(12, 0, 12, 0);
+    head->addWidget(m_arrangements);
+    column->addLayout(head);
+    auto *body = new QHBoxLayout;
+    body->setContentsMargins(8, 0, 8, 0);
+    body->addWidget(m_rows);
+    column->addLayout(body, 1);
+
+    m_arrangements->addText(ByKind, QString());
+    m_arrangements->addText(ByPlace, QString());
+    m_arrangements->setChosen(ByKind);
+    connect(m_arrangements, &Segments::picked, this, [this](int arrangement) {
+        setArrangement(Arrangement(arrangement));
+        emit picked(arrangement == ByKind ? m_tree.allFiles() : m_tree.placeRoot());
+    });
+
+    m_rows->setColumnCount(2);
+    m_rows->setHeaderHidden(true);
+    m_rows->header()->setStretchLastSection(false);
+    m_rows->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    m_rows->header()->setSectionResizeMode(CountColumn, QHeaderView::ResizeToContents);
+    m_rows->setIndentation(Indent);
+    m_rows->setIconSize({IconSide, IconSide});
+    m_rows->setUniformRowHeights(true);
+    m_rows->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(m_rows, &QTreeWidget::itemExpanded, this, &SidePanel::fill);
+    connect(m_rows, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *row) {
+        if (row)
+            emit picked(recordOf(row));
+    });
+    retranslate();
+}
+
+ItemRecord *SidePanel::recordOf(const QTreeWidgetItem *row) const
+{
+    return m_tree.records().find(
+        static_cast<TreeItemData *>(row->data(NameColumn, RecordRole).value<void *>()));
+}
+
+QIcon SidePanel::iconOf(const ItemRecord &record) const
+{
+    Glyph glyph = Glyph::OpenFolder;
+    if (record.rootType != 0)
+        glyph = glyphOfKind(record.rootType);
+    else if (record.isRoot)
+        glyph = Glyph::Disk;
+    return glyphIcon(glyph, m_icon, m_icon, m_accent);
+}
+
+QTreeWidgetItem *SidePanel::addRow(QTreeWidgetItem *above, ItemRecord *record)
+{
+    auto *row = new QTreeWidgetItem;
+    row->setData(NameColumn, RecordRole,
+                 QVariant::fromValue<void *>(static_cast<TreeItemData *>(record)));
+    row->setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
+    if (above)
+        above->addChild(row);
+    else
+        m_rows->addTopLevelItem(row);
+    refreshRow(row);
+    return row;
+}
+
+void SidePanel::refreshRow(QTreeWidgetItem *row)
+{
+    const ItemRecord *record = recordOf(row);
+    if (!record)
+        return;
+    const QString title = record->rootType != 0 ? ItemKinds::titleOf(record->rootType)
+                                                : record->name;
+    row->setText(NameColumn, title.isEmpty() ? tr("Card") : title);
+    row->setToolTip(NameColumn, row->text(NameColumn));
+    row->setIcon(NameColumn, iconOf(*record));
+    row->setText(CountColumn, Texts::number(record->itemCount));
+    row->setForeground(CountColumn, m_faint);
+    if (record->rootType == 0) {
+        row->setChildIndicatorPolicy(record->childFolders.isEmpty()
+                                         ? QTreeWidgetItem::DontShowIndicator
+                                         : QTreeWidgetItem::ShowIndicator);
+    } else if (record->rootType != ItemKinds::AllFilesRootType) {
+        row->setHidden(record->itemCount == 0);
+    }
+    if (row->isExpanded())
+        fill(row);
+    for (int i = 0; i < row->childCount(); ++i)
+        refreshRow(row->child(i));
+}
+
+/// Folders are only ever appended, so what is missing is at the end.
+void SidePanel::fill(QTreeWidgetItem *row)
+{
+    const ItemRecord *record = recordOf(row);
+    if (!record)
+        return;
+    for (int i = row->childCount(); i < record->childFolders.size(); ++i)
+        addRow(row, static_cast<ItemRecord *>(record->childFolders[i]));
+}
+
+void SidePanel::setArrangement(Arrangement arrangement)
+{
+    const QSignalBlocker quiet(m_rows);
+    m_arrangements->setChosen(arrangement);
+    m_rows->clear();
+    m_rows->setRootIsDecorated(arrangement == ByPlace);
+    if (arrangement == ByKind) {
+        addRow(nullptr, m_tree.allFiles());
+        for (ItemRecord *kind : m_tree.kindRoots())
+            addRow(nullptr, kind);
+    } else if (m_tree.placeRoot()) {
+        QTreeWidgetItem *root = addRow(nullptr, m_tree.placeRoot());
+        root->setExpanded(true);
+        fill(root);
+    }
+}
+
+void SidePanel::reload(ItemRecord *shown)
+{
+    setArrangement(shown && shown->rootType == 0 ? ByPlace : ByKind);
+    follow(shown);
+}
+
+void SidePanel::refresh()
+{
+    const QSignalBlocker quiet(m_rows);
+    for (int i = 0; i < m_rows->topLevelItemCount(); ++i)
+        refreshRow(m_rows->topLevelItem(i));
+}
+
+QTreeWidgetItem *SidePanel::rowOf(ItemRecord *record)
+{
+    QTreeWidgetItem *above = nullptr;
+    if (ItemRecord *folder = record->folder()) {
+        above = rowOf(folder);
+        if (!above)
+            return nullptr;
+        fill(above);
+        above->setExpanded(true);
+    }
+    const int count = above ? above->childCount() : m_rows->topLevelItemCount();
+    for (int i = 0; i < count; ++i) {
+        QTreeWidgetItem *row = above ? above->child(i) : m_rows->topLevelItem(i);
+        if (recordOf(row) == record)
+            return row;
+    }
+    return nullptr;
+}
+
+void SidePanel::follow(ItemRecord *shown)
+{
+    if (!shown)
+        return;
+    const Arrangement arrangement = shown->rootType == 0 ? ByPlace : ByKind;
+    if (m_arrangements->chosen() != arrangement || m_rows->topLevelItemCount() == 0)
+        setArrangement(arrangement);
+    const QSignalBlocker quiet(m_rows);
+    if (QTreeWidgetItem *row = rowOf(shown)) {
+        m_rows->setCurrentItem(row);
+        m_rows->scrollToItem(row);
+    }
+}
+
+void SidePanel::retranslate()
+{
+    m_arrangements->setText(ByKind, tr("By kind"));
+    m_arrangements->setText(ByPlace, tr("By place"));
+    m_rows->setAccessibleName(tr("Where to look"));
+    refresh();
+}
+
+void SidePanel::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void SidePanel::setTheme(const HostTheme &theme)
+{
+    theme.applyTo(this);
+    m_icon = theme.icon;
+    m_faint = theme.faintText;
+    m_accent = theme.accentText;
+    m_arrangements->setTheme(theme);
+    refresh();
+}
