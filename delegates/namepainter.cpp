@@ -9,7 +9,6 @@
 #include <QStyle>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QTextCursor>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -113,17 +112,15 @@ void NamePainter::drawPlain(QPainter *painter, const QRect &rect, const QString 
                             Qt::Alignment alignment)
 {
     QStaticText *prepared = m_plainTexts.object(text);
-    if (!prepared) {
+    if (!prepared || prepared->textOption().textDirection() != painter->layoutDirection()) {
+        QTextOption option;
+        option.setTextDirection(painter->layoutDirection());
         prepared = new QStaticText(onOneLine(text));
         prepared->setTextFormat(Qt::PlainText);
+        prepared->setTextOption(option);
         prepared->setPerformanceHint(QStaticText::AggressiveCaching);
         prepared->prepare(painter->transform(), m_font);
         m_plainTexts.insert(text, prepared, 1);
-    }
-    if (prepared->textOption().textDirection() != painter->layoutDirection()) {
-        QTextOption option = prepared->textOption();
-        option.setTextDirection(painter->layoutDirection());
-        prepared->setTextOption(option);
     }
     const QSizeF size = prepared->size();
     if (size.width() > rect.width() || size.height() > rect.height())
@@ -136,7 +133,7 @@ void NamePainter::drawHighlighted(QPainter *painter, const QRect &rect, const QS
                                   Qt::Alignment alignment)
 {
     try {
-        QTextLayout *layout = highlightedLayout(text, rect, alignment, painter->layoutDirection());
+        QTextLayout *layout = highlightedLayout(text, painter->layoutDirection());
         const QTextLine line = layout->lineAt(0);
         painter->setClipRect(rect);
         layout->draw(painter,
@@ -147,26 +144,17 @@ void NamePainter::drawHighlighted(QPainter *painter, const QRect &rect, const QS
     }
 }
 
-QTextLayout *NamePainter::highlightedLayout(const QString &text, const QRect &rect,
-                                            Qt::Alignment alignment, Qt::LayoutDirection direction)
+QTextLayout *NamePainter::highlightedLayout(const QString &text, Qt::LayoutDirection direction)
 {
     QTextLayout *known = m_highlightedTexts.object(text);
     if (known && known->textOption().textDirection() == direction)
         return known;
 
     const QString line = onOneLine(text);
-    m_renderer->setFont(m_font);
     m_renderer->setPlainText(line);
     m_highlighter->setKeyword(m_keyword, m_colors.highlightBackground,
                               m_colors.highlightForeground);
     m_highlighter->rehighlight();
-    m_renderer->resize(rect.size());
-    m_renderer->setAlignment(alignment);
-    m_renderer->selectAll();
-    QTextCharFormat textFormat;
-    textFormat.setForeground(m_colors.text);
-    m_renderer->mergeCurrentCharFormat(textFormat);
-    m_renderer->moveCursor(QTextCursor::Start);
 
     auto layout = std::make_unique<QTextLayout>(line, m_font);
     layout->setFormats(m_renderer->document()->firstBlock().layout()->formats());

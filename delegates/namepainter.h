@@ -40,8 +40,7 @@ private:
                    Qt::Alignment alignment);
     void drawHighlighted(QPainter *painter, const QRect &rect, const QString &text,
                          Qt::Alignment alignment);
-    QTextLayout *highlightedLayout(const QString &text, const QRect &rect, Qt::Alignment alignment,
-                                   Qt::LayoutDirection direction);
+    QTextLayout *highlightedLayout(const QString &text, Qt::LayoutDirection direction);
     void applyPalette();
     void forget();
 
