@@ -56,7 +56,7 @@ function(scan_add_test name)
     cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
     set_tests_properties(${name} PROPERTIES
         LABELS ${folder}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-config/${name};TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-config/${name};TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
         TIMEOUT ${arg_TIMEOUT})
 endfunction()
 

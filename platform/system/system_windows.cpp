@@ -1,5 +1,6 @@
 #include "platform/system/system.h"
 
+#include <QBitmap>
 #include <QSettings>
 
 #include <qt_windows.h>
@@ -103,7 +104,7 @@ QPixmap System::fileTypeIcon(const QString &extension, int side)
 
     IImageList *list = nullptr;
     if (FAILED(
-            SHGetImageList(imageListFor(side), IID_IImageList, reinterpret_cast<void **>(&list))))
+            SHGetImageList(imageListFor(side), __uuidof(IImageList), reinterpret_cast<void **>(&list))))
         return {};
     HICON icon = nullptr;
     const HRESULT result = list->GetIcon(info.iIcon, ILD_TRANSPARENT, &icon);
