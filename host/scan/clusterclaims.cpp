@@ -1,5 +1,7 @@
 #include "host/scan/clusterclaims.h"
 
+#include "host/scan/fatentries.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -12,27 +14,6 @@ QString tr(const char *text)
 }
 
 constexpr TSK_DADDR_T ClusterMask = 0x0fffffff; // the rest of the number is reserved on FAT32
-
-/// From the boot sector or the copy that each kind keeps; 0: both are broken.
-unsigned sectorsPerCluster(TSK_FS_INFO *fs)
-{
-    constexpr size_t FatField = 13;
-    constexpr size_t ExFatShiftField = 109;
-    constexpr unsigned MaxShift = 16;
-    const bool exFat = fs->ftype == TSK_FS_TYPE_EXFAT;
-    for (const TSK_OFF_T copy : {0, exFat ? 12 : 6}) {
-        unsigned char boot[512] = {};
-        if (tsk_fs_read(fs, copy * TSK_OFF_T(fs->block_size), reinterpret_cast<char *>(boot),
-                        sizeof(boot))
-            != ssize_t(sizeof(boot)))
-            continue;
-        const unsigned shift = boot[ExFatShiftField];
-        const unsigned count = exFat ? (shift <= MaxShift ? 1u << shift : 0) : boot[FatField];
-        if (count != 0 && (count & (count - 1)) == 0)
-            return count;
-    }
-    return 0;
-}
 
 /// Where the contents begin, as the entry says; 0: nowhere.
 TSK_DADDR_T firstCluster(const TSK_FS_FILE *file)
@@ -94,7 +75,8 @@ bool ClusterClaims::belongTo(TSK_FS_FILE *file, const TSK_FS_ATTR *contents, QSt
 bool ClusterClaims::isOnlyClaim(TSK_FS_FILE *file, const TSK_FS_ATTR *contents)
 {
     if (m_clusterSectors == 0)
-        m_clusterSectors = sectorsPerCluster(file->fs_info);
+        m_clusterSectors = TSK_DADDR_T(FatEntries(file->fs_info).clusterBytes())
+            / file->fs_info->block_size;
     if (m_clusterSectors == 0 || !contents->nrd.run)
         return false;
     const TSK_DADDR_T cluster = firstCluster(file);

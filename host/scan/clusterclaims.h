@@ -59,7 +59,7 @@ private:
     std::mutex m_mutex; // guards what follows
     std::vector<Claim> m_deleted;
     std::vector<Live> m_live;
-    std::vector<Owner> m_owners;   // by first sector; of m_live, found when first needed
-    unsigned m_clusterSectors = 0; // 0: not read yet
-    size_t m_ownersOf = 0;         // how many of m_live they were found for
+    std::vector<Owner> m_owners;      // by first sector; of m_live, found when first needed
+    TSK_DADDR_T m_clusterSectors = 0; // 0: not read yet
+    size_t m_ownersOf = 0;            // how many of m_live they were found for
 };

@@ -1,6 +1,7 @@
 #include "host/scan/volumewalker.h"
 
 #include "host/scan/clusterclaims.h"
+#include "host/scan/fatentries.h"
 #include "host/scan/volumefinder.h"
 
 #include <QCoreApplication>
@@ -52,8 +53,12 @@ VolumeWalker::VolumeWalker(TSK_FS_INFO *fs, int volume, ScanIds &ids, const Scan
     , m_warnings(warnings)
     , m_claims(claims)
 {
+    if (isFatFamily(fs))
+        m_fat = std::make_unique<FatEntries>(fs);
     m_sinceBatch.start();
 }
+
+VolumeWalker::~VolumeWalker() = default;
 
 bool VolumeWalker::walkFolders()
 {
@@ -100,7 +105,7 @@ bool VolumeWalker::list(const Folder &folder)
             continue;
         if (file->name && file->name->name) {
             // The library leaves the records of orphans out.
-            if (!file->meta && isFatFamily(m_fs))
+            if (!file->meta && m_fat)
                 m_fs->file_add_meta(m_fs, file, file->name->meta_addr);
             take(file, folder);
         }
@@ -125,7 +130,7 @@ bool VolumeWalker::isNoise(const TSK_FS_NAME *name, const TSK_FS_META *meta) con
     if (m_fs->ftype == TSK_FS_TYPE_NTFS && name->meta_addr < FirstNtfsUserRecord)
         return true; // the file system's own
     const bool deleted = name->flags & TSK_FS_NAME_FLAG_UNALLOC;
-    if (!deleted || isFatFamily(m_fs))
+    if (!deleted || m_fat)
         return false;
     // A name that was left behind by a rename, or whose record serves another file by now: there is
     // nothing behind it that is not found elsewhere.
@@ -136,7 +141,7 @@ bool VolumeWalker::isNoise(const TSK_FS_NAME *name, const TSK_FS_META *meta) con
 
 bool VolumeWalker::isFirstSight(const TSK_FS_NAME *name, const Folder &folder)
 {
-    if (isFatFamily(m_fs)) {
+    if (m_fat) {
         const int before = m_entries.size();
         m_entries.insert(name->meta_addr);
         return m_entries.size() > before;
@@ -150,6 +155,13 @@ bool VolumeWalker::isFirstSight(const TSK_FS_NAME *name, const Folder &folder)
     return m_names.size() > before;
 }
 
+QString VolumeWalker::nameOf(const TSK_FS_FILE *file, bool orphan) const
+{
+    // Of orphans the library gives the short name only.
+    const QString longName = orphan && m_fat ? m_fat->longName(file->name->meta_addr) : QString();
+    return longName.isEmpty() ? decoded(file->name->name) : longName;
+}
+
 void VolumeWalker::take(TSK_FS_FILE *file, const Folder &folder)
 {
     const TSK_FS_NAME *name = file->name;
@@ -158,7 +170,7 @@ void VolumeWalker::take(TSK_FS_FILE *file, const Folder &folder)
         return;
     const bool inOrphans = !m_orphansName.isEmpty();
     FoundItem item;
-    item.name = decoded(name->name);
+    item.name = nameOf(file, inOrphans && folder.depth == 0);
     item.deleted = folder.deleted || (name->flags & TSK_FS_NAME_FLAG_UNALLOC)
         || (meta && (meta->flags & TSK_FS_META_FLAG_UNALLOC));
     item.folder = isFolderType(name, meta);
@@ -181,11 +193,13 @@ void VolumeWalker::take(TSK_FS_FILE *file, const Folder &folder)
     }
     if (meta) {
         item.size = item.folder ? 0 : qMax<qint64>(0, meta->size);
-        item.modifiedTime = qMax<qint64>(0, meta->mtime);
+        const qint64 time = meta->mtime;
+        const qint64 correction = m_fat ? m_fat->timeCorrection(name->meta_addr, time) : 0;
+        item.modifiedTime = qMax<qint64>(0, time + correction);
     }
     item.id = m_ids.next();
     deliver(item);
-    if (isFatFamily(m_fs))
+    if (m_fat)
         m_claims.add(file, item.deleted, !inOrphans);
 
     if (!item.folder || m_walked.contains(item.address))

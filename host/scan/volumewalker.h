@@ -8,10 +8,12 @@
 #include <QSet>
 
 #include <deque>
+#include <memory>
 
 #include <tsk/libtsk.h>
 
 class ClusterClaims;
+class FatEntries;
 
 /// Finds the files of one file system, live ones first, and hands them on in batches. One thread,
 /// which owns the file system while the walk runs.
@@ -24,6 +26,7 @@ class VolumeWalker
 public:
     VolumeWalker(TSK_FS_INFO *fs, int volume, ScanIds &ids, const ScanSource::Sink &sink,
                  const std::atomic<bool> &cancel, Warnings &warnings, ClusterClaims &claims);
+    ~VolumeWalker();
 
     /// What can be reached from the root. False when the root itself cannot be read.
     bool walkFolders();
@@ -43,12 +46,14 @@ private:
     void walk();
     bool list(const Folder &folder);
     void take(TSK_FS_FILE *file, const Folder &folder);
+    QString nameOf(const TSK_FS_FILE *file, bool orphan) const;
     bool isNoise(const TSK_FS_NAME *name, const TSK_FS_META *meta) const;
     bool isFirstSight(const TSK_FS_NAME *name, const Folder &folder);
     void deliver(const FoundItem &item);
     void flush();
 
     TSK_FS_INFO *m_fs;
+    std::unique_ptr<FatEntries> m_fat; // null on other file systems
     const int m_volume;
     ScanIds &m_ids;
     const ScanSource::Sink &m_sink;
