@@ -30,20 +30,26 @@ QString largeUnit(const QLocale &locale, int power)
     return unit;
 }
 
-} // namespace
-
-QString LangTexts::date(const QLocale &locale, qint64 seconds)
+QString dateOf(const QLocale &locale, const QDate &date)
 {
     QString format = locale.dateFormat(QLocale::ShortFormat);
     if (!format.contains(QLatin1String("yyyy")))
         format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    return locale.toString(QDateTime::fromSecsSinceEpoch(seconds).date(), format);
+    return locale.toString(date, format);
+}
+
+} // namespace
+
+QString LangTexts::date(const QLocale &locale, qint64 seconds)
+{
+    return dateOf(locale, QDateTime::fromSecsSinceEpoch(seconds).date());
 }
 
 QString LangTexts::dateTime(const QLocale &locale, qint64 seconds)
 {
-    const QTime time = QDateTime::fromSecsSinceEpoch(seconds).time();
-    return date(locale, seconds) + QLatin1Char(' ') + locale.toString(time, QLocale::ShortFormat);
+    const QDateTime local = QDateTime::fromSecsSinceEpoch(seconds);
+    return dateOf(locale, local.date()) + QLatin1Char(' ')
+        + locale.toString(local.time(), QLocale::ShortFormat);
 }
 
 QString LangTexts::number(const QLocale &locale, double number)
