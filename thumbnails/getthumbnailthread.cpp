@@ -3,14 +3,14 @@
 #include "platform/item/treeitemdata.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
-#include <QMutexLocker>
-#include <QPair>
 #include <QThread>
+
+#include <chrono>
 
 namespace {
 
 constexpr int FileKind = 2;
-constexpr unsigned long IdleSleepMs = 1000;
+constexpr std::chrono::milliseconds IdleSleep(1000);
 
 } // namespace
 
@@ -26,7 +26,7 @@ bool GetThumbnailThread::enqueue(TreeItemData *item)
     if (!item)
         return false;
     const Identity identity(item, item->fileId);
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_queued.contains(identity))
         return false;
     m_queued.insert(identity);
@@ -36,17 +36,17 @@ bool GetThumbnailThread::enqueue(TreeItemData *item)
 
 void GetThumbnailThread::pause()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_stopped = true;
     m_queue.clear();
     m_queued.clear();
-    m_paused.wakeAll();
+    m_paused.notify_all();
 }
 
 void GetThumbnailThread::startThread()
 {
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         m_stopped = false;
     }
     while (!isStopped()) {
@@ -61,15 +61,15 @@ bool GetThumbnailThread::isStopped() const
     // a pause may come before the loop has begun; the thread remembers that it is to end
     if (QThread::currentThread()->isInterruptionRequested())
         return true;
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return m_stopped;
 }
 
 bool GetThumbnailThread::takeFirst(Request *request)
 {
-    const QMutexLocker lock(&m_mutex);
-    if (m_queue.isEmpty() && !m_stopped)
-        m_paused.wait(&m_mutex, IdleSleepMs); // only a pause cuts the sleep short
+    std::unique_lock<std::mutex> lock(m_mutex);
+    if (m_queue.isEmpty())
+        m_paused.wait_for(lock, IdleSleep, [this] { return m_stopped; }); // only a pause wakes
     if (m_stopped || m_queue.isEmpty())
         return false;
     *request = m_queue.takeFirst();

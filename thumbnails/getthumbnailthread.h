@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QList>
-#include <QMutex>
 #include <QObject>
+#include <QPair>
 #include <QSet>
 #include <QString>
-#include <QWaitCondition>
+
+#include <condition_variable>
+#include <mutex>
 
 class ScanPluginPreviewManager;
 class TreeItemData;
@@ -13,7 +15,8 @@ class TreeItemData;
 /// Works through the items whose thumbnails are wanted, first in first out. Lives in a thread of
 /// its own; what it needs of a record is copied when the item is queued, on the GUI thread, and the
 /// record itself is never read afterwards.
-class GetThumbnailThread : public QObject {
+class GetThumbnailThread : public QObject
+{
     Q_OBJECT
 
 public:
@@ -37,7 +40,8 @@ Q_SIGNALS:
     void signalPauseThread();
 
 private:
-    struct Request {
+    struct Request
+    {
         TreeItemData *item = nullptr; ///< only ever compared and handed back
         qint64 fileId = 0;
         QString extension;
@@ -51,8 +55,9 @@ private:
     void serve(const Request &request);
 
     ScanPluginPreviewManager *const m_cache;
-    mutable QMutex m_mutex;
-    QWaitCondition m_paused;
+    // the standard library's, because race detectors see through them and not through Qt's
+    mutable std::mutex m_mutex;
+    std::condition_variable m_paused;
     QList<Request> m_queue;
     QSet<Identity> m_queued;
     bool m_stopped = true;

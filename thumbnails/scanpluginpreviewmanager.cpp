@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFileInfo>
-#include <QMutexLocker>
 #include <QThread>
 
 #include <algorithm>
@@ -196,21 +195,34 @@ bool ScanPluginPreviewManager::loadSavedThumbnailToCache(qint64 fileId, const QS
         QImage image = ThumbnailImage::load(file);
         if (image.isNull())
             continue;
-        // pixmaps are made on the GUI thread only
-        QMetaObject::invokeMethod(
-            this, [this, epoch, fileId, image] { takeLoaded(epoch, fileId, image); });
+        handOver({epoch, fileId, std::move(image)});
         return true;
     }
     return false;
 }
 
-void ScanPluginPreviewManager::takeLoaded(int epoch, qint64 fileId, QImage image)
+void ScanPluginPreviewManager::handOver(Loaded loaded)
 {
-    if (epoch != m_epoch)
-        return;
-    if (m_overtaken.remove(fileId))
-        return;
-    emit signalUpdateThumBnail(fileId, QPixmap::fromImage(std::move(image)));
+    {
+        const std::lock_guard<std::mutex> lock(m_loadedLock);
+        m_loaded.push_back(std::move(loaded));
+    }
+    // pixmaps are made on the GUI thread only
+    QMetaObject::invokeMethod(this, [this] { takeLoaded(); });
+}
+
+void ScanPluginPreviewManager::takeLoaded()
+{
+    std::vector<Loaded> arrived;
+    {
+        const std::lock_guard<std::mutex> lock(m_loadedLock);
+        arrived.swap(m_loaded);
+    }
+    for (Loaded &loaded : arrived) {
+        if (loaded.epoch != m_epoch || m_overtaken.remove(loaded.fileId))
+            continue;
+        emit signalUpdateThumBnail(loaded.fileId, QPixmap::fromImage(std::move(loaded.image)));
+    }
 }
 
 void ScanPluginPreviewManager::forgetPending(qint64 fileId)
@@ -288,13 +300,13 @@ bool ScanPluginPreviewManager::claimHostRequest(qint64 fileId)
 
 QString ScanPluginPreviewManager::thumbnailPath(qint64 fileId) const
 {
-    const QMutexLocker lock(&m_pathLock);
+    const std::lock_guard<std::mutex> lock(m_pathLock);
     return m_thumbnailPaths.value(fileId);
 }
 
 void ScanPluginPreviewManager::rememberThumbnailPath(qint64 fileId, const QString &path)
 {
-    const QMutexLocker lock(&m_pathLock);
+    const std::lock_guard<std::mutex> lock(m_pathLock);
     m_thumbnailPaths.insert(fileId, path);
 }
 
@@ -315,6 +327,6 @@ void ScanPluginPreviewManager::stop()
     m_missed.clear();
     m_overtaken.clear();
     m_askedOfHost.clear();
-    const QMutexLocker lock(&m_pathLock);
+    const std::lock_guard<std::mutex> lock(m_pathLock);
     m_thumbnailPaths.clear();
 }

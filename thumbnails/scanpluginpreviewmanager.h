@@ -5,13 +5,14 @@
 #include <QCache>
 #include <QHash>
 #include <QMap>
-#include <QMutex>
 #include <QObject>
 #include <QPixmap>
 #include <QPointer>
 #include <QSet>
 
 #include <atomic>
+#include <mutex>
+#include <vector>
 
 class GetThumbnailThread;
 class QThread;
@@ -21,7 +22,8 @@ class QThread;
 /// Memory is bounded: of very many pictures the ones not shown for longest are given up, and looked
 /// up again when they are wanted. Made on first use, never destroyed; the worker is joined at the
 /// latest when the application object goes. GUI thread, but for the functions that say otherwise.
-class ScanPluginPreviewManager : public QObject {
+class ScanPluginPreviewManager : public QObject
+{
     Q_OBJECT
 
 public:
@@ -74,7 +76,15 @@ private:
 
     void startWorker();
     bool isAnswered(qint64 fileId) const;
-    void takeLoaded(int epoch, qint64 fileId, QImage image);
+    /// What the worker has loaded, on its way to the GUI thread.
+    struct Loaded
+    {
+        int epoch = 0;
+        qint64 fileId = 0;
+        QImage image;
+    };
+    void handOver(Loaded loaded);
+    void takeLoaded();
     void forgetPending(qint64 fileId);
     void relayMiss(TreeItemData *item);
     QString thumbnailPath(qint64 fileId) const;
@@ -89,8 +99,10 @@ private:
     QHash<TreeItemData *, Guard> m_missed; ///< by address, between a miss and its relay
     QSet<qint64> m_overtaken;              ///< pending ones that the host has answered meanwhile
     QSet<qint64> m_askedOfHost;
-    mutable QMutex m_pathLock;               ///< guards m_thumbnailPaths, which the worker reads
+    mutable std::mutex m_pathLock;           ///< guards m_thumbnailPaths, which the worker reads
     QHash<qint64, QString> m_thumbnailPaths; ///< files that pictures from the host came from
+    std::mutex m_loadedLock;                 ///< guards m_loaded
+    std::vector<Loaded> m_loaded;
     std::atomic<int> m_epoch{0}; ///< grows with each stop(): what was loaded before is dropped
     GetThumbnailThread *const m_worker;
     QThread *const m_thread;

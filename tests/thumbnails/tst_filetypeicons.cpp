@@ -5,7 +5,8 @@
 
 using FileTypeIcons::Size;
 
-class tst_FileTypeIcons : public QObject {
+class tst_FileTypeIcons : public QObject
+{
     Q_OBJECT
 
 private slots:

@@ -3,23 +3,31 @@
 #include "thumbnails/scanpluginpreviewmanager.h"
 
 #include <QElapsedTimer>
-#include <QSignalSpy>
 #include <QTest>
 #include <QThread>
 
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace {
 
 /// A worker in a thread of its own, as the cache keeps one.
-class RunningWorker {
+class RunningWorker
+{
 public:
     RunningWorker()
         : worker(ScanPluginPreviewManager::instance())
     {
         worker.moveToThread(&thread);
         QObject::connect(&thread, &QThread::started, &worker, &GetThumbnailThread::startThread);
+        // not QSignalSpy: it would write in the worker's thread what the test reads in its own
+        QObject::connect(&worker, &GetThumbnailThread::signalLocalThumbnailMiss, &receiver,
+                         [this](qint64 fileId) { misses.append(fileId); });
+        // a lock that race detectors know: QThread::wait() says nothing to them
+        QObject::connect(
+            &thread, &QThread::finished, &worker,
+            [this] { const std::lock_guard<std::mutex> lock(m_finished); }, Qt::DirectConnection);
     }
     ~RunningWorker() { join(); }
 
@@ -29,15 +37,22 @@ public:
         thread.requestInterruption();
         thread.quit();
         thread.wait();
+        const std::lock_guard<std::mutex> lock(m_finished);
     }
 
     GetThumbnailThread worker;
     QThread thread;
+    QObject receiver;
+    QVector<qint64> misses;
+
+private:
+    std::mutex m_finished;
 };
 
 } // namespace
 
-class tst_GetThumbnailThread : public QObject {
+class tst_GetThumbnailThread : public QObject
+{
     Q_OBJECT
 
 private slots:
@@ -70,10 +85,7 @@ void tst_GetThumbnailThread::queueing()
 void tst_GetThumbnailThread::missesComeInOrder()
 {
     RunningWorker running;
-    QVector<qint64> misses;
     QVector<TreeItemData *> wanted;
-    connect(&running.worker, &GetThumbnailThread::signalLocalThumbnailMiss, this,
-            [&](qint64 id) { misses.append(id); });
     connect(&running.worker, &GetThumbnailThread::signalSaveThumbnail, this,
             [&](TreeItemData *item) { wanted.append(item); });
     Photo first(11);
@@ -88,13 +100,12 @@ void tst_GetThumbnailThread::missesComeInOrder()
     dying.reset(); // its queued copy is all that is looked at
     running.thread.start();
     QTRY_COMPARE(wanted, files);
-    QCOMPARE(misses, (QVector<qint64>{11, 13}));
+    QCOMPARE(running.misses, (QVector<qint64>{11, 13}));
 }
 
 void tst_GetThumbnailThread::pauseEmptiesTheQueue()
 {
     RunningWorker running;
-    QSignalSpy misses(&running.worker, &GetThumbnailThread::signalLocalThumbnailMiss);
     std::vector<std::unique_ptr<Photo>> photos;
     for (int i = 0; i < 100; ++i) {
         photos.push_back(std::make_unique<Photo>(i));
@@ -104,18 +115,17 @@ void tst_GetThumbnailThread::pauseEmptiesTheQueue()
     Photo last(1000);
     QVERIFY(running.worker.enqueue(&last));
     running.thread.start();
-    QTRY_COMPARE(misses.count(), 1);
-    QCOMPARE(misses.at(0).at(0).toLongLong(), qint64(1000));
+    QTRY_COMPARE(running.misses.size(), 1);
+    QCOMPARE(running.misses.constFirst(), qint64(1000));
 }
 
 void tst_GetThumbnailThread::pauseWakesTheSleeper()
 {
     RunningWorker running;
-    QSignalSpy misses(&running.worker, &GetThumbnailThread::signalLocalThumbnailMiss);
     Photo photo(5);
     QVERIFY(running.worker.enqueue(&photo));
     running.thread.start();
-    QTRY_COMPARE(misses.count(), 1); // from now on it sleeps for a second
+    QTRY_COMPARE(running.misses.size(), 1); // from now on it sleeps for a second
     QElapsedTimer timer;
     timer.start();
     running.join();
@@ -134,7 +144,6 @@ void tst_GetThumbnailThread::pauseBeforeTheLoopBegins()
 void tst_GetThumbnailThread::endsInTheMiddleOfAPicture()
 {
     RunningWorker running;
-    QSignalSpy misses(&running.worker, &GetThumbnailThread::signalLocalThumbnailMiss);
     std::vector<std::unique_ptr<Photo>> photos;
     for (int i = 0; i < 20; ++i) {
         photos.push_back(std::make_unique<Photo>(200 + i));
@@ -150,7 +159,7 @@ void tst_GetThumbnailThread::endsInTheMiddleOfAPicture()
     running.join();
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     QCoreApplication::processEvents();
-    QCOMPARE(misses.count(), 0); // given up is not missing
+    QCOMPARE(running.misses.size(), 0); // given up is not missing
 }
 
 QTEST_MAIN(tst_GetThumbnailThread)

@@ -45,7 +45,8 @@ void letTheWorkerWork()
 
 } // namespace
 
-class tst_ScanPluginPreviewManager : public QObject {
+class tst_ScanPluginPreviewManager : public QObject
+{
     Q_OBJECT
 
 private slots:

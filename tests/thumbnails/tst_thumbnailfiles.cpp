@@ -3,7 +3,8 @@
 #include <QDir>
 #include <QTest>
 
-class tst_ThumbnailFiles : public QObject {
+class tst_ThumbnailFiles : public QObject
+{
     Q_OBJECT
 
 private slots:

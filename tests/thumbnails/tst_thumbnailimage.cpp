@@ -54,7 +54,8 @@ QByteArray pngHeader(const QSize &size)
 
 } // namespace
 
-class tst_ThumbnailImage : public QObject {
+class tst_ThumbnailImage : public QObject
+{
     Q_OBJECT
 
 private slots:
