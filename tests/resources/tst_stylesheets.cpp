@@ -34,12 +34,16 @@ QString sheet(const char *name)
                                      {QLatin1String(name) + QLatin1String(".qss")});
 }
 
-QStringList s_warnings;
+QStringList &warnings()
+{
+    static QStringList texts;
+    return texts;
+}
 
 void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type >= QtWarningMsg)
-        s_warnings.append(text);
+        warnings().append(text);
 }
 
 double luminance(const QColor &colour)
@@ -102,13 +106,13 @@ void TestStylesheets::isUnderstood()
     QVERIFY(!text.isEmpty());
     QVERIFY2(!text.contains(QLatin1Char('@')), "a colour was not replaced");
 
-    s_warnings.clear();
+    warnings().clear();
     const QtMessageHandler before = qInstallMessageHandler(collectWarnings);
     QWidget widget;
     widget.setStyleSheet(text);
     widget.ensurePolished();
     qInstallMessageHandler(before);
-    QVERIFY2(s_warnings.isEmpty(), qPrintable(s_warnings.join(QLatin1Char('\n'))));
+    QVERIFY2(warnings().isEmpty(), qPrintable(warnings().join(QLatin1Char('\n'))));
 
     static const QRegularExpression image(QStringLiteral("url\\(([^)]*)\\)"));
     for (auto it = image.globalMatch(text); it.hasNext();) {

@@ -8,10 +8,8 @@
 
 namespace {
 
-const QStringList s_folders{QStringLiteral("common"),     QStringLiteral("model"),
-                            QStringLiteral("thumbnails"), QStringLiteral("popups"),
-                            QStringLiteral("delegates"),  QStringLiteral("detail"),
-                            QStringLiteral("content"),    QStringLiteral("plugin")};
+const char *const s_folders[] = {"common",    "model",  "thumbnails", "popups",
+                                 "delegates", "detail", "content",    "plugin"};
 
 /// Keys that the code chooses from tables or puts together.
 const char *const s_keysOfTables[] = {"iso_speed",
@@ -67,8 +65,8 @@ QMap<QString, QString> keysOfTheCode()
     static const QRegularExpression use(
         QStringLiteral("(?:\"QuarvoTRS\",\\s*|translatedKey\\(\\s*)\"([^\"]+)\""));
     QMap<QString, QString> keys;
-    for (const QString &folder : s_folders) {
-        QDirIterator files(QLatin1String(SOURCE_FOLDER "/") + folder,
+    for (const char *folder : s_folders) {
+        QDirIterator files(QLatin1String(SOURCE_FOLDER "/") + QLatin1String(folder),
                            {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
