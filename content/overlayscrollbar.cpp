@@ -5,7 +5,6 @@
 namespace {
 
 constexpr int Width = 8;
-constexpr int DistanceFromRight = 13; // left edge of the bar, from the view's right edge
 
 } // namespace
 
@@ -40,8 +39,8 @@ void OverlayScrollBar::sync()
     }
     const QPoint corner = m_view->mapTo(parentWidget(), QPoint(0, 0));
     const int x = layoutDirection() == Qt::RightToLeft
-        ? corner.x() + DistanceFromRight - Width
-        : corner.x() + m_view->width() - DistanceFromRight;
+        ? corner.x() + RoomInView - Width
+        : corner.x() + m_view->width() - RoomInView;
     setGeometry(x, corner.y(), Width, m_view->height());
     show();
     raise();

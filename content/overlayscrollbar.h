@@ -11,6 +11,8 @@ class OverlayScrollBar : public QScrollBar
     Q_OBJECT
 
 public:
+    static constexpr int RoomInView = 13; ///< pixels of the view's edge that it lies over
+
     OverlayScrollBar(QAbstractItemView *view, QWidget *parent);
 
     /// Takes range, value and place from the view; hides where there is nothing to scroll.

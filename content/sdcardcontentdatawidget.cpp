@@ -78,6 +78,8 @@ void SDCardContentDataWidget::createViews()
     ui->listView->setResizeMode(QListView::Adjust);
     ui->listView->setUniformItemSizes(true);
     ui->listView->setSpacing(CardSpacing);
+    ui->listView->setReservedWidth(OverlayScrollBar::RoomInView);
+    ui->listView->setCardsStretched(true);
     ui->listView->setItemDelegate(m_gridDelegate);
 
     m_table = new ScanTableView(ui->frame_4);

@@ -52,13 +52,30 @@ GridGeometry ThumbnailGrid::geometryNow() const
         && !style()->pixelMetric(QStyle::PM_ScrollView_ScrollBarOverlap, nullptr,
                                  verticalScrollBar()))
         width -= style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, verticalScrollBar());
+    width -= m_reservedWidth;
     grid.columns = GridGeometry::columnsFor(grid.cell, grid.spacing, width);
+    if (m_cardsStretched && !grid.isEmpty()) {
+        const int left = qMax(0, width - grid.spacing - grid.columns * grid.columnWidth());
+        grid.cell.rwidth() += qMin(left / grid.columns, grid.cell.width() / 2);
+    }
     if (!grid.isEmpty()) // coordinates are ints: what lies beyond them cannot be shown
         grid.rowCount = int(
             qMin<qint64>(grid.rowCount, qint64(MostPixels / grid.lineHeight()) * grid.columns));
     if (isRightToLeft())
         grid.mirrorWidth = qMax(viewport()->width(), grid.contentSize().width());
     return grid;
+}
+
+void ThumbnailGrid::setReservedWidth(int pixels)
+{
+    m_reservedWidth = qMax(0, pixels);
+    scheduleDelayedItemsLayout();
+}
+
+void ThumbnailGrid::setCardsStretched(bool stretched)
+{
+    m_cardsStretched = stretched;
+    scheduleDelayedItemsLayout();
 }
 
 void ThumbnailGrid::layOutIfDue() const

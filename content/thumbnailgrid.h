@@ -28,6 +28,11 @@ public:
     /// Repaints the cards in the viewport whose \a role has the value \a id.
     void repaintMatching(int role, qint64 id);
 
+    /// Keeps \a pixels at the end of each line free, for what lies over the grid there.
+    void setReservedWidth(int pixels);
+    /// Cards grow alike, up to half as wide again, until they fill the line. Off when made.
+    void setCardsStretched(bool stretched);
+
     /// The item that a selection with Shift starts from; invalid when there is none.
     QModelIndex selectionAnchor() const { return m_anchor; }
     /// Puts the anchor back after a reset of the model; selection and current item stay.
@@ -103,6 +108,8 @@ private:
 
     QSize m_cell;
     int m_columns = 0;
+    int m_reservedWidth = 0;
+    bool m_cardsStretched = false;
     int m_topRow = 0;     ///< the row at the upper edge when the user last scrolled
     int m_topOverlap = 0; ///< pixels of its line above that edge
     bool m_layingOut = false;

@@ -66,6 +66,8 @@ private slots:
     void cursor();
     void shiftRangeIsOneRange();
     void topCardStaysOnResize();
+    void stretchedCardsFillTheLine_data();
+    void stretchedCardsFillTheLine();
     void scrollToShowsWholeCard_data();
     void scrollToShowsWholeCard();
 
@@ -223,6 +225,42 @@ void TestThumbnailGrid::topCardStaysOnResize()
     m_grid->resize(size);
     QTRY_COMPARE(m_grid->verticalScrollBar()->value(), 3000);
     QCOMPARE(m_grid->visibleRows(), seen);
+}
+
+void TestThumbnailGrid::stretchedCardsFillTheLine_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    for (int width : {500, 641, 700, 701, 957, 1920}) {
+        QTest::newRow(qPrintable(QString::number(width))) << width << Qt::LeftToRight;
+        QTest::newRow(qPrintable(QString::number(width) + " mirrored")) << width << Qt::RightToLeft;
+    }
+}
+
+void TestThumbnailGrid::stretchedCardsFillTheLine()
+{
+    QFETCH(int, width);
+    QFETCH(Qt::LayoutDirection, direction);
+    constexpr int Reserved = 13;
+    m_grid->setLayoutDirection(direction);
+    m_grid->setReservedWidth(Reserved);
+    m_grid->setCardsStretched(true);
+    show(100);
+    m_grid->resize(width, 500);
+    QCoreApplication::processEvents();
+    const auto rectOf = [this](int row) { return m_grid->visualRect(m_model->index(row, 0)); };
+    int last = 0;
+    while (rectOf(last + 1).top() == rectOf(0).top())
+        ++last;
+    const QRect line = rectOf(0) | rectOf(last);
+    const int room = m_grid->viewport()->width() - Reserved - 2 * Spacing;
+    QVERIFY2(line.width() <= room && line.width() > room - 2 - last,
+             qPrintable(QString("%1 of %2").arg(line.width()).arg(room)));
+    for (int row : {0, 1, last, last + 1, 99}) {
+        m_grid->scrollTo(m_model->index(row, 0));
+        QCOMPARE(rectOf(row).size(), rectOf(0).size());
+        QCOMPARE(m_grid->indexAt(rectOf(row).center()).row(), row);
+    }
 }
 
 void TestThumbnailGrid::scrollToShowsWholeCard_data()
