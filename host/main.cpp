@@ -31,6 +31,27 @@ QString sampleCard()
     return QFileInfo::exists(file) ? file : QString();
 }
 
+/// Before there is a window system: whether one is needed, and which, is decided after this. False
+/// when the program ends here.
+bool readCommandLine(int &argc, char *argv[], CommandLine *wishes, int *exitCode)
+{
+    const QCoreApplication early(argc, argv);
+    QString message;
+    switch (wishes->parse(QCoreApplication::arguments(), &message)) {
+    case CommandLine::Run:
+        return true;
+    case CommandLine::Usage:
+        tell(message + QStringLiteral("; see --help"));
+        *exitCode = WrongUsage;
+        return false;
+    case CommandLine::Help:
+    case CommandLine::Version:
+        QTextStream(stdout) << message << '\n';
+        return false;
+    }
+    return false;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -38,22 +59,10 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("Quarvo"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.0.0"));
 
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
     CommandLine wishes;
-    QString message;
-    switch (wishes.parse(arguments, &message)) {
-    case CommandLine::Run:
-        break;
-    case CommandLine::Usage:
-        tell(message + QStringLiteral("; see --help"));
-        return WrongUsage;
-    case CommandLine::Help:
-    case CommandLine::Version:
-        QTextStream(stdout) << message << '\n';
-        return Success;
-    }
+    int exitCode = Success;
+    if (!readCommandLine(argc, argv, &wishes, &exitCode))
+        return exitCode;
 
     if (!System::hasDisplay() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         tell(QStringLiteral("there is no display: running offscreen"));
@@ -68,6 +77,7 @@ int main(int argc, char *argv[])
     ThumbnailFiles::sweep();
 
     ContentPlugin plugin;
+    QString message;
     const QString pluginFile = wishes.plugin.isEmpty() ? qEnvironmentVariable("QUARVO_PLUGIN")
                                                        : wishes.plugin;
     if (!plugin.load(pluginFile, &message)) {

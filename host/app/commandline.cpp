@@ -92,9 +92,11 @@ CommandLine::Answer CommandLine::parse(const QStringList &arguments, QString *me
     quit = parser.isSet(QStringLiteral("quit"));
     for (const char *name : {"recover-to", "screenshot", "report", "check", "plugin"}) {
         const QString option = QLatin1String(name);
-        if (parser.isSet(option) && parser.values(option).contains(QString())) {
-            *message = QStringLiteral("--%1 needs a value").arg(option);
-            return Usage;
+        for (const QString &value : parser.values(option)) {
+            if (value.isEmpty() || value.startsWith(QLatin1String("--"))) {
+                *message = QStringLiteral("--%1 needs a value").arg(option);
+                return Usage;
+            }
         }
     }
     if (parser.isSet(QStringLiteral("view"))) {

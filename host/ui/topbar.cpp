@@ -154,6 +154,7 @@ void TopBar::focusSearch()
 void TopBar::setTheme(const HostTheme &theme)
 {
     theme.applyTo(this);
+    m_search->setPalette(theme.palette()); // a sheet knows no colour for the hint in an empty box
     m_views->setTheme(theme);
     m_source->setIcon(glyphIcon(Glyph::Disk, theme.accentText));
     m_searchIcon->setIcon(glyphIcon(Glyph::Search, theme.faintText));

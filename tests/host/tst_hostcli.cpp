@@ -1,0 +1,253 @@
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// The program as its users start it.
+class TestHostCli : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void wrongUsage_data();
+    void wrongUsage();
+    void helpIsNoFailure();
+    void badSources_data();
+    void badSources();
+    void recoversWhatIsChecked_data();
+    void recoversWhatIsChecked();
+    void aSecondRecoveryOverwritesNothing();
+    void aTargetThatCannotBeWritten();
+    void screenshotOfTheChosenSize();
+    void runsWithoutADisplay();
+
+private:
+    struct Result
+    {
+        int exitCode = -1;
+        QString messages;
+    };
+
+    Result run(QStringList arguments, bool offscreen = true);
+    QJsonObject report() const;
+    void write(const QString &name, const QByteArray &contents);
+    QString source() const { return m_folder->filePath("card"); }
+    QString target() const { return m_folder->filePath("target"); }
+
+    QScopedPointer<QTemporaryDir> m_folder;
+};
+
+void TestHostCli::initTestCase()
+{
+    QVERIFY(QFile::exists(QCoreApplication::applicationDirPath() + "/quarvo-host"));
+}
+
+void TestHostCli::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    QVERIFY(m_folder->isValid());
+    write("card/DCIM/100/a.txt", "first");
+    write("card/DCIM/101/a.txt", "second");
+    write("card/DCIM/101/B.TXT", QByteArray(300000, 'b'));
+    write("card/notes.md", "");
+    write("card/DCIM/broken.jpg", "no picture at all");
+    QImage picture(640, 480, QImage::Format_RGB32);
+    picture.fill(Qt::darkCyan);
+    QVERIFY(picture.save(source() + "/DCIM/100/picture.png"));
+}
+
+void TestHostCli::write(const QString &name, const QByteArray &contents)
+{
+    const QString path = m_folder->filePath(name);
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(contents), contents.size());
+}
+
+TestHostCli::Result TestHostCli::run(QStringList arguments, bool offscreen)
+{
+    QProcess host;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!offscreen) {
+        for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+            environment.remove(QLatin1String(name));
+    }
+    host.setProcessEnvironment(environment);
+    host.start(QCoreApplication::applicationDirPath() + "/quarvo-host", arguments);
+    Result result;
+    if (host.waitForFinished(90000) && host.exitStatus() == QProcess::NormalExit)
+        result.exitCode = host.exitCode();
+    result.messages = QString::fromLocal8Bit(host.readAllStandardError());
+    return result;
+}
+
+QJsonObject TestHostCli::report() const
+{
+    QFile file(m_folder->filePath("report.json"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QJsonDocument::fromJson(file.readAll()).object();
+}
+
+void TestHostCli::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("unknown option") << QStringList{"--fast"} << "fast";
+    QTest::newRow("unknown view") << QStringList{"--view", "tiles"} << "list-detail";
+    QTest::newRow("unknown theme") << QStringList{"--theme", "blue"} << "dark";
+    QTest::newRow("unknown language") << QStringList{"--language", "Klingon"} << "German";
+    QTest::newRow("size without height") << QStringList{"--size", "800"} << "1280x800";
+    QTest::newRow("size of nothing") << QStringList{"--size", "0x600"} << "1280x800";
+    QTest::newRow("two sources") << QStringList{"one", "two"} << "one source";
+    QTest::newRow("empty target") << QStringList{"--recover-to", ""} << "recover-to";
+    QTest::newRow("value missing") << QStringList{"--report"} << "report";
+}
+
+void TestHostCli::wrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, word);
+    const Result result = run(arguments + QStringList{"--quit"});
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY2(result.messages.contains(word), qPrintable(result.messages));
+}
+
+void TestHostCli::helpIsNoFailure()
+{
+    QCOMPARE(run({"--help"}).exitCode, 0);
+}
+
+void TestHostCli::badSources_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QByteArray noise(3 << 20, Qt::Uninitialized);
+    quint32 state = 1;
+    for (char &byte : noise)
+        byte = char((state = state * 1664525u + 1013904223u) >> 24);
+    QTest::newRow("missing") << QByteArray();
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("random") << noise;
+    QTest::newRow("zeros") << QByteArray(3 << 20, '\0');
+}
+
+void TestHostCli::badSources()
+{
+    QFETCH(QByteArray, contents);
+    const QString image = m_folder->filePath("image.img");
+    if (!contents.isNull())
+        write("image.img", contents);
+    const Result result = run({image, "--report", m_folder->filePath("report.json"), "--quit"});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.messages.contains("quarvo-host: "), qPrintable(result.messages));
+    QCOMPARE(report()["files"].toInt(-1), 0);
+    QCOMPARE(report()["failed"].toArray().size(), 1);
+}
+
+void TestHostCli::recoversWhatIsChecked_data()
+{
+    QTest::addColumn<QStringList>("patterns");
+    QTest::addColumn<QStringList>("expected");
+    const QStringList all{"DCIM/100/a.txt", "DCIM/100/picture.png", "DCIM/101/B.TXT",
+                          "DCIM/101/a.txt", "DCIM/broken.jpg",      "notes.md"};
+    QTest::newRow("everything") << QStringList{"*"} << all;
+    QTest::newRow("a folder takes its files along")
+        << QStringList{"DCIM/101"} << QStringList{"DCIM/101/B.TXT", "DCIM/101/a.txt"};
+    QTest::newRow("star crosses folders, case does not matter")
+        << QStringList{"*.txt"}
+        << QStringList{"DCIM/100/a.txt", "DCIM/101/B.TXT", "DCIM/101/a.txt"};
+    QTest::newRow("two patterns, one of them means nothing")
+        << QStringList{"notes.md", "nothing*"} << QStringList{"notes.md"};
+    QTest::newRow("the whole path counts")
+        << QStringList{"DCIM/?00/a.txt"} << QStringList{"DCIM/100/a.txt"};
+}
+
+void TestHostCli::recoversWhatIsChecked()
+{
+    QFETCH(QStringList, patterns);
+    QFETCH(QStringList, expected);
+    QStringList arguments{
+        source(), "--recover-to", target(), "--report", m_folder->filePath("report.json"),
+        "--quit"};
+    for (const QString &pattern : patterns)
+        arguments << "--check" << pattern;
+    const Result result = run(arguments);
+    QVERIFY2(result.exitCode == 0, qPrintable(result.messages));
+
+    const QJsonObject told = report();
+    QCOMPARE(told["source"].toString(), source());
+    QCOMPARE(told["files"].toInt(), 6);
+    QCOMPARE(told["folders"].toInt(), 3);
+    QCOMPARE(told["deleted"].toInt(-1), 0);
+    QCOMPARE(told["checked"].toInt(), expected.size());
+    QVERIFY(told["failed"].toArray().isEmpty());
+    QVERIFY(told["seconds"].toDouble() > 0);
+    QCOMPARE(told["signals"].toObject().size(), 11);
+
+    QStringList recovered;
+    for (const QJsonValue &value : told["recovered"].toArray()) {
+        const QJsonObject file = value.toObject();
+        const QString path = file["path"].toString();
+        recovered.append(path);
+        QFile original(source() + '/' + path);
+        QFile copy(target() + '/' + path);
+        QVERIFY(original.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadOnly));
+        const QByteArray bytes = original.readAll();
+        QCOMPARE(copy.readAll(), bytes);
+        QCOMPARE(file["size"].toInt(), bytes.size());
+        QCOMPARE(file["sha256"].toString(),
+                 QString(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex()));
+    }
+    recovered.sort();
+    QCOMPARE(recovered, expected);
+}
+
+void TestHostCli::aSecondRecoveryOverwritesNothing()
+{
+    const QStringList arguments{source(),       "--check", "notes.md",
+                                "--recover-to", target(),  "--quit"};
+    QCOMPARE(run(arguments).exitCode, 0);
+    QCOMPARE(run(arguments).exitCode, 0);
+    QCOMPARE(QDir(target()).entryList(QDir::Files), QStringList({"notes (2).md", "notes.md"}));
+}
+
+void TestHostCli::aTargetThatCannotBeWritten()
+{
+    write("target", "a file stands where the folder should be");
+    const Result result = run({source(), "--check", "*.txt", "--recover-to", target(), "--report",
+                               m_folder->filePath("report.json"), "--quit"});
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(report()["failed"].toArray().size(), 3);
+    QVERIFY(!report()["failed"].toArray().first().toObject()["reason"].toString().isEmpty());
+}
+
+void TestHostCli::screenshotOfTheChosenSize()
+{
+    const QString picture = m_folder->filePath("window.png");
+    const Result result = run({source(), "--size", "900x600", "--theme", "dark", "--screenshot",
+                               picture, "--report", m_folder->filePath("report.json"), "--quit"});
+    QVERIFY2(result.exitCode == 0, qPrintable(result.messages));
+    const QImage window(picture);
+    QCOMPARE(window.size(), QSize(900, 600));
+    QVERIFY(qGray(window.pixel(2, 300)) < 80);   // the dark chrome reaches the edge
+    QCOMPARE(report()["thumbnails"].toInt(), 1); // the broken picture has none and holds nothing up
+}
+
+void TestHostCli::runsWithoutADisplay()
+{
+    const Result result = run({source(), "--quit"}, false);
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.messages.contains("offscreen"), qPrintable(result.messages));
+}
+
+QTEST_GUILESS_MAIN(TestHostCli)
+#include "tst_hostcli.moc"
