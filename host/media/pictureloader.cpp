@@ -5,9 +5,9 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QImageReader>
-#include <QMutex>
 
 #include <algorithm>
+#include <mutex>
 
 namespace {
 
@@ -72,8 +72,10 @@ QImage loadPicture(QIODevice &device, const QSize &cover, QString *error)
         *error = tr("The picture is too large: %1 × %2.").arg(size.width()).arg(size.height());
         return QImage();
     }
-    static QMutex s_large;
-    QMutexLocker lock(pixels > LargePixels ? &s_large : nullptr);
+    static std::mutex s_large;
+    std::unique_lock<std::mutex> lock(s_large, std::defer_lock);
+    if (pixels > LargePixels)
+        lock.lock();
     const quint64 memoryLeft = System::availablePhysicalMemory();
     if (memoryLeft > 0 && quint64(pixels) * BytesPerPixel > memoryLeft / 2) {
         *error = tr("There is not enough memory for a picture of %1 × %2.")

@@ -33,7 +33,10 @@ void ThumbnailMaker::setSource(std::shared_ptr<const ScanSource> source)
     drop();
     ++m_generation; // what is at work answers for a source that is gone
     m_pending.clear();
-    m_files.clear();
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_files.clear();
+    }
     m_made = 0;
     m_source = std::move(source);
 }
@@ -56,7 +59,7 @@ void ThumbnailMaker::request(const FoundItem &item, const QString &extension)
         return;
     }
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         m_stack.push_back({item, extension, m_source, m_generation});
     }
     m_pool.start([this] { work(); });
@@ -65,7 +68,7 @@ void ThumbnailMaker::request(const FoundItem &item, const QString &extension)
 void ThumbnailMaker::drop()
 {
     m_pool.clear();
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     for (const Request &request : m_stack)
         m_pending.remove(request.item.id);
     m_stack.clear();
@@ -73,7 +76,7 @@ void ThumbnailMaker::drop()
 
 bool ThumbnailMaker::takeLatest(Request *request)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stack.empty())
         return false;
     *request = std::move(m_stack.back());
@@ -93,6 +96,11 @@ void ThumbnailMaker::work()
         image = loadPicture(*device, CoverSize, &reason);
     if (!image.isNull())
         path = ThumbnailFiles::write(request.item.id, request.extension, image);
+    if (!path.isEmpty()) {
+        // Here, because the answer is lost when the maker goes.
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_files.add(path);
+    }
     QMetaObject::invokeMethod(
         this,
         [this, generation = request.generation, id = request.item.id, path, image, reason] {
@@ -104,9 +112,8 @@ void ThumbnailMaker::work()
 void ThumbnailMaker::answer(int generation, qint64 fileId, const QString &path, const QImage &image,
                             const QString &reason)
 {
-    if (!path.isEmpty())
-        m_files.add(path);
     if (generation != m_generation) {
+        std::lock_guard<std::mutex> lock(m_mutex);
         m_files.remove(path);
         return;
     }

@@ -4,11 +4,11 @@
 #include "host/scan/scansource.h"
 
 #include <QImage>
-#include <QMutex>
 #include <QObject>
 #include <QSet>
 #include <QThreadPool>
 
+#include <mutex>
 #include <vector>
 
 /// Makes thumbnails of pictures on a few threads of its own and writes them where the plug-in looks
@@ -63,13 +63,13 @@ private:
                 const QString &reason);
 
     std::shared_ptr<const ScanSource> m_source;
-    ThumbnailFiles m_files;
     QSet<qint64> m_pending;
     int m_generation = 0;
     int m_made = 0;
 
-    QMutex m_mutex; // guards what follows
+    std::mutex m_mutex; // guards what follows
     std::vector<Request> m_stack;
+    ThumbnailFiles m_files;
 
     QThreadPool m_pool;
 };

@@ -2,8 +2,9 @@
 
 #include "host/recovery/filerecovery.h"
 
-#include <QMutex>
 #include <QThread>
+
+#include <mutex>
 
 namespace {
 constexpr int PollMs = 100;
@@ -13,7 +14,7 @@ struct RecoveryJob::Run
 {
     std::unique_ptr<QThread> thread;
     std::atomic<bool> cancel{false};
-    QMutex mutex; // guards what follows
+    std::mutex mutex; // guards what follows
     RecoveryProgress progress;
     RecoveryReport report;
     bool done = false;
@@ -42,12 +43,12 @@ void RecoveryJob::start(const QVector<FoundItem> &items, const QString &target)
     const ScanSource *source = m_source.get();
     m_run->thread.reset(QThread::create([run, source, items, target] {
         const FileRecovery::Tell tell = [run](const RecoveryProgress &now) {
-            QMutexLocker lock(&run->mutex);
+            std::lock_guard<std::mutex> lock(run->mutex);
             run->progress = now;
         };
         const RecoveryReport report =
             FileRecovery(*source, target, run->cancel, tell).recover(items);
-        QMutexLocker lock(&run->mutex);
+        std::lock_guard<std::mutex> lock(run->mutex);
         run->report = report;
         run->done = true;
     }));
@@ -78,7 +79,7 @@ void RecoveryJob::poll()
     RecoveryReport report;
     bool done = false;
     {
-        QMutexLocker lock(&m_run->mutex);
+        std::lock_guard<std::mutex> lock(m_run->mutex);
         now = m_run->progress;
         done = m_run->done;
         if (done)

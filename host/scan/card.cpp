@@ -34,7 +34,7 @@ struct Card::Medium
     QFile file;
     const std::atomic<bool> *cancel = nullptr;
     QString readError;
-    qint64 lastOffset = 0;
+    std::function<void(qint64)> watcher;
     bool opened = false;
 
     static Medium *of(TSK_IMG_INFO *info) { return reinterpret_cast<Medium *>(info); }
@@ -56,7 +56,8 @@ ssize_t Card::Medium::read(TSK_IMG_INFO *info, TSK_OFF_T offset, char *buffer, s
     };
     if (self->cancel && *self->cancel)
         return fail(tr("cancelled"));
-    self->lastOffset = offset;
+    if (self->watcher)
+        self->watcher(offset);
     if (offset < 0 || offset >= info->size)
         return fail(tr("a read past the end"));
     if (!self->file.seek(offset))
@@ -150,9 +151,9 @@ void Card::clearReadError()
     m_medium->readError.clear();
 }
 
-qint64 Card::lastOffset() const
+void Card::setWatcher(std::function<void(qint64)> watcher)
 {
-    return m_medium->lastOffset;
+    m_medium->watcher = std::move(watcher);
 }
 
 CardPool::CardPool(const QString &path, const std::vector<CardVolume> &volumes)
@@ -181,6 +182,7 @@ std::unique_ptr<Card> CardPool::take(QString *error)
 void CardPool::giveBack(std::unique_ptr<Card> card)
 {
     card->setCancel(nullptr);
+    card->setWatcher({});
     card->clearReadError();
     std::lock_guard<std::mutex> lock(m_mutex);
     m_idle.push_back(std::move(card));

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -40,8 +41,8 @@ public:
     /// The medium could not be read at a place that it has; text of the system, empty if never.
     QString readError() const;
     void clearReadError();
-    /// Byte where the latest read began.
-    qint64 lastOffset() const;
+    /// Is told where each read begins, bytes.
+    void setWatcher(std::function<void(qint64 offset)> watcher);
 
 private:
     struct Medium; // a file of ours behind the library's image interface

@@ -145,7 +145,7 @@ ScanOutcome FolderSource::scan(const Sink &sink, const std::atomic<bool> &cancel
                     const auto size = fs::file_size(entry->path(), unknown);
                     item.size = unknown ? 0 : qint64(size);
                 }
-                QMutexLocker lock(&m_mutex);
+                std::lock_guard<std::mutex> lock(m_mutex);
                 m_oddNames.insert(item.id, entry->path());
             }
             if (isFolder)
@@ -173,7 +173,7 @@ ScanOutcome FolderSource::scan(const Sink &sink, const std::atomic<bool> &cancel
 fs::path FolderSource::pathOf(const FoundItem &item) const
 {
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         const auto odd = m_oddNames.constFind(item.id);
         if (odd != m_oddNames.constEnd())
             return *odd;

@@ -3,9 +3,9 @@
 #include "host/scan/scansource.h"
 
 #include <QHash>
-#include <QMutex>
 
 #include <filesystem>
+#include <mutex>
 
 /// The files below a folder of this computer. Links are not followed: what they lead to is found
 /// where it lies, and a walk cannot turn in circles. Special files are left out.
@@ -23,6 +23,6 @@ private:
 
     std::filesystem::path pathOf(const FoundItem &item) const;
 
-    mutable QMutex m_mutex;                          // guards what follows
+    mutable std::mutex m_mutex;                      // guards what follows
     QHash<qint64, std::filesystem::path> m_oddNames; // files whose name is no valid Unicode
 };

@@ -78,10 +78,19 @@ ScanOutcome ImageSource::scan(const Sink &sink, const std::atomic<bool> &cancel,
         VolumeWalker walker(fs, int(i), ids, sink, cancel, warnings, m_pool->claims(int(i)));
         if (!walker.walkFolders() && !cancel)
             outcome.error = tr("The card's top folder cannot be read.");
+        // The search for orphans goes through the whole volume, and takes nearly all the time.
+        double reached = 0;
+        card->setWatcher([&](qint64 offset) {
+            const double part = double(offset - volumes[i].offset)
+                / double(m_volumes.at(int(i)).bytes);
+            if (!progress || part <= reached || part > 1)
+                return;
+            reached = part;
+            progress((double(i) + reached) / double(volumes.size()));
+        });
         if (!cancel)
             walker.walkOrphans(orphansName());
-        if (progress)
-            progress(double(i + 1) / double(volumes.size()));
+        card->setWatcher({});
     }
     const QString cause = card->readError();
     if (!cancel && !cause.isEmpty())

@@ -1,5 +1,7 @@
 #include "host/scan/scanrunner.h"
 
+#include <mutex>
+
 namespace {
 constexpr int DeliveryMs = 100;
 }
@@ -13,7 +15,7 @@ struct ScanRunner::Run
     std::atomic<bool> cancel{false};
     std::unique_ptr<QThread> thread;
 
-    QMutex mutex; // guards what follows
+    std::mutex mutex; // guards what follows
     QVector<FoundItem> found;
     ScanOutcome outcome;
     double fraction = -1;
@@ -31,24 +33,24 @@ void ScanRunner::Run::work()
         mine = ScanSource::create(path, &result.error);
     if (mine) {
         {
-            QMutexLocker lock(&mutex);
+            std::lock_guard<std::mutex> lock(mutex);
             source = mine;
             opened = true;
         }
         const auto take = [this](QVector<FoundItem> &&batch) {
-            QMutexLocker lock(&mutex);
+            std::lock_guard<std::mutex> lock(mutex);
             if (found.isEmpty())
                 found = std::move(batch);
             else
                 found += batch;
         };
         const auto tell = [this](double now) {
-            QMutexLocker lock(&mutex);
+            std::lock_guard<std::mutex> lock(mutex);
             fraction = now;
         };
         result = mine->scan(take, cancel, tell);
     }
-    QMutexLocker lock(&mutex);
+    std::lock_guard<std::mutex> lock(mutex);
     outcome = result;
     done = true;
 }
@@ -119,7 +121,7 @@ void ScanRunner::poll()
     bool done = false;
     bool nowOpen = false;
     {
-        QMutexLocker lock(&run->mutex);
+        std::lock_guard<std::mutex> lock(run->mutex);
         batch.swap(run->found);
         done = run->done;
         outcome = run->outcome;

@@ -3,7 +3,6 @@
 #include "host/scan/scansource.h"
 
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QObject>
 #include <QThread>
 #include <QTimer>

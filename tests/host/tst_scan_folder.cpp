@@ -160,7 +160,7 @@ void TestScanFolder::deliversInOrderOnTheGuiThread()
     QStringList order;
     int items = 0;
     const auto note = [&](const char *what) {
-        QCOMPARE(QThread::currentThread(), qApp->thread());
+        QCOMPARE(QThread::currentThread(), QCoreApplication::instance()->thread());
         order << QString::fromLatin1(what);
     };
     connect(&runner, &ScanRunner::opened, &runner, [&] { note("opened"); });

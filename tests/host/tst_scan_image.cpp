@@ -578,10 +578,17 @@ void TestScanImage::cancelIsQuick()
         cancel = true; // the search for orphans is still to come
         sinceCancel.start();
     };
-    const ScanOutcome outcome = source->scan(sink, cancel);
+    QVector<double> steps;
+    const ScanOutcome outcome = source->scan(sink, cancel,
+                                             [&](double fraction) { steps << fraction; });
     QVERIFY(outcome.cancelled);
     QVERIFY(outcome.error.isEmpty());
     QVERIFY2(sinceCancel.elapsed() < 500, qPrintable(QString::number(sinceCancel.elapsed())));
+    cancel = false;
+    source->scan([](QVector<FoundItem> &&) {}, cancel, [&](double fraction) { steps << fraction; });
+    QVERIFY(steps.size() > 10);
+    QVERIFY(std::is_sorted(steps.cbegin(), steps.cend()));
+    QVERIFY(steps.last() > 0.9 && steps.last() <= 1);
 }
 
 void TestScanImage::readsOnManyThreads()
