@@ -2,9 +2,8 @@
 
 #include "host/recovery/filerecovery.h"
 
-#include <QThread>
-
 #include <mutex>
+#include <thread>
 
 namespace {
 constexpr int PollMs = 100;
@@ -12,7 +11,7 @@ constexpr int PollMs = 100;
 
 struct RecoveryJob::Run
 {
-    std::unique_ptr<QThread> thread;
+    std::thread thread;
     std::atomic<bool> cancel{false};
     std::mutex mutex; // guards what follows
     RecoveryProgress progress;
@@ -41,7 +40,7 @@ void RecoveryJob::start(const QVector<FoundItem> &items, const QString &target)
     m_run = std::make_shared<Run>();
     Run *run = m_run.get(); // join() waits for the thread before it lets go
     const ScanSource *source = m_source.get();
-    m_run->thread.reset(QThread::create([run, source, items, target] {
+    m_run->thread = std::thread([run, source, items, target] {
         const FileRecovery::Tell tell = [run](const RecoveryProgress &now) {
             std::lock_guard<std::mutex> lock(run->mutex);
             run->progress = now;
@@ -51,8 +50,7 @@ void RecoveryJob::start(const QVector<FoundItem> &items, const QString &target)
         std::lock_guard<std::mutex> lock(run->mutex);
         run->report = report;
         run->done = true;
-    }));
-    m_run->thread->start();
+    });
     m_timer.start();
 }
 
@@ -69,7 +67,7 @@ void RecoveryJob::join()
     if (!m_run)
         return;
     m_run->cancel = true;
-    m_run->thread->wait();
+    m_run->thread.join();
     m_run.reset();
 }
 

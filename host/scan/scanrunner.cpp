@@ -1,6 +1,7 @@
 #include "host/scan/scanrunner.h"
 
 #include <mutex>
+#include <thread>
 
 namespace {
 constexpr int DeliveryMs = 100;
@@ -13,7 +14,7 @@ struct ScanRunner::Run
     QString path;
     std::shared_ptr<ScanSource> source; // before the thread starts, or under the mutex
     std::atomic<bool> cancel{false};
-    std::unique_ptr<QThread> thread;
+    std::thread thread;
 
     std::mutex mutex; // guards what follows
     QVector<FoundItem> found;
@@ -91,8 +92,7 @@ void ScanRunner::launch(std::shared_ptr<Run> run)
     m_running = true;
     m_elapsed.start();
     Run *shared = m_run.get(); // outlives the thread: abandon() and poll() wait for it
-    m_run->thread.reset(QThread::create([shared] { shared->work(); }));
-    m_run->thread->start();
+    m_run->thread = std::thread([shared] { shared->work(); });
     m_timer.start();
 }
 
@@ -109,7 +109,7 @@ void ScanRunner::abandon()
     if (!m_run)
         return;
     m_run->cancel = true;
-    m_run->thread->wait();
+    m_run->thread.join();
     m_run.reset();
 }
 

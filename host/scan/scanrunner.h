@@ -4,7 +4,6 @@
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QThread>
 #include <QTimer>
 
 /// How far a scan has come. Counts are of what itemsFound() has delivered.
