@@ -41,8 +41,13 @@ void applyStyleSheet(QWidget *widget, const QString &fileName)
     if (!widget)
         return;
     const QString text = loadStyleSheet(QStringLiteral("SDCardScanContentPlugin"), {fileName});
-    if (!text.isEmpty())
-        widget->setStyleSheet(text);
+    if (text.isEmpty())
+        return;
+    // Children of a widget that was never shown may have drawn on its first sheet already; a second
+    // one reaches them only when the widget itself counts as styled.
+    if (!widget->styleSheet().isEmpty())
+        widget->ensurePolished();
+    widget->setStyleSheet(text);
 }
 
 } // namespace QSSLoader
