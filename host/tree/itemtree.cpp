@@ -52,7 +52,10 @@ void ItemTree::clear()
 void ItemTree::setVolumes(const QVector<VolumeInfo> &volumes)
 {
     for (const VolumeInfo &info : volumes) {
-        ItemRecord *volume = createRoot(info.root, 0);
+        // among several, the root tells them apart; a single one goes by the name that people gave
+        // it
+        const bool hasName = volumes.size() == 1 && !info.label.isEmpty();
+        ItemRecord *volume = createRoot(hasName ? info.label : info.root, 0);
         volume->volumeRoot = info.root;
         volume->volume = m_volumes.size();
         m_volumes.append(volume);

@@ -22,9 +22,9 @@ MessageBanner::MessageBanner(QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 8, 8, 8);
     row->setSpacing(10);
-    row->addWidget(m_icon, 0, Qt::AlignTop);
+    row->addWidget(m_icon);
     row->addWidget(m_text, 1);
-    row->addWidget(m_close, 0, Qt::AlignTop);
+    row->addWidget(m_close);
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText); // names on a card are not ours to interpret
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -16,7 +16,7 @@
 #include <QVariant>
 
 namespace {
-constexpr int DialogWidth = 480;
+constexpr int ContentWidth = 440;
 constexpr int FailureListHeight = 150;
 constexpr int ProgressSteps = 1000;
 constexpr int IconSide = 28;
@@ -38,7 +38,6 @@ RecoveryDialog::RecoveryDialog(std::shared_ptr<const ScanSource> source, const H
 {
     setWindowTitle(tr("Recovery"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    setFixedWidth(DialogWidth);
     theme.applyTo(this);
     m_title->setObjectName(QStringLiteral("emphasis"));
     m_detail->setObjectName(QStringLiteral("caption"));
@@ -72,6 +71,7 @@ RecoveryDialog::RecoveryDialog(std::shared_ptr<const ScanSource> source, const H
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(24, 22, 24, 18);
     column->setSpacing(16);
+    column->addStrut(ContentWidth);
     column->addLayout(head);
     column->addWidget(m_bar);
     column->addWidget(m_failures);

@@ -17,13 +17,34 @@ constexpr int PanelWidth = 216;
 constexpr int IconSide = 18;
 constexpr int Indent = 14;
 enum Column { NameColumn, CountColumn };
+
+/// Unfolds with a chevron of ours: what styles draw there fits neither theme.
+class FolderTree : public QTreeWidget
+{
+public:
+    using QTreeWidget::QTreeWidget;
+
+protected:
+    void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override
+    {
+        const QTreeWidgetItem *row = itemFromIndex(index);
+        if (row->childIndicatorPolicy() != QTreeWidgetItem::ShowIndicator)
+            return;
+        const bool mirrored = isRightToLeft();
+        const int edge = mirrored ? rect.left() : rect.right() + 1 - Indent;
+        const QRect box(edge, rect.center().y() - Indent / 2, Indent, Indent);
+        const Glyph folded = mirrored ? Glyph::Left : Glyph::ChevronRight;
+        glyphIcon(row->isExpanded() ? Glyph::ChevronDown : folded, palette().color(QPalette::Text))
+            .paint(painter, box);
+    }
+};
 } // namespace
 
 SidePanel::SidePanel(const ItemTree &tree, QWidget *parent)
     : QFrame(parent)
     , m_tree(tree)
     , m_arrangements(new Segments(this))
-    , m_rows(new QTreeWidget(this))
+    , m_rows(new FolderTree(this))
 {
     setObjectName(QStringLiteral("sidePanel"));
     setFixedWidth(PanelWidth);
@@ -77,7 +98,7 @@ QIcon SidePanel::iconOf(const ItemRecord &record) const
         glyph = glyphOfKind(record.rootType);
     else if (record.isRoot)
         glyph = Glyph::Disk;
-    return glyphIcon(glyph, m_icon, m_icon, m_accent);
+    return glyphIcon(glyph, m_icon);
 }
 
 QTreeWidgetItem *SidePanel::addRow(QTreeWidgetItem *above, ItemRecord *record)
@@ -212,7 +233,6 @@ void SidePanel::setTheme(const HostTheme &theme)
     theme.applyTo(this);
     m_icon = theme.icon;
     m_faint = theme.faintText;
-    m_accent = theme.accentText;
     m_arrangements->setTheme(theme);
     refresh();
 }

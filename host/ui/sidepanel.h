@@ -49,5 +49,4 @@ private:
     QTreeWidget *m_rows;
     QColor m_icon;
     QColor m_faint;
-    QColor m_accent;
 };
