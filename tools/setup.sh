@@ -68,12 +68,12 @@ use_utf8() {
 
 # logged NAME COMMAND...: quiet when it works; what it said when it does not.
 logged() {
-    local log="$root/build/$1.log"
+    local name=$1 log="$root/build/$1.log"
     shift
     mkdir -p "$root/build"
     "$@" >"$log" 2>&1 && return 0
     grep -E -A 12 'error|Error|FAILED' "$log" | head -n 60 >&2
-    fail "$1 failed; the whole story is in ${log#"$root"/}"
+    fail "$name failed; the whole story is in ${log#"$root"/}"
 }
 
 # build PRESET [TARGET...]: everything when no target is named.

@@ -12,6 +12,7 @@ enum Step { Start, Finish, Stop, Empty, Full, Unknown, Load, Reset, SearchMode, 
 
 } // namespace
 
+Q_DECLARE_METATYPE(FilterCondition)
 Q_DECLARE_METATYPE(QVector<int>)
 
 class TestPages : public QObject
@@ -171,8 +172,6 @@ void TestPages::missingAnimationLeavesAUsablePage()
     QCOMPARE(widget.findChild<QStackedWidget *>()->currentWidget()->objectName(),
              QStringLiteral("nodatapage"));
 }
-
-Q_DECLARE_METATYPE(FilterCondition)
 
 QTEST_MAIN(TestPages)
 #include "tst_pages.moc"
