@@ -54,6 +54,7 @@ QStringList Languages::names()
 bool Languages::apply(const Language &language)
 {
     static QTranslator *s_translator = nullptr;
+    static QTranslator *s_english = nullptr; // where another language has a gap, or no texts at all
     const QString name = QLatin1String(language.name);
     const QString locale = QLatin1String(language.locale);
     QLocale::setDefault(QLocale(locale));
@@ -67,11 +68,16 @@ bool Languages::apply(const Language &language)
     }
     QApplication::setLayoutDirection(QLocale(locale).textDirection());
 
+    const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/translations");
+    if (!s_english) {
+        s_english = new QTranslator(qApp);
+        s_english->load(QStringLiteral("quarvo_en"), folder);
+        QCoreApplication::installTranslator(s_english);
+    }
     delete s_translator; // sends the change of language, as does installing the next one
     s_translator = new QTranslator(qApp);
     const bool found = s_translator->load(QStringLiteral("quarvo_") + QLatin1String(language.code),
-                                          QCoreApplication::applicationDirPath()
-                                              + QLatin1String("/translations"));
+                                          folder);
     QCoreApplication::installTranslator(s_translator);
     return found;
 }
