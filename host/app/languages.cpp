@@ -66,7 +66,6 @@ bool Languages::apply(const Language &language)
                                   Q_ARG(QString, QCoreApplication::applicationVersion()),
                                   Q_ARG(QString, locale));
     }
-    QApplication::setLayoutDirection(QLocale(locale).textDirection());
 
     const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/translations");
     if (!s_english) {
@@ -79,5 +78,7 @@ bool Languages::apply(const Language &language)
     const bool found = s_translator->load(QStringLiteral("quarvo_") + QLatin1String(language.code),
                                           folder);
     QCoreApplication::installTranslator(s_translator);
+    // last: a change of language puts the direction back to what the catalogues say
+    QApplication::setLayoutDirection(QLocale(locale).textDirection());
     return found;
 }
