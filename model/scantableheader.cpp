@@ -1,0 +1,389 @@
+#include "model/scantableheader.h"
+
+#include "common/commonfunction.h"
+#include "common/fontmanager.h"
+#include "common/translation.h"
+#include "model/columnfit.h"
+#include "model/headersection.h"
+#include "model/itemtext.h"
+#include "model/scandatamodel.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+using Column = ScanDataModel;
+using namespace HeaderMetrics;
+
+namespace {
+
+// What a column shows at most, give or take; their widths are measured with it.
+constexpr qint64 LongSize = Q_INT64_C(1000) * 1000 * 1000;
+constexpr qint64 LongTime = 1669852799; // two digits everywhere
+const QString s_longType = QStringLiteral("MMMMM");
+
+constexpr int CellInset = 8;          // before a cell's text
+constexpr int CellGap = 8;            // behind it
+constexpr int LocationImageRoom = 32; // at the end of the time
+constexpr int LocationShare = 30;     // per cent of the viewport
+
+bool sorts(int section)
+{
+    return section >= 0 && section < SortCycle::SectionCount;
+}
+
+} // namespace
+
+ScanTableHeader::ScanTableHeader(QWidget *parent)
+    : QHeaderView(Qt::Horizontal, parent)
+{
+    qRegisterMetaType<HeaderViewSortType>("HeaderViewSortType");
+    setFixedHeight(Height);
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
+    viewport()->setAutoFillBackground(false); // the page shows through
+    setSortIndicator(SortCycle::NoSection, Qt::AscendingOrder);
+    connect(this, &QHeaderView::sectionCountChanged, this, [this] {
+        applyHiddenColumns();
+        refit();
+    });
+    // by whatever hand: the table widens a column on a double click too
+    connect(this, &QHeaderView::sectionResized, this, [this](int section, int, int size) {
+        if (section == Column::NameColumn && size > 0 && size < NameMinimum)
+            resizeSection(section, NameMinimum);
+    });
+    updateTheme();
+    retranslate();
+    updateFont();
+}
+
+// State ----------------------------------------------------------------------------------------
+
+void ScanTableHeader::setCheckState(int state)
+{
+    if (state < Qt::Unchecked || state > Qt::Checked) {
+        qDebug() << "ScanTableHeader::setCheckState unknown state = " << state;
+        return;
+    }
+    m_checkState = state;
+    updateSection(Column::NameColumn);
+}
+
+HeaderViewSortType ScanTableHeader::sortType() const
+{
+    return SortCycle::sortType(m_sortSection, m_descending);
+}
+
+void ScanTableHeader::setSortType(HeaderViewSortType type)
+{
+    m_sortSection = SortCycle::section(type);
+    m_descending = SortCycle::isDescending(type);
+    // read by the delegate, which sets the sorted column off
+    setSortIndicator(m_sortSection, m_descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    viewport()->update();
+}
+
+void ScanTableHeader::resetSort()
+{
+    setSortType(NameAscending);
+}
+
+void ScanTableHeader::sortBy(int section)
+{
+    setSortType(SortCycle::next(sortType(), section));
+    emit signalSortClicked(sortType());
+}
+
+void ScanTableHeader::toggleCheck()
+{
+    const Qt::CheckState wanted = m_checkState == Qt::Checked ? Qt::Unchecked : Qt::Checked;
+    setCheckState(wanted);
+    emit signalAllChecked(wanted);
+}
+
+// Mouse ----------------------------------------------------------------------------------------
+
+HeaderSection ScanTableHeader::sectionAt(int logicalIndex) const
+{
+    const QRect rect(sectionViewportPosition(logicalIndex), 0, sectionSize(logicalIndex),
+                     viewport()->height());
+    return HeaderSection(rect, logicalIndex, layoutDirection());
+}
+
+bool ScanTableHeader::isOnFirstEdge(int x) const
+{
+    if (count() == 0 || isSectionHidden(Column::NameColumn))
+        return false;
+    const HeaderSection section = sectionAt(Column::NameColumn);
+    const bool scrolledOut = isRightToLeft() ? section.rect.right() >= viewport()->width()
+                                             : section.rect.left() < 0;
+    return !scrolledOut && section.rect.width() > 0 && section.isNearTrailingEdge(x);
+}
+
+void ScanTableHeader::startResizing(int x)
+{
+    m_resizing = true;
+    m_dragStartX = x;
+    m_dragStartWidth = sectionSize(Column::NameColumn);
+    m_edgeCursor = true;
+    setCursor(Qt::SplitHCursor);
+}
+
+bool ScanTableHeader::press(const QPoint &pos)
+{
+    if (isOnFirstEdge(pos.x())) {
+        startResizing(pos.x());
+        return true;
+    }
+    const int logicalIndex = logicalIndexAt(pos.x());
+    if (logicalIndex < 0)
+        return false;
+    const HeaderSection section = sectionAt(logicalIndex);
+    if (section.hitsCheckBox(pos)) {
+        toggleCheck();
+        return true;
+    }
+    const bool takesLeadingEdge = logicalIndex != Column::NameColumn && sorts(logicalIndex);
+    if (section.isAtOrBeyondTrailingEdge(pos.x())
+        || (takesLeadingEdge && section.isNearLeadingEdge(pos.x())))
+        return false; // the base class resizes there
+    if (sorts(logicalIndex))
+        sortBy(logicalIndex);
+    return logicalIndex < Column::ColumnCount;
+}
+
+void ScanTableHeader::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && press(event->pos()))
+        event->accept();
+    else
+        QHeaderView::mousePressEvent(event);
+}
+
+void ScanTableHeader::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // of two quick clicks none is lost
+    if (event->button() == Qt::LeftButton && press(event->pos()))
+        event->accept();
+    else
+        QHeaderView::mouseDoubleClickEvent(event);
+}
+
+void ScanTableHeader::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_resizing) {
+        const int moved = event->pos().x() - m_dragStartX;
+        const int width = std::max(NameMinimum,
+                                   m_dragStartWidth + (isRightToLeft() ? -moved : moved));
+        if (width != sectionSize(Column::NameColumn))
+            resizeSection(Column::NameColumn, width);
+        event->accept();
+        return;
+    }
+    if (event->buttons() == Qt::NoButton) {
+        if (isOnFirstEdge(event->pos().x())) {
+            m_edgeCursor = true;
+            setCursor(Qt::SplitHCursor);
+            event->accept();
+            return;
+        }
+        if (m_edgeCursor) {
+            m_edgeCursor = false;
+            unsetCursor();
+        }
+    }
+    QHeaderView::mouseMoveEvent(event);
+}
+
+void ScanTableHeader::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_resizing) {
+        QHeaderView::mouseReleaseEvent(event);
+        return;
+    }
+    m_resizing = false;
+    if (!isOnFirstEdge(event->pos().x())) {
+        m_edgeCursor = false;
+        unsetCursor();
+    }
+    event->accept();
+}
+
+// Columns --------------------------------------------------------------------------------------
+
+void ScanTableHeader::setDetailPaneShown(bool shown)
+{
+    if (shown == m_detailPaneShown)
+        return;
+    m_detailPaneShown = shown;
+    applyHiddenColumns();
+    refit();
+}
+
+void ScanTableHeader::applyHiddenColumns()
+{
+    if (count() > Column::PathColumn)
+        setSectionHidden(Column::PathColumn, m_detailPaneShown);
+}
+
+void ScanTableHeader::fitColumns(int viewportWidth)
+{
+    if (count() < Column::ColumnCount || viewportWidth <= 0 || viewportWidth == m_fittedWidth)
+        return;
+    m_fittedWidth = viewportWidth;
+
+    std::vector<ColumnFit::Column> others;
+    const auto add = [&](int column, int cellWidth) {
+        const int heading = sectionSizeFromContents(column).width();
+        others.push_back({std::max(heading, cellWidth), heading});
+    };
+    add(Column::SizeColumn, widthOfCell(ItemText::size(LongSize)));
+    add(Column::TypeColumn,
+        std::max(widthOfCell(s_longType), widthOfCell(translatedKey("folder"))));
+    add(Column::DateColumn, widthOfCell(ItemText::modified(LongTime)) + LocationImageRoom);
+    if (!m_detailPaneShown)
+        add(Column::PathColumn, viewportWidth * LocationShare / 100);
+
+    const std::vector<int> widths = ColumnFit::fit(viewportWidth, NameMinimum, others);
+    for (size_t column = 0; column < widths.size(); ++column)
+        resizeSection(int(column), widths[column]);
+}
+
+void ScanTableHeader::refit()
+{
+    const int width = m_fittedWidth;
+    m_fittedWidth = -1;
+    fitColumns(width);
+}
+
+// Look -----------------------------------------------------------------------------------------
+
+void ScanTableHeader::updateTheme()
+{
+    const bool dark = qApp->property("ThemeType").toInt() == 1;
+    m_textColor = dark ? QColor(255, 255, 255, 178) : QColor(0, 0, 0, 178);
+    m_sortedTextColor = dark ? QColor(255, 255, 255, 224) : QColor(0, 0, 0, 217);
+    m_hairline = dark ? QColor(255, 255, 255, 20) : QColor(13, 44, 110, 26);
+    loadPixmaps();
+    viewport()->update();
+}
+
+void ScanTableHeader::loadPixmaps()
+{
+    m_checked = CommonFunction::themePixmap(QStringLiteral("icon16_check_normal"));
+    m_unchecked = CommonFunction::themePixmap(QStringLiteral("icon16_uncheck_normal"));
+    m_halfChecked = CommonFunction::themePixmap(QStringLiteral("icon16_half_check"));
+    const auto arrow = [](const QString &name) {
+        const QPixmap pixmap = CommonFunction::themePixmap(name);
+        return pixmap.isNull() ? QPixmap(QStringLiteral(":/Images/%1.png").arg(name)) : pixmap;
+    };
+    m_sortDefault = arrow(QStringLiteral("icon_sort_default"));
+    m_sortAscend = arrow(QStringLiteral("icon_sort_ascend"));
+    m_sortDescend = arrow(QStringLiteral("icon_sort_descend"));
+}
+
+void ScanTableHeader::retranslate()
+{
+    setAccessibleName(translatedKey("select_all"));
+    if (count() > 0)
+        headerDataChanged(Qt::Horizontal, 0, count() - 1);
+    refit();
+}
+
+void ScanTableHeader::updateFont()
+{
+    setFont(FontManager::instance()->getFont(FontPixelSize, 400));
+    refit();
+    viewport()->update();
+}
+
+QString ScanTableHeader::textOf(int logicalIndex) const
+{
+    return model() ? model()->headerData(logicalIndex, Qt::Horizontal).toString() : QString();
+}
+
+QFont ScanTableHeader::textFont(bool sorted) const
+{
+    return FontManager::instance()->getFont(FontPixelSize, sorted ? 600 : 400);
+}
+
+int ScanTableHeader::textWidth(int logicalIndex) const
+{
+    // the wider of the two, so that the arrow stays where it is when the sort changes
+    const QString text = textOf(logicalIndex);
+    return std::max(QFontMetrics(textFont(false)).horizontalAdvance(text),
+                    QFontMetrics(textFont(true)).horizontalAdvance(text));
+}
+
+int ScanTableHeader::widthOfCell(const QString &text) const
+{
+    QFont bold = FontManager::instance()->getFont(FontPixelSize, 400);
+    bold.setBold(true);
+    return CellInset + QFontMetrics(bold).horizontalAdvance(text) + CellGap;
+}
+
+QSize ScanTableHeader::sectionSizeFromContents(int logicalIndex) const
+{
+    return {textWidth(logicalIndex)
+                + HeaderSection::roomBesideText(logicalIndex, sorts(logicalIndex)),
+            Height};
+}
+
+const QPixmap &ScanTableHeader::arrowOf(int logicalIndex) const
+{
+    if (logicalIndex != m_sortSection)
+        return m_sortDefault;
+    return m_descending ? m_sortDescend : m_sortAscend;
+}
+
+const QPixmap &ScanTableHeader::checkPixmap() const
+{
+    switch (m_checkState) {
+    case Qt::Checked:
+        return m_checked;
+    case Qt::PartiallyChecked:
+        return m_halfChecked;
+    default:
+        return m_unchecked;
+    }
+}
+
+void ScanTableHeader::paintEvent(QPaintEvent *)
+{
+    // not the base class: behind and beside the sections it paints the style's own header
+    QPainter painter(viewport());
+    for (int section = 0; section < count(); ++section) {
+        if (!isSectionHidden(section))
+            paintSection(&painter, sectionAt(section).rect, section);
+    }
+    painter.fillRect(QRect(0, viewport()->height() - 1, viewport()->width(), 1), m_hairline);
+}
+
+void ScanTableHeader::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const
+{
+    if (!rect.isValid())
+        return;
+    const HeaderSection section(rect, logicalIndex, layoutDirection());
+    const bool sorted = logicalIndex == m_sortSection;
+    const int width = textWidth(logicalIndex);
+    const QRect textRect = section.textRect(width, sorts(logicalIndex));
+
+    painter->save();
+    painter->setClipRect(rect, Qt::IntersectClip);
+    if (!section.checkBox.isNull())
+        painter->drawPixmap(section.checkBox, checkPixmap());
+    const QFont font = textFont(sorted);
+    painter->setFont(font);
+    painter->setPen(sorted ? m_sortedTextColor : m_textColor);
+    painter->drawText(
+        textRect,
+        int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) | Qt::AlignVCenter
+            | Qt::TextSingleLine,
+        QFontMetrics(font).elidedText(textOf(logicalIndex), Qt::ElideRight, textRect.width()));
+    if (sorts(logicalIndex))
+        painter->drawPixmap(section.arrowRect(width), arrowOf(logicalIndex));
+    painter->restore();
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "model/headerviewsorttype.h"
+#include "model/sortcycle.h"
+
+#include <QColor>
+#include <QHeaderView>
+#include <QPixmap>
+
+struct HeaderSection;
+
+/// The header of the list's table: select-all in the first section, a click on a section sorts,
+/// the first column is widened by its edge. It only tells what was clicked; who sorts and who
+/// checks is for its owner to say. GUI thread.
+class ScanTableHeader : public QHeaderView
+{
+    Q_OBJECT
+
+public:
+    explicit ScanTableHeader(QWidget *parent = nullptr);
+
+    int checkState() const { return m_checkState; }
+    /// 0, 1 or 2, as Qt::CheckState; another value is logged and changes nothing.
+    void setCheckState(int state);
+
+    HeaderViewSortType sortType() const;
+    /// Shows a sort that was chosen elsewhere; emits nothing.
+    void setSortType(HeaderViewSortType type);
+    /// By name, ascending; emits nothing.
+    void resetSort();
+
+    /// Beside the detail pane there is no room for the location column.
+    void setDetailPaneShown(bool shown);
+    /// Makes the visible columns fill \a viewportWidth. For the width that they fill already it
+    /// changes nothing, so that a width which the user has given the first column stays.
+    void fitColumns(int viewportWidth);
+
+    void updateTheme();
+    /// The texts are the model's; columns are measured again.
+    void retranslate();
+    /// Takes the font of FontManager again; columns are measured again.
+    void updateFont();
+
+signals:
+    void signalAllChecked(Qt::CheckState checkState);
+    void signalSortClicked(HeaderViewSortType type);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const override;
+    QSize sectionSizeFromContents(int logicalIndex) const override;
+
+private:
+    HeaderSection sectionAt(int logicalIndex) const;
+    /// True when the press was ours; the base class gets what is left.
+    bool press(const QPoint &pos);
+    bool isOnFirstEdge(int x) const;
+    void startResizing(int x);
+    void sortBy(int section);
+    void toggleCheck();
+
+    QString textOf(int logicalIndex) const;
+    QFont textFont(bool sorted) const;
+    int textWidth(int logicalIndex) const;
+    /// In the font of a sorted column, the widest.
+    int widthOfCell(const QString &text) const;
+    const QPixmap &arrowOf(int logicalIndex) const;
+    const QPixmap &checkPixmap() const;
+    void loadPixmaps();
+    void applyHiddenColumns();
+    void refit();
+
+    int m_checkState = Qt::Unchecked;
+    int m_sortSection = SortCycle::NoSection;
+    bool m_descending = false;
+    bool m_resizing = false;
+    int m_dragStartX = 0;
+    int m_dragStartWidth = 0;
+    QPixmap m_checked, m_unchecked, m_halfChecked;
+    QPixmap m_sortDefault, m_sortAscend, m_sortDescend;
+    bool m_edgeCursor = false;
+    bool m_detailPaneShown = false;
+    int m_fittedWidth = -1; ///< of the viewport; -1: the columns want fitting
+    QColor m_textColor, m_sortedTextColor, m_hairline;
+};
