@@ -1,10 +1,10 @@
 #include "plugin/sdcardscancontentplugin.h"
 
 #include "common/thememanager.h"
-#include "content/sdcardcontentdatawidget.h"
 #include "platform/system/system.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
+#include <QCoreApplication>
 #include <QVBoxLayout>
 
 namespace {
@@ -13,15 +13,19 @@ constexpr int FileKind = 2;
 
 using Content = SDCardContentDataWidget;
 
-QFrame *makeFrame(const char *name, int side, SDCardContentDataWidget **content)
+QPointer<SDCardScanContentPlugin> s_plugin;
+bool s_used = false; // the process-wide objects have been made
+
+QFrame *makeFrame(const char *name, int side, QPointer<SDCardContentDataWidget> *content)
 {
+    s_used = true;
     auto *frame = new QFrame;
     frame->setObjectName(QLatin1String(name));
     auto *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     *content = new SDCardContentDataWidget(side, frame);
-    layout->addWidget(*content);
+    layout->addWidget(content->data());
     return frame;
 }
 
@@ -36,15 +40,29 @@ SDCardScanContentPlugin::SDCardScanContentPlugin(QObject *parent)
     qRegisterMetaType<THEMETYPE>("THEMETYPE");
     // The process-wide objects outlive this one, and so their code has to.
     System::pinModule(reinterpret_cast<const void *>(&SDCardScanContentPlugin::staticMetaObject));
+    s_plugin = this;
+    qAddPostRoutine(&beforeApplicationGoes);
 }
 
 SDCardScanContentPlugin::~SDCardScanContentPlugin()
 {
-    const bool used = m_scanFrame || m_searchFrame;
+    qRemovePostRoutine(&beforeApplicationGoes);
+    deleteFrames();
+    if (s_used)
+        ScanPluginPreviewManager::instance()->stop();
+}
+
+void SDCardScanContentPlugin::deleteFrames()
+{
     delete m_scanFrame;
     delete m_searchFrame;
-    if (used)
-        ScanPluginPreviewManager::instance()->stop();
+}
+
+void SDCardScanContentPlugin::beforeApplicationGoes()
+{
+    // A host that leaves the unloading to Qt unloads us when widgets can no longer be deleted.
+    if (s_plugin)
+        s_plugin->deleteFrames();
 }
 
 void SDCardScanContentPlugin::updateTheme(THEMETYPE theme)
@@ -202,7 +220,7 @@ void SDCardScanContentPlugin::showLoadingPage(bool show)
 
 QList<TreeItemData *> SDCardScanContentPlugin::getSelectedItems(int side)
 {
-    const SDCardContentDataWidget *content = side == SearchSide ? m_searchContent : m_scanContent;
+    const auto &content = side == SearchSide ? m_searchContent : m_scanContent;
     return content ? content->selectedItems() : QList<TreeItemData *>();
 }
 

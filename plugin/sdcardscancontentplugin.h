@@ -1,11 +1,11 @@
 #pragma once
 
+#include "content/sdcardcontentdatawidget.h"
 #include "model/headerviewsorttype.h"
 #include "plugin/sdcardscancontentplugininterface.h"
 
 #include <QObject>
-
-class SDCardContentDataWidget;
+#include <QPointer>
 
 /// The object that the host loads. Builds the two frames on demand, hands the host's calls to the
 /// content areas and relays what they report; no behaviour of its own.
@@ -58,8 +58,12 @@ private:
     void open(TreeItemData *itemData, const QString &source);
     void copyScanFinished();
 
-    QFrame *m_scanFrame = nullptr;
-    SDCardContentDataWidget *m_scanContent = nullptr;
-    QFrame *m_searchFrame = nullptr;
-    SDCardContentDataWidget *m_searchContent = nullptr;
+    void deleteFrames();
+    static void beforeApplicationGoes();
+
+    // Guarded: a host's window may take a frame with it.
+    QPointer<QFrame> m_scanFrame;
+    QPointer<SDCardContentDataWidget> m_scanContent;
+    QPointer<QFrame> m_searchFrame;
+    QPointer<SDCardContentDataWidget> m_searchContent;
 };
