@@ -10,7 +10,7 @@ constexpr int LongText = 1024;
 
 QString ElideCache::elided(const QString &text, int width, const QFontMetrics &metrics)
 {
-    if (isShort(text))
+    if (text.size() <= m_neverCut)
         return text;
     const QString key = text + QLatin1Char('|') + QString::number(width);
     if (const QString *cached = m_cache.object(key))
@@ -21,7 +21,7 @@ QString ElideCache::elided(const QString &text, int width, const QFontMetrics &m
         : text.left(LongText / 2) + text.right(LongText / 2);
     const QString result = metrics.horizontalAdvance(shown) < width
         ? shown
-        : metrics.elidedText(shown, Qt::ElideMiddle, width);
+        : metrics.elidedText(shown, m_mode, width);
     m_cache.insert(key, new QString(result), 1);
     return result;
 }

@@ -4,19 +4,30 @@
 #include <QFontMetrics>
 #include <QString>
 
-/// Names cut in the middle, remembered by text and width.
+/// Texts cut to a width, remembered by text and width. What is remembered belongs to one font:
+/// clear() when it changes.
 class ElideCache
 {
 public:
-    ElideCache() { m_cache.setMaxCost(MostEntries); }
+    static constexpr int ShortLength = 10;
 
-    /// GUI thread. Names of a few characters are never cut.
+    /// Texts of up to \a neverCut characters come back whole.
+    explicit ElideCache(int neverCut = ShortLength, Qt::TextElideMode mode = Qt::ElideMiddle)
+        : m_cache(MostEntries)
+        , m_neverCut(neverCut)
+        , m_mode(mode)
+    {
+    }
+
+    void clear() { m_cache.clear(); }
+    /// GUI thread.
     QString elided(const QString &text, int width, const QFontMetrics &metrics);
     static bool isShort(const QString &text) { return text.size() <= ShortLength; }
 
 private:
     static constexpr int MostEntries = 1024;
-    static constexpr int ShortLength = 10;
 
     QCache<QString, QString> m_cache;
+    int m_neverCut;
+    Qt::TextElideMode m_mode;
 };

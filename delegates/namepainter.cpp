@@ -6,47 +6,21 @@
 #include <QDebug>
 #include <QPainter>
 #include <QPalette>
-#include <QStyle>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextLayout>
 
-#include <algorithm>
 #include <exception>
 
 namespace {
 
 constexpr int MostTexts = 1024;
 
-/// A name is one line, whatever characters a damaged directory entry holds.
-QString onOneLine(QString text)
-{
-    for (QChar &c : text) {
-        if (c < QLatin1Char(' ') || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
-            c = QLatin1Char(' ');
-    }
-    return text;
-}
-
-/// Top left of a text of \a size in \a rect.
-QPointF textPosition(const QRect &rect, const QSizeF &size, Qt::Alignment alignment,
-                     Qt::LayoutDirection direction)
-{
-    const Qt::Alignment visual = QStyle::visualAlignment(direction, alignment);
-    qreal x = rect.x();
-    if (visual & Qt::AlignHCenter)
-        x += (rect.width() - size.width()) / 2;
-    else if (visual & Qt::AlignRight)
-        x += rect.width() - size.width();
-    return {x, rect.y() + (rect.height() - size.height()) / 2};
-}
-
 } // namespace
 
 NamePainter::NamePainter()
     : m_renderer(std::make_unique<QTextBrowser>())
     , m_highlighter(std::make_unique<CHighLighter>(m_renderer.get()))
-    , m_plainTexts(MostTexts)
     , m_highlightedTexts(MostTexts)
 {
     m_renderer->setReadOnly(true);
@@ -66,8 +40,8 @@ void NamePainter::setColors(const ItemColors &colors)
 
 void NamePainter::setFont(const QFont &font)
 {
-    m_font = font;
-    forget();
+    m_plainTexts.setFont(font);
+    m_highlightedTexts.clear();
 }
 
 void NamePainter::setKeyword(const QString &keyword)
@@ -100,33 +74,12 @@ void NamePainter::draw(QPainter *painter, const QRect &rect, const QString &text
     if (text.isEmpty() || rect.isEmpty() || !painter->isActive())
         return;
     const PainterState state(painter);
-    painter->setFont(m_font);
+    painter->setFont(font());
     painter->setPen(m_colors.text);
     if (m_keyword.isEmpty())
-        drawPlain(painter, rect, text, alignment);
+        m_plainTexts.draw(painter, rect, text, alignment);
     else
         drawHighlighted(painter, rect, text, alignment);
-}
-
-void NamePainter::drawPlain(QPainter *painter, const QRect &rect, const QString &text,
-                            Qt::Alignment alignment)
-{
-    QStaticText *prepared = m_plainTexts.object(text);
-    if (!prepared || prepared->textOption().textDirection() != painter->layoutDirection()) {
-        QTextOption option;
-        option.setTextDirection(painter->layoutDirection());
-        prepared = new QStaticText(onOneLine(text));
-        prepared->setTextFormat(Qt::PlainText);
-        prepared->setTextOption(option);
-        prepared->setPerformanceHint(QStaticText::AggressiveCaching);
-        prepared->prepare(painter->transform(), m_font);
-        m_plainTexts.insert(text, prepared, 1);
-    }
-    const QSizeF size = prepared->size();
-    if (size.width() > rect.width() || size.height() > rect.height())
-        painter->setClipRect(rect, Qt::IntersectClip);
-    painter->drawStaticText(textPosition(rect, size, alignment, painter->layoutDirection()),
-                            *prepared);
 }
 
 void NamePainter::drawHighlighted(QPainter *painter, const QRect &rect, const QString &text,
@@ -137,8 +90,8 @@ void NamePainter::drawHighlighted(QPainter *painter, const QRect &rect, const QS
         const QTextLine line = layout->lineAt(0);
         painter->setClipRect(rect);
         layout->draw(painter,
-                     textPosition(rect, {line.naturalTextWidth(), line.height()}, alignment,
-                                  painter->layoutDirection()));
+                     PlainTexts::position(rect, {line.naturalTextWidth(), line.height()}, alignment,
+                                          painter->layoutDirection()));
     } catch (const std::exception &e) {
         qDebug() << "Exception caught:" << e.what();
     }
@@ -150,13 +103,13 @@ QTextLayout *NamePainter::highlightedLayout(const QString &text, Qt::LayoutDirec
     if (known && known->textOption().textDirection() == direction)
         return known;
 
-    const QString line = onOneLine(text);
+    const QString line = PlainTexts::onOneLine(text);
     m_renderer->setPlainText(line);
     m_highlighter->setKeyword(m_keyword, m_colors.highlightBackground,
                               m_colors.highlightForeground);
     m_highlighter->rehighlight();
 
-    auto layout = std::make_unique<QTextLayout>(line, m_font);
+    auto layout = std::make_unique<QTextLayout>(line, font());
     layout->setFormats(m_renderer->document()->firstBlock().layout()->formats());
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);

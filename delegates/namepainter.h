@@ -1,10 +1,10 @@
 #pragma once
 
 #include "delegates/itemcolors.h"
+#include "delegates/plaintexts.h"
 
 #include <QCache>
 #include <QFont>
-#include <QStaticText>
 #include <QString>
 
 #include <memory>
@@ -25,7 +25,7 @@ public:
 
     void setColors(const ItemColors &colors);
     void setFont(const QFont &font);
-    const QFont &font() const { return m_font; }
+    const QFont &font() const { return m_plainTexts.font(); }
     void setKeyword(const QString &keyword);
     const QString &keyword() const { return m_keyword; }
 
@@ -36,19 +36,16 @@ public:
     QTextBrowser *renderer() const { return m_renderer.get(); }
 
 private:
-    void drawPlain(QPainter *painter, const QRect &rect, const QString &text,
-                   Qt::Alignment alignment);
     void drawHighlighted(QPainter *painter, const QRect &rect, const QString &text,
                          Qt::Alignment alignment);
     QTextLayout *highlightedLayout(const QString &text, Qt::LayoutDirection direction);
     void applyPalette();
     void forget();
 
-    QFont m_font;
     ItemColors m_colors;
     QString m_keyword;
     std::unique_ptr<QTextBrowser> m_renderer;
     std::unique_ptr<CHighLighter> m_highlighter; // on the renderer's document: goes first
-    QCache<QString, QStaticText> m_plainTexts;
+    PlainTexts m_plainTexts;
     QCache<QString, QTextLayout> m_highlightedTexts;
 };

@@ -2,6 +2,6 @@
 
 #include <QPixmap>
 
-/// The 32 x 32 version of a thumbnail for list rows: its middle, with rounded corners. Null for a
-/// null one. GUI thread.
-QPixmap roundedThumbnail(const QPixmap &thumbnail);
+/// The small version of a thumbnail for list rows: its middle, with rounded corners, \a side pixels
+/// wide and high. Null for a null one. GUI thread.
+QPixmap roundedThumbnail(const QPixmap &thumbnail, int side = 32);

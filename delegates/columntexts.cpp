@@ -1,0 +1,19 @@
+#include "delegates/columntexts.h"
+
+void ColumnTexts::setFont(const QFont &font)
+{
+    m_texts.setFont(font);
+    m_middle.clear();
+    m_end.clear();
+}
+
+QString ColumnTexts::elided(const QString &text, int width, Qt::TextElideMode mode)
+{
+    ElideCache &cache = mode == Qt::ElideMiddle ? m_middle : m_end;
+    return cache.elided(text, width, QFontMetrics(font()));
+}
+
+void ColumnTexts::draw(QPainter *painter, const QRect &rect, const QString &text)
+{
+    m_texts.draw(painter, rect, text, Qt::AlignLeft | Qt::AlignVCenter);
+}

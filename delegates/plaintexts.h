@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QCache>
+#include <QFont>
+#include <QStaticText>
+#include <QString>
+
+class QPainter;
+
+/// Texts of one line in one font. What has been laid out is kept, so that a text that is drawn
+/// again costs only its glyphs. GUI thread.
+class PlainTexts
+{
+public:
+    PlainTexts();
+
+    void setFont(const QFont &font);
+    const QFont &font() const { return m_font; }
+    void clear() { m_texts.clear(); }
+
+    /// In the painter's pen and layout direction, \a alignment sideways, centred vertically; cut
+    /// off at the edges of \a rect. Nothing for an empty text or rectangle.
+    void draw(QPainter *painter, const QRect &rect, const QString &text, Qt::Alignment alignment);
+
+    /// A text is one line, whatever characters a damaged directory entry holds.
+    static QString onOneLine(QString text);
+    /// Top left of a text of \a size in \a rect.
+    static QPointF position(const QRect &rect, const QSizeF &size, Qt::Alignment alignment,
+                            Qt::LayoutDirection direction);
+
+private:
+    QFont m_font;
+    QCache<QString, QStaticText> m_texts;
+};
