@@ -16,6 +16,7 @@ namespace {
 
 constexpr auto StateProperty = "state";
 constexpr auto CheckStateProperty = "checkState";
+constexpr auto MirroredProperty = "mirrored";
 
 constexpr int FontPixelSize = 12;
 constexpr int FontWeight = 400;
@@ -59,7 +60,7 @@ HeaderView::HeaderView(QWidget *parent)
     ui->rightEndWidget->installEventFilter(this);
 
     setCheckState(Qt::Unchecked);
-    setSortType(NoSort);
+    mirror();
     loadStyleSheet();
     retranslate();
     updateFont();
@@ -170,7 +171,7 @@ void HeaderView::layOut()
 {
     const int spacing = fontMetrics().averageCharWidth() * SpacerCharacters;
     // shrinkable: a narrow bar gives up its gaps before its buttons
-    const auto set = [this](QSpacerItem *spacer, int width) {
+    const auto set = [](QSpacerItem *spacer, int width) {
         spacer->changeSize(width, SpacerHeight, QSizePolicy::Maximum, QSizePolicy::Minimum);
     };
     set(ui->nameSpacer, spacing + (m_large ? NameSpacerGrowth : 0));
@@ -180,6 +181,21 @@ void HeaderView::layOut()
     ui->headerLayout->setContentsMargins(LeftMargin, 0,
                                          ui->rightEndWidget->isHidden() ? 0 : RightMargin, 0);
     ui->headerLayout->invalidate();
+}
+
+void HeaderView::mirror()
+{
+    // a stylesheet turns texts and paddings round, but not pictures
+    for (QPushButton *button : m_sortButtons)
+        button->setProperty(MirroredProperty, isRightToLeft());
+    showSort();
+}
+
+void HeaderView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        mirror();
 }
 
 // Theme, language, font ------------------------------------------------------------------------

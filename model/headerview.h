@@ -49,6 +49,7 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -57,6 +58,7 @@ private:
     void showSort();
     void setCheckIcon(const QString &name);
     void layOut();
+    void mirror();
     void loadStyleSheet();
 
     std::unique_ptr<Ui::HeaderView> ui;

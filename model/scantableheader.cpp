@@ -12,6 +12,7 @@
 #include <QDebug>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -23,10 +24,10 @@ namespace {
 // What a column shows at most, give or take; their widths are measured with it.
 constexpr qint64 LongSize = Q_INT64_C(1000) * 1000 * 1000;
 constexpr qint64 LongTime = 1669852799; // two digits everywhere
-const QString s_longType = QStringLiteral("MMMMM");
+constexpr char LongType[] = "MMMMM";
 
 constexpr int CellInset = 8;          // before a cell's text
-constexpr int CellGap = 8;            // behind it
+constexpr int CellGap = 16;           // behind it
 constexpr int LocationImageRoom = 32; // at the end of the time
 constexpr int LocationShare = 30;     // per cent of the viewport
 
@@ -128,8 +129,26 @@ void ScanTableHeader::startResizing(int x)
     m_resizing = true;
     m_dragStartX = x;
     m_dragStartWidth = sectionSize(Column::NameColumn);
-    m_edgeCursor = true;
-    setCursor(Qt::SplitHCursor);
+    setEdgeCursor(true);
+}
+
+void ScanTableHeader::setEdgeCursor(bool shown)
+{
+    if (shown == m_edgeCursor)
+        return;
+    m_edgeCursor = shown;
+    if (shown)
+        setCursor(Qt::SplitHCursor);
+    else
+        unsetCursor();
+}
+
+void ScanTableHeader::setHoverSection(int section)
+{
+    if (section == m_hoverSection)
+        return;
+    m_hoverSection = section;
+    viewport()->update();
 }
 
 bool ScanTableHeader::press(const QPoint &pos)
@@ -184,15 +203,13 @@ void ScanTableHeader::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     if (event->buttons() == Qt::NoButton) {
-        if (isOnFirstEdge(event->pos().x())) {
-            m_edgeCursor = true;
-            setCursor(Qt::SplitHCursor);
+        const bool onEdge = isOnFirstEdge(event->pos().x());
+        const int section = onEdge ? SortCycle::NoSection : logicalIndexAt(event->pos());
+        setHoverSection(sorts(section) ? section : SortCycle::NoSection);
+        setEdgeCursor(onEdge);
+        if (onEdge) {
             event->accept();
             return;
-        }
-        if (m_edgeCursor) {
-            m_edgeCursor = false;
-            unsetCursor();
         }
     }
     QHeaderView::mouseMoveEvent(event);
@@ -205,11 +222,14 @@ void ScanTableHeader::mouseReleaseEvent(QMouseEvent *event)
         return;
     }
     m_resizing = false;
-    if (!isOnFirstEdge(event->pos().x())) {
-        m_edgeCursor = false;
-        unsetCursor();
-    }
+    setEdgeCursor(isOnFirstEdge(event->pos().x()));
     event->accept();
+}
+
+void ScanTableHeader::leaveEvent(QEvent *event)
+{
+    setHoverSection(SortCycle::NoSection);
+    QHeaderView::leaveEvent(event);
 }
 
 // Columns --------------------------------------------------------------------------------------
@@ -242,7 +262,7 @@ void ScanTableHeader::fitColumns(int viewportWidth)
     };
     add(Column::SizeColumn, widthOfCell(ItemText::size(LongSize)));
     add(Column::TypeColumn,
-        std::max(widthOfCell(s_longType), widthOfCell(translatedKey("folder"))));
+        std::max(widthOfCell(QLatin1String(LongType)), widthOfCell(translatedKey("folder"))));
     add(Column::DateColumn, widthOfCell(ItemText::modified(LongTime)) + LocationImageRoom);
     if (!m_detailPaneShown)
         add(Column::PathColumn, viewportWidth * LocationShare / 100);
@@ -265,7 +285,7 @@ void ScanTableHeader::updateTheme()
 {
     const bool dark = qApp->property("ThemeType").toInt() == 1;
     m_textColor = dark ? QColor(255, 255, 255, 178) : QColor(0, 0, 0, 178);
-    m_sortedTextColor = dark ? QColor(255, 255, 255, 224) : QColor(0, 0, 0, 217);
+    m_strongTextColor = dark ? QColor(255, 255, 255, 224) : QColor(0, 0, 0, 217);
     m_hairline = dark ? QColor(255, 255, 255, 20) : QColor(13, 44, 110, 26);
     loadPixmaps();
     viewport()->update();
@@ -295,7 +315,6 @@ void ScanTableHeader::retranslate()
 
 void ScanTableHeader::updateFont()
 {
-    setFont(FontManager::instance()->getFont(FontPixelSize, 400));
     refit();
     viewport()->update();
 }
@@ -314,15 +333,15 @@ int ScanTableHeader::textWidth(int logicalIndex) const
 {
     // the wider of the two, so that the arrow stays where it is when the sort changes
     const QString text = textOf(logicalIndex);
-    return std::max(QFontMetrics(textFont(false)).horizontalAdvance(text),
-                    QFontMetrics(textFont(true)).horizontalAdvance(text));
+    return qCeil(std::max(QFontMetricsF(textFont(false)).horizontalAdvance(text),
+                          QFontMetricsF(textFont(true)).horizontalAdvance(text)));
 }
 
 int ScanTableHeader::widthOfCell(const QString &text) const
 {
     QFont bold = FontManager::instance()->getFont(FontPixelSize, 400);
     bold.setBold(true);
-    return CellInset + QFontMetrics(bold).horizontalAdvance(text) + CellGap;
+    return CellInset + qCeil(QFontMetricsF(bold).horizontalAdvance(text)) + CellGap;
 }
 
 QSize ScanTableHeader::sectionSizeFromContents(int logicalIndex) const
@@ -377,7 +396,7 @@ void ScanTableHeader::paintSection(QPainter *painter, const QRect &rect, int log
         painter->drawPixmap(section.checkBox, checkPixmap());
     const QFont font = textFont(sorted);
     painter->setFont(font);
-    painter->setPen(sorted ? m_sortedTextColor : m_textColor);
+    painter->setPen(sorted || logicalIndex == m_hoverSection ? m_strongTextColor : m_textColor);
     painter->drawText(
         textRect,
         int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) | Qt::AlignVCenter

@@ -50,6 +50,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const override;
     QSize sectionSizeFromContents(int logicalIndex) const override;
@@ -60,6 +61,8 @@ private:
     bool press(const QPoint &pos);
     bool isOnFirstEdge(int x) const;
     void startResizing(int x);
+    void setEdgeCursor(bool shown);
+    void setHoverSection(int section);
     void sortBy(int section);
     void toggleCheck();
 
@@ -83,7 +86,8 @@ private:
     QPixmap m_checked, m_unchecked, m_halfChecked;
     QPixmap m_sortDefault, m_sortAscend, m_sortDescend;
     bool m_edgeCursor = false;
+    int m_hoverSection = SortCycle::NoSection;
     bool m_detailPaneShown = false;
     int m_fittedWidth = -1; ///< of the viewport; -1: the columns want fitting
-    QColor m_textColor, m_sortedTextColor, m_hairline;
+    QColor m_textColor, m_strongTextColor, m_hairline;
 };

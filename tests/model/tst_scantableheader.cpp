@@ -25,9 +25,9 @@ struct Table
         view.resize(width, 300);
         view.show();
         header->fitColumns(view.viewport()->width());
-        QObject::connect(header, &ScanTableHeader::signalSortClicked,
+        QObject::connect(header, &ScanTableHeader::signalSortClicked, header,
                          [this](HeaderViewSortType type) { sorts += type; });
-        QObject::connect(header, &ScanTableHeader::signalAllChecked,
+        QObject::connect(header, &ScanTableHeader::signalAllChecked, header,
                          [this](Qt::CheckState state) { checks += state; });
     }
 
@@ -68,7 +68,7 @@ struct Table
     QVector<int> checks;
 };
 
-const QVector<Qt::LayoutDirection> s_directions{Qt::LeftToRight, Qt::RightToLeft};
+constexpr Qt::LayoutDirection Directions[] = {Qt::LeftToRight, Qt::RightToLeft};
 
 const char *nameOf(Qt::LayoutDirection direction)
 {
@@ -117,7 +117,7 @@ void TestScanTableHeader::clickZones_data()
 
     const int middle = HeaderMetrics::Height / 2;
     const QVector<int> none;
-    for (Qt::LayoutDirection direction : s_directions) {
+    for (Qt::LayoutDirection direction : Directions) {
         const auto row = [&](const char *name, int section, int from, int y,
                              const QVector<int> &sorts, const QVector<int> &checks) {
             QTest::addRow("%s, %s", nameOf(direction), name)
@@ -219,7 +219,7 @@ void TestScanTableHeader::checkBoxClick()
 void TestScanTableHeader::boxIsPaintedWhereItIsHit_data()
 {
     QTest::addColumn<Qt::LayoutDirection>("direction");
-    for (Qt::LayoutDirection direction : s_directions)
+    for (Qt::LayoutDirection direction : Directions)
         QTest::newRow(nameOf(direction)) << direction;
 }
 
@@ -255,7 +255,7 @@ void TestScanTableHeader::dragStopsAtMinimum_data()
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<int>("by"); // towards the trailing side
     QTest::addColumn<int>("width");
-    for (Qt::LayoutDirection direction : s_directions) {
+    for (Qt::LayoutDirection direction : Directions) {
         const auto row = [&](const char *name, int by, int width) {
             QTest::addRow("%s, %s", nameOf(direction), name) << direction << by << width;
         };
@@ -327,7 +327,7 @@ void TestScanTableHeader::textNeverReachesArrowOrEnd_data()
     QTest::addColumn<int>("section");
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("text");
-    for (Qt::LayoutDirection direction : s_directions) {
+    for (Qt::LayoutDirection direction : Directions) {
         for (int section : {0, 1}) {
             for (int width : {60, 100, 220}) {
                 for (int text : {0, 30, 400})
