@@ -13,9 +13,10 @@ int textFrom(int logicalIndex)
 
 } // namespace
 
-HeaderSection::HeaderSection(const QRect &section, int logicalIndex, Qt::LayoutDirection direction)
+HeaderSection::HeaderSection(const QRect &section, int logicalIndex,
+                             Qt::LayoutDirection layoutDirection)
     : rect(section)
-    , m_direction(direction)
+    , direction(layoutDirection)
     , m_textFrom(textFrom(logicalIndex))
 {
     if (logicalIndex != 0)
@@ -27,13 +28,13 @@ HeaderSection::HeaderSection(const QRect &section, int logicalIndex, Qt::LayoutD
 
 int HeaderSection::leadingDistance(int x) const
 {
-    return m_direction == Qt::RightToLeft ? rect.right() - x : x - rect.left();
+    return direction == Qt::RightToLeft ? rect.right() - x : x - rect.left();
 }
 
 QRect HeaderSection::mirrored(int from, int width) const
 {
-    const int left = m_direction == Qt::RightToLeft ? rect.right() + 1 - from - width
-                                                    : rect.left() + from;
+    const int left = direction == Qt::RightToLeft ? rect.right() + 1 - from - width
+                                                  : rect.left() + from;
     return {left, rect.top(), width, rect.height()};
 }
 

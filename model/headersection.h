@@ -39,6 +39,7 @@ struct HeaderSection
 
     QRect rect;
     QRect checkBox; ///< null where there is none
+    Qt::LayoutDirection direction;
 
 private:
     /// Distance from the leading edge; pixels of the section count from 0.
@@ -47,6 +48,5 @@ private:
     QRect mirrored(int from, int width) const;
     int textLimit(bool withArrow) const;
 
-    Qt::LayoutDirection m_direction;
     int m_textFrom;
 };

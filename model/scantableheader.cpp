@@ -1,18 +1,14 @@
 #include "model/scantableheader.h"
 
-#include "common/commonfunction.h"
-#include "common/fontmanager.h"
 #include "common/translation.h"
 #include "model/columnfit.h"
 #include "model/headersection.h"
 #include "model/itemtext.h"
 #include "model/scandatamodel.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QtMath>
 
 #include <algorithm>
 
@@ -26,8 +22,6 @@ constexpr qint64 LongSize = Q_INT64_C(1000) * 1000 * 1000;
 constexpr qint64 LongTime = 1669852799; // two digits everywhere
 constexpr char LongType[] = "MMMMM";
 
-constexpr int CellInset = 8;          // before a cell's text
-constexpr int CellGap = 16;           // behind it
 constexpr int LocationImageRoom = 32; // at the end of the time
 constexpr int LocationShare = 30;     // per cent of the viewport
 
@@ -56,9 +50,7 @@ ScanTableHeader::ScanTableHeader(QWidget *parent)
         if (section == Column::NameColumn && size > 0 && size < NameMinimum)
             resizeSection(section, NameMinimum);
     });
-    updateTheme();
     retranslate();
-    updateFont();
 }
 
 // State ----------------------------------------------------------------------------------------
@@ -260,10 +252,12 @@ void ScanTableHeader::fitColumns(int viewportWidth)
         const int heading = sectionSizeFromContents(column).width();
         others.push_back({std::max(heading, cellWidth), heading});
     };
-    add(Column::SizeColumn, widthOfCell(ItemText::size(LongSize)));
+    add(Column::SizeColumn, HeaderLook::cellWidth(ItemText::size(LongSize)));
     add(Column::TypeColumn,
-        std::max(widthOfCell(QLatin1String(LongType)), widthOfCell(translatedKey("folder"))));
-    add(Column::DateColumn, widthOfCell(ItemText::modified(LongTime)) + LocationImageRoom);
+        std::max(HeaderLook::cellWidth(QLatin1String(LongType)),
+                 HeaderLook::cellWidth(translatedKey("folder"))));
+    add(Column::DateColumn,
+        HeaderLook::cellWidth(ItemText::modified(LongTime)) + LocationImageRoom);
     if (!m_detailPaneShown)
         add(Column::PathColumn, viewportWidth * LocationShare / 100);
 
@@ -283,26 +277,8 @@ void ScanTableHeader::refit()
 
 void ScanTableHeader::updateTheme()
 {
-    const bool dark = qApp->property("ThemeType").toInt() == 1;
-    m_textColor = dark ? QColor(255, 255, 255, 178) : QColor(0, 0, 0, 178);
-    m_strongTextColor = dark ? QColor(255, 255, 255, 224) : QColor(0, 0, 0, 217);
-    m_hairline = dark ? QColor(255, 255, 255, 20) : QColor(13, 44, 110, 26);
-    loadPixmaps();
+    m_look.updateTheme();
     viewport()->update();
-}
-
-void ScanTableHeader::loadPixmaps()
-{
-    m_checked = CommonFunction::themePixmap(QStringLiteral("icon16_check_normal"));
-    m_unchecked = CommonFunction::themePixmap(QStringLiteral("icon16_uncheck_normal"));
-    m_halfChecked = CommonFunction::themePixmap(QStringLiteral("icon16_half_check"));
-    const auto arrow = [](const QString &name) {
-        const QPixmap pixmap = CommonFunction::themePixmap(name);
-        return pixmap.isNull() ? QPixmap(QStringLiteral(":/Images/%1.png").arg(name)) : pixmap;
-    };
-    m_sortDefault = arrow(QStringLiteral("icon_sort_default"));
-    m_sortAscend = arrow(QStringLiteral("icon_sort_ascend"));
-    m_sortDescend = arrow(QStringLiteral("icon_sort_descend"));
 }
 
 void ScanTableHeader::retranslate()
@@ -324,50 +300,20 @@ QString ScanTableHeader::textOf(int logicalIndex) const
     return model() ? model()->headerData(logicalIndex, Qt::Horizontal).toString() : QString();
 }
 
-QFont ScanTableHeader::textFont(bool sorted) const
-{
-    return FontManager::instance()->getFont(FontPixelSize, sorted ? 600 : 400);
-}
-
-int ScanTableHeader::textWidth(int logicalIndex) const
-{
-    // the wider of the two, so that the arrow stays where it is when the sort changes
-    const QString text = textOf(logicalIndex);
-    return qCeil(std::max(QFontMetricsF(textFont(false)).horizontalAdvance(text),
-                          QFontMetricsF(textFont(true)).horizontalAdvance(text)));
-}
-
-int ScanTableHeader::widthOfCell(const QString &text) const
-{
-    QFont bold = FontManager::instance()->getFont(FontPixelSize, 400);
-    bold.setBold(true);
-    return CellInset + qCeil(QFontMetricsF(bold).horizontalAdvance(text)) + CellGap;
-}
-
 QSize ScanTableHeader::sectionSizeFromContents(int logicalIndex) const
 {
-    return {textWidth(logicalIndex)
+    return {HeaderLook::textWidth(textOf(logicalIndex))
                 + HeaderSection::roomBesideText(logicalIndex, sorts(logicalIndex)),
             Height};
 }
 
-const QPixmap &ScanTableHeader::arrowOf(int logicalIndex) const
+HeaderLook::Mark ScanTableHeader::markOf(int logicalIndex) const
 {
+    if (!sorts(logicalIndex))
+        return HeaderLook::NoMark;
     if (logicalIndex != m_sortSection)
-        return m_sortDefault;
-    return m_descending ? m_sortDescend : m_sortAscend;
-}
-
-const QPixmap &ScanTableHeader::checkPixmap() const
-{
-    switch (m_checkState) {
-    case Qt::Checked:
-        return m_checked;
-    case Qt::PartiallyChecked:
-        return m_halfChecked;
-    default:
-        return m_unchecked;
-    }
+        return HeaderLook::Unsorted;
+    return m_descending ? HeaderLook::Descending : HeaderLook::Ascending;
 }
 
 void ScanTableHeader::paintEvent(QPaintEvent *)
@@ -378,31 +324,14 @@ void ScanTableHeader::paintEvent(QPaintEvent *)
         if (!isSectionHidden(section))
             paintSection(&painter, sectionAt(section).rect, section);
     }
-    painter.fillRect(QRect(0, viewport()->height() - 1, viewport()->width(), 1), m_hairline);
+    m_look.paintHairline(&painter, viewport()->rect());
 }
 
 void ScanTableHeader::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const
 {
     if (!rect.isValid())
         return;
-    const HeaderSection section(rect, logicalIndex, layoutDirection());
-    const bool sorted = logicalIndex == m_sortSection;
-    const int width = textWidth(logicalIndex);
-    const QRect textRect = section.textRect(width, sorts(logicalIndex));
-
-    painter->save();
-    painter->setClipRect(rect, Qt::IntersectClip);
-    if (!section.checkBox.isNull())
-        painter->drawPixmap(section.checkBox, checkPixmap());
-    const QFont font = textFont(sorted);
-    painter->setFont(font);
-    painter->setPen(sorted || logicalIndex == m_hoverSection ? m_strongTextColor : m_textColor);
-    painter->drawText(
-        textRect,
-        int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) | Qt::AlignVCenter
-            | Qt::TextSingleLine,
-        QFontMetrics(font).elidedText(textOf(logicalIndex), Qt::ElideRight, textRect.width()));
-    if (sorts(logicalIndex))
-        painter->drawPixmap(section.arrowRect(width), arrowOf(logicalIndex));
-    painter->restore();
+    m_look.paint(
+        painter, HeaderSection(rect, logicalIndex, layoutDirection()),
+        {textOf(logicalIndex), markOf(logicalIndex), logicalIndex == m_hoverSection, m_checkState});
 }

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "model/headerlook.h"
 #include "model/headerviewsorttype.h"
 #include "model/sortcycle.h"
 
-#include <QColor>
 #include <QHeaderView>
-#include <QPixmap>
 
 struct HeaderSection;
 
@@ -67,13 +66,7 @@ private:
     void toggleCheck();
 
     QString textOf(int logicalIndex) const;
-    QFont textFont(bool sorted) const;
-    int textWidth(int logicalIndex) const;
-    /// In the font of a sorted column, the widest.
-    int widthOfCell(const QString &text) const;
-    const QPixmap &arrowOf(int logicalIndex) const;
-    const QPixmap &checkPixmap() const;
-    void loadPixmaps();
+    HeaderLook::Mark markOf(int logicalIndex) const;
     void applyHiddenColumns();
     void refit();
 
@@ -83,11 +76,9 @@ private:
     bool m_resizing = false;
     int m_dragStartX = 0;
     int m_dragStartWidth = 0;
-    QPixmap m_checked, m_unchecked, m_halfChecked;
-    QPixmap m_sortDefault, m_sortAscend, m_sortDescend;
+    HeaderLook m_look;
     bool m_edgeCursor = false;
     int m_hoverSection = SortCycle::NoSection;
     bool m_detailPaneShown = false;
     int m_fittedWidth = -1; ///< of the viewport; -1: the columns want fitting
-    QColor m_textColor, m_strongTextColor, m_hairline;
 };
