@@ -40,6 +40,15 @@ QFont bold(QFont font)
     return font;
 }
 
+/// A path runs from left to right, in whatever surroundings: E:\ is not to become \:E.
+QString asPath(const QString &text, Qt::LayoutDirection direction)
+{
+    constexpr ushort LeftToRightEmbedding = 0x202A;
+    constexpr ushort PopDirection = 0x202C;
+    return direction == Qt::LeftToRight ? text
+                                        : QChar(LeftToRightEmbedding) + text + QChar(PopDirection);
+}
+
 /// How many items a folder holds; nothing where nobody knows.
 QString countSuffix(const TreeItemData &item)
 {
@@ -267,7 +276,8 @@ void ListDelegate::drawLocation(QPainter *painter, const Cell &cell) const
 {
     ColumnTexts &texts = cell.sorted ? m_boldTexts : m_texts;
     const QString text = locationOf(cell.item);
-    const QString shown = texts.elided(text, cell.layout.textWidth, Qt::ElideMiddle);
+    const QString shown = asPath(texts.elided(text, cell.layout.textWidth, Qt::ElideMiddle),
+                                 cell.layout.direction);
     const bool link = m_pathColumnsActive && cell.rowHovered
         && m_view->hoverColumn() == ScanDataModel::PathColumn && LocationText::isKnown(text);
     if (!link) {
