@@ -7,28 +7,26 @@
 namespace {
 
 constexpr int MostPictures = 512; // a few pages
-constexpr int CachedSide = 32;
 
 } // namespace
 
 RowThumbnails::RowThumbnails()
-    : m_sharp(MostPictures)
+    : m_small(MostPictures)
 {
 }
 
 QPixmap RowThumbnails::picture(TreeItemData *file, int deviceSide)
 {
     auto *thumbnails = ScanPluginPreviewManager::instance();
-    const QPixmap small = thumbnails->listThumbnail(file);
-    if (deviceSide <= CachedSide)
-        return small;
     const QPixmap large = thumbnails->gridThumbnail(file->fileId);
     if (large.isNull())
-        return small;
+        return thumbnails->listThumbnail(file);
+    m_repairedCheck.refresh(file, large.cacheKey());
+
     const QPair<qint64, int> key(large.cacheKey(), deviceSide);
-    if (const QPixmap *known = m_sharp.object(key))
+    if (const QPixmap *known = m_small.object(key))
         return *known;
-    const QPixmap sharp = roundedThumbnail(large, deviceSide);
-    m_sharp.insert(key, new QPixmap(sharp), 1);
-    return sharp;
+    const QPixmap small = roundedThumbnail(large, deviceSide);
+    m_small.insert(key, new QPixmap(small), 1);
+    return small;
 }

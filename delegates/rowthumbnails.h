@@ -1,13 +1,16 @@
 #pragma once
 
+#include "delegates/repairedpreviewcheck.h"
+
 #include <QCache>
 #include <QPair>
 #include <QPixmap>
 
 class TreeItemData;
 
-/// The small pictures of files, as sharp as the screen can show them: the thumbnail cache makes
-/// them for a screen of scale 1, and a denser one gets its own from the large thumbnail.
+/// The small pictures of files, in the pixels of the screen: those of the thumbnail cache are made
+/// for a screen of scale 1. Of a file that has a large thumbnail the small one is made once, and
+/// painting it again does not touch the disk.
 class RowThumbnails
 {
 public:
@@ -17,5 +20,6 @@ public:
     QPixmap picture(TreeItemData *file, int deviceSide);
 
 private:
-    QCache<QPair<qint64, int>, QPixmap> m_sharp; ///< by large picture and side
+    RepairedPreviewCheck m_repairedCheck;
+    QCache<QPair<qint64, int>, QPixmap> m_small; ///< by large picture and side
 };
