@@ -3,7 +3,6 @@
 #include "common/fontmanager.h"
 #include "common/scanviewmanager.h"
 #include "common/thememanager.h"
-#include "common/translation.h"
 #include "content/scantableview.h"
 #include "delegates/delegateitem.h"
 #include "delegates/devicegrid.h"
@@ -15,7 +14,6 @@
 #include "thumbnails/scanpluginpreviewmanager.h"
 
 #include <QHeaderView>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QTextBrowser>
 
@@ -25,7 +23,6 @@ constexpr qint64 TooltipPauseMs = 5000;
 constexpr int NameFontSize = 13;
 constexpr int TextFontSize = 12;
 constexpr int FontWeight = 400;
-constexpr int MostTexts = 1024;
 constexpr Qt::Alignment BeginningOfLine = Qt::AlignLeft | Qt::AlignVCenter;
 
 void drawIfAny(QPainter *painter, const DeviceGrid &grid, const QRect &rect, const QPixmap &pixmap)
@@ -71,8 +68,6 @@ struct ListDelegate::Cell
 ListDelegate::ListDelegate(QObject *parent)
     : QStyledItemDelegate(parent)
     , m_tip(TooltipPauseMs)
-    , m_sizeTexts(MostTexts)
-    , m_timeTexts(MostTexts)
 {
     ThemeManager *themes = ThemeManager::instance();
     loadThemeResources(themes->getThemeType());
@@ -99,7 +94,7 @@ void ListDelegate::retranslate() const
     const QFont textFont = fonts->getFont(TextFontSize, FontWeight);
     m_texts.setFont(textFont);
     m_boldTexts.setFont(bold(textFont));
-    m_cachesDirty = true;
+    m_rowTexts.setDirty();
 }
 
 void ListDelegate::setTableView(ScanTableView *view)
@@ -114,33 +109,6 @@ void ListDelegate::setTableView(ScanTableView *view)
 void ListDelegate::setSearchKeyword(const QString &keyword)
 {
     m_names.setKeyword(keyword);
-}
-
-bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_names.renderer()) {
-        if (event->type() == QEvent::LanguageChange)
-            retranslate();
-        return false;
-    }
-    if (!m_view || watched != m_view->viewport())
-        return QStyledItemDelegate::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::Paint:
-        m_background.beginPaint(static_cast<QPaintEvent *>(event)->region());
-        break;
-    case QEvent::MouseMove:
-        // between and below the rows no cell gets to see the mouse
-        if (!m_view->indexAt(static_cast<QMouseEvent *>(event)->pos()).isValid())
-            hoverNothing();
-        break;
-    case QEvent::Leave:
-        hoverNothing();
-        break;
-    default:
-        break;
-    }
-    return false;
 }
 
 QSize ListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -190,7 +158,7 @@ void ListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
             drawName(painter, grid, cell);
             break;
         case ScanDataModel::SizeColumn:
-            drawText(painter, cell, sizeText(index.data(SizeRole).toLongLong()),
+            drawText(painter, cell, m_rowTexts.size(index.data(SizeRole).toLongLong()),
                      m_colors.secondaryText);
             break;
         case ScanDataModel::TypeColumn:
@@ -220,7 +188,8 @@ void ListDelegate::drawIcon(QPainter *painter, const DeviceGrid &grid, const Cel
             drawIfAny(painter, grid, rect, m_pictures.folderIcon);
         return;
     }
-    drawIfAny(painter, grid, rect, m_thumbnails.picture(&cell.item, grid.deviceRect(rect).width()));
+    const int side = grid.isAligned() ? grid.deviceRect(rect).width() : rect.width();
+    drawIfAny(painter, grid, rect, m_thumbnails.picture(&cell.item, side));
     if (cell.rowHovered)
         drawIfAny(painter, grid, rect, m_pictures.playButton);
     if (cell.item.property("previewRepaired").toBool())
@@ -265,7 +234,7 @@ void ListDelegate::drawText(QPainter *painter, const Cell &cell, const QString &
 
 void ListDelegate::drawTime(QPainter *painter, const DeviceGrid &grid, const Cell &cell) const
 {
-    drawText(painter, cell, timeText(cell.index.data(ModifiedTimeRole).toLongLong()),
+    drawText(painter, cell, m_rowTexts.time(cell.index.data(ModifiedTimeRole).toLongLong()),
              m_colors.secondaryText);
     if (showsLocationImage(cell.item))
         drawIfAny(painter, grid, cell.layout.locationImage,
@@ -294,36 +263,6 @@ void ListDelegate::drawLocation(QPainter *painter, const Cell &cell) const
                       shown);
 }
 
-QString ListDelegate::sizeText(qint64 bytes) const
-{
-    return remembered(m_sizeTexts, bytes, [](qint64 value) { return ItemText::size(value); });
-}
-
-QString ListDelegate::timeText(qint64 timestamp) const
-{
-    return remembered(m_timeTexts, timestamp,
-                      [](qint64 value) { return ItemText::modified(value); });
-}
-
-QString ListDelegate::remembered(QCache<qint64, QString> &cache, qint64 value,
-                                 QString (*format)(qint64)) const
-{
-    if (value == 0)
-        return LocationText::unknown();
-    if (m_cachesDirty) {
-        m_sizeTexts.clear();
-        m_timeTexts.clear();
-        m_cachesDirty = false;
-    }
-    if (const QString *known = cache.object(value))
-        return *known;
-    QString text = format(value);
-    if (text.isEmpty()) // a time that no calendar reaches
-        text = LocationText::unknown();
-    cache.insert(value, new QString(text), 1);
-    return text;
-}
-
 QString ListDelegate::locationOf(const TreeItemData &item) const
 {
     return LocationText::of(&item,
@@ -335,139 +274,4 @@ bool ListDelegate::showsLocationImage(const TreeItemData &item) const
 {
     return m_pathColumnsActive && !m_locationIconSuppressed
         && LocationText::isKnown(locationOf(item));
-}
-
-bool ListDelegate::leadsToLocation(const RowLayout &layout, const QPoint &pos,
-                                   const TreeItemData &item) const
-{
-    if (layout.column == ScanDataModel::PathColumn)
-        return m_pathColumnsActive && LocationText::isKnown(locationOf(item));
-    return layout.hitsLocationImage(pos) && showsLocationImage(item);
-}
-
-bool ListDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
-                               const QStyleOptionViewItem &option, const QModelIndex &index)
-{
-    // whoever listens to us may reset the model
-    const QPersistentModelIndex cell(index);
-    const auto base = [&] { return QStyledItemDelegate::editorEvent(event, model, option, cell); };
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-        break;
-    default:
-        return base();
-    }
-    const auto *mouse = static_cast<QMouseEvent *>(event);
-    const TreeItemData *item = itemOf(index);
-    if (!item) { // the record has died under the mouse
-        hoverNothing();
-        return base();
-    }
-    if (!option.rect.contains(mouse->pos()))
-        return base();
-
-    const RowLayout layout(option.rect, index.column(), option.direction);
-    if (event->type() == QEvent::MouseMove) {
-        hover(mouse->pos(), layout, index, *item);
-    } else if (event->type() == QEvent::MouseButtonDblClick) {
-        if (mouse->button() == Qt::LeftButton) {
-            emit signalClickDouble(index);
-            return true;
-        }
-    } else if (mouse->button() == Qt::RightButton) {
-        if (index.data(KindRole).toInt() == ItemKind::File) {
-            emit signalClickRightButton(index);
-            return false;
-        }
-    } else if (press(mouse->pos(), model, layout, cell, *item)) {
-        return true;
-    }
-    return base();
-}
-
-bool ListDelegate::press(const QPoint &pos, QAbstractItemModel *model, const RowLayout &layout,
-                         const QPersistentModelIndex &index, const TreeItemData &item)
-{
-    if (item.kind == ItemKind::File && layout.hitsIcon(pos)) {
-        emit signalPreviewClicked(index);
-        return true;
-    }
-    if (leadsToLocation(layout, pos, item)) {
-        emit signalPathClicked(index);
-        return true;
-    }
-    if (layout.hitsCheckArea(pos)) {
-        // through the cell that shows the box: the view repaints what has changed
-        const QModelIndex box = index.sibling(index.row(), ScanDataModel::NameColumn);
-        const Qt::CheckState state = CheckBox::toggled(box.data(Qt::CheckStateRole).toInt());
-        model->setData(box, state, Qt::CheckStateRole);
-        emit signalCheckStateChange(index, state);
-        return false;
-    }
-    emit signalMutilSelectEvent();
-    m_pressed = index;
-    emit signalClickListViewItem(index);
-    return false;
-}
-
-void ListDelegate::hover(const QPoint &pos, const RowLayout &layout, const QModelIndex &index,
-                         const TreeItemData &item)
-{
-    const bool onLocation = leadsToLocation(layout, pos, item);
-    const bool onImage = onLocation && layout.column == ScanDataModel::DateColumn;
-    const bool onIcon = item.kind == ItemKind::File && layout.hitsIcon(pos);
-    setCursor(onIcon || onLocation ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    setHoveredImage(onImage ? index : QModelIndex());
-
-    switch (layout.column) {
-    case ScanDataModel::NameColumn:
-        showTooltip(index, ItemText::displayName(item));
-        break;
-    case ScanDataModel::TypeColumn:
-        showTooltip(index, ItemText::type(item));
-        break;
-    case ScanDataModel::DateColumn:
-        if (onImage)
-            showTooltip(index, translatedKey("view_in_path"));
-        break;
-    case ScanDataModel::PathColumn:
-        showTooltip(index, locationOf(item));
-        break;
-    default:
-        break;
-    }
-}
-
-void ListDelegate::hoverNothing()
-{
-    setCursor(Qt::ArrowCursor);
-    setHoveredImage({});
-}
-
-void ListDelegate::setHoveredImage(const QModelIndex &index)
-{
-    if (m_hoveredImage == index)
-        return;
-    const QModelIndex before = m_hoveredImage;
-    m_hoveredImage = index;
-    if (!m_view)
-        return;
-    m_view->update(before);
-    m_view->update(index);
-}
-
-void ListDelegate::setCursor(Qt::CursorShape shape)
-{
-    if (m_view && m_view->viewport()->cursor().shape() != shape)
-        m_view->viewport()->setCursor(shape);
-}
-
-void ListDelegate::showTooltip(const QModelIndex &index, const QString &text)
-{
-    if (text.isEmpty() || !m_tip.allows(index))
-        return;
-    m_tip.shown(index);
-    emit signalShowTooltip(text);
 }

@@ -8,10 +8,10 @@
 #include "delegates/rowcolors.h"
 #include "delegates/rowlayout.h"
 #include "delegates/rowpictures.h"
+#include "delegates/rowtexts.h"
 #include "delegates/rowthumbnails.h"
 #include "delegates/tooltipthrottle.h"
 
-#include <QCache>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QStyledItemDelegate>
@@ -48,7 +48,7 @@ public:
     void setPathColumnsActive(bool active) { m_pathColumnsActive = active; }
     void setFoldersHavePlaceholder(bool placeholder) { m_foldersHavePlaceholder = placeholder; }
     /// Sizes and times are to be written anew, as after a change of language.
-    void setCachesDirty() { m_cachesDirty = true; }
+    void setCachesDirty() { m_rowTexts.setDirty(); }
     /// Whether the grid has more than it shows. Rows are laid out by their own view's width, so
     /// nothing here depends on it yet.
     void setGridCanScroll(bool canScroll) { m_gridCanScroll = canScroll; }
@@ -95,10 +95,6 @@ private:
     void drawText(QPainter *painter, const Cell &cell, const QString &text,
                   const QColor &color) const;
 
-    QString sizeText(qint64 bytes) const;
-    QString timeText(qint64 timestamp) const;
-    QString remembered(QCache<qint64, QString> &cache, qint64 value,
-                       QString (*format)(qint64)) const;
     QString locationOf(const TreeItemData &item) const;
     bool leadsToLocation(const RowLayout &layout, const QPoint &pos,
                          const TreeItemData &item) const;
@@ -130,10 +126,8 @@ private:
     bool m_emptyFolderCheckable = false;
     bool m_foldersHavePlaceholder = false;
     bool m_gridCanScroll = false;
-    mutable bool m_cachesDirty = false;
-    mutable QCache<qint64, QString> m_sizeTexts;
-    mutable QCache<qint64, QString> m_timeTexts;
     // what is prepared for painting, and prepared again when the language has changed
+    mutable RowTexts m_rowTexts;
     mutable RowThumbnails m_thumbnails;
     mutable NamePainter m_names;
     mutable ElideCache m_elidedNames{0};

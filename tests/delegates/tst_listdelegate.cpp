@@ -280,7 +280,6 @@ void TestListDelegate::locationLinks()
 
     Rows rows;
     const TreeItemData *item = rows.addItem(kind, path);
-    const QImage withImage = rows.image(rows.cell(item, Date));
     rows.delegate.setPathColumnsActive(active);
     rows.delegate.setLocationIconSuppressed(suppressed);
     rows.delegate.setFoldersHavePlaceholder(placeholder);
