@@ -101,6 +101,7 @@ private:
     bool showsLocationImage(const TreeItemData &item) const;
 
     bool isSorted(int column) const;
+    bool isFirstColumnShown() const;
     int viewportWidth(const QStyleOptionViewItem &option) const;
 
     /// True: the press has been dealt with, nobody else is to hear of it.

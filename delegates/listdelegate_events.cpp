@@ -24,7 +24,7 @@ bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
         return QStyledItemDelegate::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Paint:
-        m_background.beginPaint(static_cast<QPaintEvent *>(event)->region());
+        m_background.beginPaint(static_cast<QPaintEvent *>(event)->region(), isFirstColumnShown());
         break;
     case QEvent::MouseMove:
         // between and below the rows no cell gets to see the mouse
@@ -38,6 +38,13 @@ bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
         break;
     }
     return false;
+}
+
+bool ListDelegate::isFirstColumnShown() const
+{
+    const int left = m_view->columnViewportPosition(ScanDataModel::NameColumn);
+    const int width = m_view->columnWidth(ScanDataModel::NameColumn);
+    return width > 0 && left < m_view->viewport()->width() && left + width > 0;
 }
 
 bool ListDelegate::leadsToLocation(const RowLayout &layout, const QPoint &pos,

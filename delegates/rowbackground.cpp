@@ -16,6 +16,8 @@ bool RowBackground::isPaintedWhole(const QRect &row) const
 {
     if (m_region.isEmpty())
         return true;
+    if (!m_firstColumnShown)
+        return false;
     // one rectangle from edge to edge: column 0 is in it
     const QRegion part = m_region.rectCount() == 1 ? m_region : m_region & row;
     const QRect bounds = part.boundingRect();

@@ -10,8 +10,12 @@ class QPainter;
 class RowBackground
 {
 public:
-    /// The view is about to paint \a region of its viewport.
-    void beginPaint(const QRegion &region) { m_region = region; }
+    /// The view is about to paint \a region of its viewport, where column 0 may be out of sight.
+    void beginPaint(const QRegion &region, bool firstColumnShown)
+    {
+        m_region = region;
+        m_firstColumnShown = firstColumnShown;
+    }
 
     void draw(QPainter *painter, const QRect &cell, int column, int viewportWidth,
               const QColor &color) const;
@@ -20,4 +24,5 @@ private:
     bool isPaintedWhole(const QRect &row) const;
 
     QRegion m_region; ///< empty: nobody tells
+    bool m_firstColumnShown = true;
 };

@@ -7,6 +7,7 @@
 #include "thumbnails/scanpluginpreviewmanager.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -166,6 +167,7 @@ private slots:
     void sortedColumnIsBold();
     void backgroundOfPartlyRepaintedRow_data();
     void backgroundOfPartlyRepaintedRow();
+    void backgroundWithoutTheFirstColumn();
     void thumbnailIsAskedFor();
     void thumbnailIsSharpOnDenseScreens();
 };
@@ -586,6 +588,25 @@ void TestListDelegate::backgroundOfPartlyRepaintedRow()
             & table.view.viewport()->rect();
         QCOMPARE(part.copy(rect), whole.copy(rect));
     }
+}
+
+void TestListDelegate::backgroundWithoutTheFirstColumn()
+{
+    Table table;
+    TreeItemData *item = table.addItem();
+    table.view.resize(300, 200);
+    table.view.setColumnWidth(Name, 200);
+    table.show();
+    table.view.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table.view.horizontalScrollBar()->setValue(220);
+    const QModelIndex cell = table.cell(item, Type);
+    const auto background = [&] {
+        const QRect rect = table.view.visualRect(cell);
+        return table.shot(table.view.viewport()->rect()).pixel(rect.left() + 2, rect.center().y());
+    };
+    QCOMPARE(background(), qRgb(255, 255, 255));
+    table.moveTo(table.on(cell, {20, 20}));
+    QVERIFY(background() != qRgb(255, 255, 255));
 }
 
 void TestListDelegate::thumbnailIsAskedFor()
