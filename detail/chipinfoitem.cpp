@@ -1,0 +1,61 @@
+#include "detail/chipinfoitem.h"
+
+#include "common/fontmanager.h"
+#include "common/qssloader.h"
+#include "detail/flowlayout.h"
+#include "ui_chipinfoitem.h"
+
+namespace {
+
+constexpr int ChipSpacing = 6;
+
+} // namespace
+
+ChipInfoItem::ChipInfoItem(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::ChipInfoItem>())
+{
+    ui->setupUi(this);
+    m_flow = new FlowLayout(ChipSpacing, ui->chipContainerFrame);
+    ui->labTitle->setFont(FontManager::instance()->getFont(false));
+    loadStyleSheet();
+}
+
+ChipInfoItem::~ChipInfoItem() = default;
+
+void ChipInfoItem::setTitle(const QString &title)
+{
+    ui->labTitle->setText(title);
+}
+
+void ChipInfoItem::setChips(const QStringList &texts)
+{
+    if (texts == m_texts)
+        return;
+    m_texts = texts;
+    while (QLayoutItem *item = m_flow->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    for (const QString &text : texts) {
+        auto *chip = new QLabel(text, ui->chipContainerFrame);
+        chip->setTextFormat(Qt::PlainText);
+        chip->setFont(FontManager::instance()->getFont(false));
+        chip->setProperty("chipLabel", true);
+        chip->setProperty("chipVariant", "tag");
+        chip->setProperty("tooltipkey", text);
+        m_flow->addWidget(chip);
+        chip->show();
+    }
+    ui->chipContainerFrame->updateGeometry();
+}
+
+void ChipInfoItem::updateTheme()
+{
+    loadStyleSheet();
+}
+
+void ChipInfoItem::loadStyleSheet()
+{
+    QSSLoader::applyStyleSheet(this, QStringLiteral("chipinfoitem.qss"));
+}

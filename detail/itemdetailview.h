@@ -1,0 +1,73 @@
+#pragma once
+
+#include "platform/item/treeitemdata.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QVector>
+#include <QWidget>
+
+#include <memory>
+
+class ChipInfoItem;
+class DataInfoItem;
+
+namespace Ui {
+class ItemDetailViewClass;
+}
+
+/// The pane beside the list: picture, name and facts of one item. Rows that every item has are made
+/// once and stay where they are; what the host still has to tell fills the rows below when it
+/// comes. Requests to the host are made for an item on which the user rests, not for each one
+/// passed. The item is the host's and may die at any time. GUI thread.
+class ItemDetailView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ItemDetailView(QWidget *parent = nullptr);
+    ~ItemDetailView() override;
+
+    /// Null clears the pane.
+    void setItem(TreeItemData *item);
+    void clear() { setItem(nullptr); }
+    /// Fills the pane again from the item that it shows.
+    void refresh();
+    /// The thumbnail cache has an answer for this file.
+    void refreshPicture(qint64 fileId);
+    void setAssessmentFinished(bool finished);
+
+    void updateTheme();
+    void retranslate();
+
+signals:
+    void signalClickedOpen(TreeItemData *itemData);
+    void signalGetThumPixmap(TreeItemData *itemData);
+    void signalGetMetaData(TreeItemData *itemData);
+    void signalPathClicked(TreeItemData *itemData);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void loadStyleSheet();
+    void fillPicture();
+    void fillFacts();
+    void fillTags();
+    void fillMetadata();
+    void request();
+    DataInfoItem *metadataRow(int index);
+
+    std::unique_ptr<Ui::ItemDetailViewClass> ui;
+    QPointer<TreeItemData> m_item;
+    QTimer m_rest;
+    DataInfoItem *m_path;
+    DataInfoItem *m_status;
+    DataInfoItem *m_size;
+    DataInfoItem *m_resolution;
+    DataInfoItem *m_recoverability;
+    ChipInfoItem *m_tags;
+    QVector<DataInfoItem *> m_metadataRows; ///< kept and used again
+    bool m_assessmentFinished = false;
+};
