@@ -6,15 +6,17 @@
 /// Where the cards of a grid lie: a pure computation over a handful of numbers, the same for
 /// painting and for hit-testing. Rows are those of the model; a line is a row of cards on screen.
 /// Points and rectangles are in content coordinates.
-struct GridGeometry {
+struct GridGeometry
+{
     /// Rows \a first to \a last without a gap between them.
-    struct Run {
+    struct Run
+    {
         int first;
         int last;
     };
 
-    QSize cell;      ///< of one card; an empty one leaves nothing to show
-    int spacing = 0; ///< before, between and after the cards
+    QSize cell;       ///< of one card; an empty one leaves nothing to show
+    int spacing = 0;  ///< before, between and after the cards
     int rowCount = 0; ///< so few that all lines together fit into an int of pixels
     int columns = 1;
     int mirrorWidth = 0; ///< right-to-left: the width that x is mirrored in; 0: left-to-right

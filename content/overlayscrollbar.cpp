@@ -38,9 +38,8 @@ void OverlayScrollBar::sync()
         setValue(own->value());
     }
     const QPoint corner = m_view->mapTo(parentWidget(), QPoint(0, 0));
-    const int x = layoutDirection() == Qt::RightToLeft
-        ? corner.x() + RoomInView - Width
-        : corner.x() + m_view->width() - RoomInView;
+    const int x = layoutDirection() == Qt::RightToLeft ? corner.x() + RoomInView - Width
+                                                       : corner.x() + m_view->width() - RoomInView;
     setGeometry(x, corner.y(), Width, m_view->height());
     show();
     raise();

@@ -3,6 +3,8 @@
 #include "platform/item/filtercondition.h"
 #include "platform/item/treeitemdata.h"
 
+#include <QSet>
+
 namespace PageChoice {
 
 bool isFilterActive(const FilterCondition *filter)
@@ -24,6 +26,17 @@ bool hasItems(const TreeItemData *root)
     if (root->itemCount < 0)
         return !root->childFolders.isEmpty() || !root->childFiles.isEmpty();
     return root->itemCount > 0;
+}
+
+bool isCategoryTree(const TreeItemData *root)
+{
+    static const QSet<int> categories{9, 10, 11, 23, 24, 25, 26, 27, 50, 51, 52, 56};
+    // A host's broken links must not hold us here for ever.
+    for (int depth = 0; root && depth < 1000; ++depth, root = root->parent) {
+        if (categories.contains(root->rootType))
+            return true;
+    }
+    return false;
 }
 
 Page nothingFound(const Situation &situation)

@@ -24,6 +24,9 @@ bool isFilterActive(const FilterCondition *filter);
 /// A root with a known count is taken at its word; one of unknown count by what it has delivered.
 bool hasItems(const TreeItemData *root);
 
+/// \a root or a node that it hangs from shows a category of files, from wherever they lie.
+bool isCategoryTree(const TreeItemData *root);
+
 /// Nothing was found: because of the filter, or at all.
 Page nothingFound(const Situation &situation);
 /// A tree has been handed over.

@@ -5,7 +5,8 @@
 
 /// State of a rubber band over scrolled content: armed by a press, active once the pointer has
 /// gone far enough. It starts at a place of the content and ends at a place of the viewport.
-class RubberBand {
+class RubberBand
+{
 public:
     void arm(const QPoint &viewportPos, const QPoint &offset);
     void disarm();

@@ -6,6 +6,7 @@
 #include "content/checktoggle.h"
 #include "content/contentpages.h"
 #include "content/currentitem.h"
+#include "content/listmode.h"
 #include "content/loadmoretrigger.h"
 #include "content/overlayscrollbar.h"
 #include "content/scananimation.h"
@@ -13,7 +14,11 @@
 #include "content/thumbnailrequests.h"
 #include "delegates/delegateitem.h"
 #include "delegates/icondelegate.h"
+#include "delegates/listdelegate.h"
+#include "detail/itemdetailview.h"
 #include "model/scandatamodel.h"
+#include "model/scantableheader.h"
+#include "model/sortcycle.h"
 #include "platform/item/filtercondition.h"
 #include "ui_sdcardcontentdatawidget.h"
 
@@ -27,6 +32,7 @@ namespace {
 constexpr int SearchSide = 2;
 constexpr int GridMode = 0;
 constexpr int ListWithDetailMode = 1;
+constexpr int ListOnlyMode = 2;
 constexpr int CardSpacing = 8;
 
 enum ScanState { Started = 1, Finished = 4, AnimationStopped = 5 };
@@ -82,50 +88,43 @@ void SDCardContentDataWidget::createViews()
     ui->listView->setCardsStretched(true);
     ui->listView->setItemDelegate(m_gridDelegate);
 
-    m_table = new ScanTableView(ui->frame_4);
-    m_table->setModel(m_model);
-    m_table->hide();
-    ui->horizontalLayout_4->insertWidget(1, m_table, 1);
+    m_list = new ListMode(m_model, ui->frame_4);
+    m_list->table()->installEventFilter(this);
+    ui->horizontalLayout_4->insertWidget(1, m_list->table(), 1);
+    ui->itemDetailFrameVLayout->addWidget(m_list->pane());
+    // One select-all is on screen: the one with the caption over the grid, the header's in a list.
+    ui->iconModeHederView->setCheckButtonVisible(false);
 
-    m_current = new CurrentItem(m_model, {ui->listView, m_table}, this);
+    m_current = new CurrentItem(m_model, {ui->listView, m_list->table()}, this);
     m_overlay = new OverlayScrollBar(ui->listView, this);
-    setTabOrder(ui->allCheckButton, ui->listView);
-    setTabOrder(ui->listView, m_table);
+    setTabOrder(ui->allCheckButton, ui->iconModeHederView);
+    setTabOrder(ui->iconModeHederView, ui->listView);
+    setTabOrder(ui->listView, m_list->table());
+    setTabOrder(m_list->table(), m_list->pane());
 }
 
 void SDCardContentDataWidget::connectViews()
 {
     connect(m_checkAll, &CheckAll::clicked, this, &SDCardContentDataWidget::checkAll);
+    connect(ui->iconModeHederView, &HeaderView::signalAllChecked, this,
+            &SDCardContentDataWidget::checkAll);
+    connect(ui->iconModeHederView, &HeaderView::signalSortClicked, this,
+            &SDCardContentDataWidget::applySort);
     connect(m_pages, &ContentPages::shown, m_overlay, &OverlayScrollBar::sync);
-    connect(ui->listView, &QListView::pressed, this, &SDCardContentDataWidget::onPressed);
-    connect(ui->listView, &ThumbnailGrid::signalMutilSelectEvent, this,
-            &SDCardContentDataWidget::onMultiSelectEvent);
-    connect(ui->listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &SDCardContentDataWidget::onSelectionChanged);
     connect(m_current, &CurrentItem::saved, this, [this](const QModelIndex &index) {
         m_gridDelegate->setPressedIndex(index.sibling(index.row(), 0));
     });
-    connect(m_current, &CurrentItem::changed, this,
-            &SDCardContentDataWidget::signalCurrentItemChanged);
-
-    connect(m_gridDelegate, &IconDelegate::signalCheckStateChange, this,
-            &SDCardContentDataWidget::onCheckChanged);
-    connect(m_gridDelegate, &IconDelegate::signalClickListViewItem, this,
-            [this](const QModelIndex &index) { openIndex(index, QStringLiteral("preview_btn")); });
-    connect(m_gridDelegate, &IconDelegate::signalClickDouble, this,
-            [this](const QModelIndex &index) { openIndex(index, QStringLiteral("double_click")); });
-    connect(m_gridDelegate, &IconDelegate::signalSetCursor, this,
-            [this](const QCursor &cursor) { ui->listView->viewport()->setCursor(cursor); });
-    // The press reaches the delegate before the view has changed its selection.
-    connect(m_gridDelegate, &IconDelegate::signalMutilSelectEvent, this,
-            &SDCardContentDataWidget::onMultiSelectEvent, Qt::QueuedConnection);
-    connect(m_gridDelegate, &IconDelegate::signalShowTooltip, this,
-            &SDCardContentDataWidget::signalScanViewShowTooltip);
+    connect(m_current, &CurrentItem::changed, this, [this](TreeItemData *item) {
+        m_list->setCurrentItem(item);
+        emit signalCurrentItemChanged(item);
+    });
+    connectGrid();
+    connectList();
 
     auto *gridBottom = new LoadMoreTrigger(
         ui->listView, "[ScrollDiag][listView] trigger signalQueryMoreData", this);
     auto *tableBottom = new LoadMoreTrigger(
-        m_table, "[ScrollDiag][tableView] trigger signalQueryMoreData", this);
+        m_list->table(), "[ScrollDiag][tableView] trigger signalQueryMoreData", this);
     for (const LoadMoreTrigger *trigger : {gridBottom, tableBottom}) {
         connect(trigger, &LoadMoreTrigger::bottomReached, this, [this, trigger] {
             if (!LoadMoreTrigger::hasMore(m_root))
@@ -134,12 +133,56 @@ void SDCardContentDataWidget::connectViews()
             emit signalQueryMoreData(m_root);
         });
     }
+    const QScrollBar *gridBar = ui->listView->verticalScrollBar();
+    connect(gridBar, &QScrollBar::rangeChanged, this, [this](int minimum, int maximum) {
+        m_list->delegate()->setGridCanScroll(maximum > minimum);
+    });
+}
+
+void SDCardContentDataWidget::connectGrid()
+{
+    connect(ui->listView, &QListView::pressed, this, &SDCardContentDataWidget::onPressed);
+    connect(ui->listView, &ThumbnailGrid::signalMutilSelectEvent, this,
+            &SDCardContentDataWidget::onMultiSelectEvent);
+    connect(ui->listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SDCardContentDataWidget::onSelectionChanged);
+
+    connect(m_gridDelegate, &IconDelegate::signalCheckStateChange, this,
+            &SDCardContentDataWidget::onCheckChanged);
+    connect(m_gridDelegate, &IconDelegate::signalClickListViewItem, this,
+            [this](const QModelIndex &index) {
+                openItem(m_model->itemAt(index), QStringLiteral("preview_btn"));
+            });
+    connect(m_gridDelegate, &IconDelegate::signalClickDouble, this,
+            [this](const QModelIndex &index) {
+                openItem(m_model->itemAt(index), QStringLiteral("double_click"));
+            });
+    connect(m_gridDelegate, &IconDelegate::signalSetCursor, this,
+            [this](const QCursor &cursor) { ui->listView->viewport()->setCursor(cursor); });
+    // The press reaches the delegate before the view has changed its selection.
+    connect(m_gridDelegate, &IconDelegate::signalMutilSelectEvent, this,
+            &SDCardContentDataWidget::onMultiSelectEvent, Qt::QueuedConnection);
+    connect(m_gridDelegate, &IconDelegate::signalShowTooltip, this,
+            &SDCardContentDataWidget::signalScanViewShowTooltip);
+}
+
+void SDCardContentDataWidget::connectList()
+{
+    connect(m_list, &ListMode::allChecked, this, &SDCardContentDataWidget::checkAll);
+    connect(m_list, &ListMode::sortClicked, this, &SDCardContentDataWidget::applySort);
+    connect(m_list, &ListMode::checkChanged, this, &SDCardContentDataWidget::onCheckChanged);
+    connect(m_list, &ListMode::openRequested, this, &SDCardContentDataWidget::openItem);
+    connect(m_list, &ListMode::locationClicked, this, &SDCardContentDataWidget::goToLocation);
+    connect(m_list, &ListMode::metaDataWanted, this, &SDCardContentDataWidget::signalGetMetaData);
+    connect(m_list, &ListMode::tooltipWanted, this,
+            &SDCardContentDataWidget::signalScanViewShowTooltip);
 }
 
 void SDCardContentDataWidget::connectThumbnails()
 {
     connect(m_gridDelegate, &IconDelegate::signalGetThumItem, m_thumbnails,
             &ThumbnailRequests::request);
+    connect(m_list, &ListMode::thumbnailMissing, m_thumbnails, &ThumbnailRequests::request);
     connect(m_thumbnails, &ThumbnailRequests::wanted, this,
             &SDCardContentDataWidget::signalGetThumPixmap);
     connect(m_thumbnails, &ThumbnailRequests::answered, this,
@@ -154,6 +197,8 @@ void SDCardContentDataWidget::loadStyleSheet()
 void SDCardContentDataWidget::retranslate()
 {
     m_pages->retranslate();
+    ui->iconModeHederView->retranslate();
+    m_list->retranslate();
     emit m_model->headerDataChanged(Qt::Horizontal, 0, ScanDataModel::ColumnCount - 1);
     repaintViews();
 }
@@ -163,6 +208,7 @@ void SDCardContentDataWidget::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         guarded(Q_FUNC_INFO, [this] {
             m_pages->applyFonts();
+            ui->iconModeHederView->updateFont();
             retranslate();
         });
     QWidget::changeEvent(event);
@@ -173,6 +219,8 @@ void SDCardContentDataWidget::updateTheme(THEMETYPE)
     guarded(Q_FUNC_INFO, [this] {
         loadStyleSheet();
         m_checkAll->refresh();
+        ui->iconModeHederView->updateTheme();
+        m_list->updateTheme();
         repaintViews();
     });
 }
@@ -211,16 +259,28 @@ void SDCardContentDataWidget::setViewMode(int mode)
 {
     if (mode == m_viewMode)
         return;
+    if (mode < GridMode || mode > ListOnlyMode) {
+        qDebug() << "SDCardContentDataWidget setViewMode unknown mode" << mode;
+        return;
+    }
     guarded(Q_FUNC_INFO, [this, mode] {
-        m_viewMode = mode;
         const bool grid = mode == GridMode;
         const bool pane = mode == ListWithDetailMode;
+        QAbstractItemView *before = viewInUse();
+        m_viewMode = mode;
         ui->headerViewFrame->setVisible(grid);
         ui->listView->setVisible(grid);
-        m_table->setVisible(!grid);
-        ui->spaceframe->setVisible(grid || pane);
+        m_list->table()->setVisible(!grid);
+        ui->spaceframe->setVisible(pane);
         ui->vlineframe->setVisible(pane);
         ui->itemDetailframe->setVisible(pane);
+        m_list->setPaneShown(pane);
+        m_list->fitColumns();
+        if (before != viewInUse()) {
+            m_gridDelegate->clearMarkedIndexes();
+            ViewMemory::copySelection(*before, *viewInUse(), *m_model);
+            viewInUse()->scrollTo(m_current->index());
+        }
         showHeaders();
         m_overlay->sync();
     });
@@ -237,14 +297,14 @@ void SDCardContentDataWidget::showHeaders()
 void SDCardContentDataWidget::repaintViews()
 {
     ui->listView->viewport()->update();
-    m_table->viewport()->update();
+    m_list->table()->viewport()->update();
 }
 
 QAbstractItemView *SDCardContentDataWidget::viewInUse() const
 {
     if (m_viewMode == GridMode)
         return ui->listView;
-    return m_table;
+    return m_list->table();
 }
 
 void SDCardContentDataWidget::setScanState(int state)
@@ -257,6 +317,7 @@ void SDCardContentDataWidget::setScanState(int state)
             ui->animationframe->show();
             m_scanFinished = false;
             m_gridDelegate->setAssessmentFinished(false);
+            m_list->setAssessmentFinished(false);
             m_pages->applyFonts();
             break;
         case Finished: {
@@ -266,6 +327,7 @@ void SDCardContentDataWidget::setScanState(int state)
             if (page != m_pages->current())
                 m_pages->show(page);
             m_gridDelegate->setAssessmentFinished(true);
+            m_list->setAssessmentFinished(true);
             break;
         }
         case AnimationStopped:
@@ -283,6 +345,7 @@ void SDCardContentDataWidget::setScanFinished(bool finished)
         return;
     m_scanFinished = finished;
     m_gridDelegate->setAssessmentFinished(finished);
+    m_list->setAssessmentFinished(finished);
     repaintViews();
 }
 
@@ -307,7 +370,11 @@ void SDCardContentDataWidget::updateData(TreeItemData *root, const QString &keyw
         qDebug() << "SDCardContentDataWidget updateData itemCount = "
                  << root->childFolders.size() + root->childFiles.size();
         m_gridDelegate->setSearchKeyword(keyword);
+        m_list->setSearchKeyword(keyword);
         m_root = root;
+        // A link leads somewhere only where items come from many places.
+        m_list->delegate()->setPathColumnsActive(m_side == SearchSide
+                                                 || PageChoice::isCategoryTree(root));
 
         const Page page = PageChoice::forTree(situation());
         if (page == Page::Results || m_side == SearchSide)
@@ -326,13 +393,18 @@ void SDCardContentDataWidget::updateData(TreeItemData *root, const QString &keyw
 void SDCardContentDataWidget::giveToModel(TreeItemData *root)
 {
     const bool sameTree = m_current->belongsTo(*root) && m_model->rowCount() > 0;
+    const bool grid = m_viewMode == GridMode;
+    // Only the view in use: the other takes its selection over when it is shown.
+    ViewMemory &memory = grid ? m_gridMemory : m_tableMemory;
     if (sameTree)
-        m_memory.capture(*ui->listView, *m_model);
+        memory.capture(*viewInUse(), *m_model,
+                       grid ? ui->listView->visibleRows().first
+                            : m_list->table()->visibleRows().first);
     m_model->openFolder(root);
     if (sameTree)
-        m_memory.restore(*ui->listView, *m_model);
+        memory.restore(*viewInUse(), *m_model);
     else
-        ui->listView->scrollToTop();
+        viewInUse()->scrollToTop();
 }
 
 void SDCardContentDataWidget::reset()
@@ -340,9 +412,12 @@ void SDCardContentDataWidget::reset()
     guarded(Q_FUNC_INFO, [this] {
         m_scanFinished = false;
         m_gridDelegate->setAssessmentFinished(false);
+        m_list->setAssessmentFinished(false);
         m_thumbnails->clear();
         m_model->clear();
         m_model->clearSort();
+        ui->iconModeHederView->resetSort();
+        m_list->header()->resetSort();
         showHeaders();
         m_current->forget();
         m_root = nullptr;
@@ -377,7 +452,7 @@ QList<TreeItemData *> SDCardContentDataWidget::selectedItems() const
 {
     QModelIndexList indexes;
     if (m_viewMode != GridMode) {
-        indexes = m_table->selectionModel()->selectedRows();
+        indexes = m_list->table()->selectionModel()->selectedRows();
     } else {
         indexes = ui->listView->selectionModel()->selectedIndexes();
         const QModelIndexList marked = m_gridDelegate->markedIndexes();
@@ -398,11 +473,14 @@ QList<TreeItemData *> SDCardContentDataWidget::selectedItems() const
 void SDCardContentDataWidget::setCheckAllState(int state)
 {
     m_checkAll->setState(state);
+    ui->iconModeHederView->setCheckState(state);
+    m_list->setCheckState(state);
 }
 
 void SDCardContentDataWidget::checkAll(Qt::CheckState state)
 {
     guarded(Q_FUNC_INFO, [this, state] {
+        setCheckAllState(state);
         if (!m_root)
             return;
         m_root->checkState = state;
@@ -441,7 +519,9 @@ void SDCardContentDataWidget::onCheckChanged(const QModelIndex &index, Qt::Check
 
 void SDCardContentDataWidget::toggleSelectedChecks()
 {
-    QModelIndexList indexes = viewInUse()->selectionModel()->selectedIndexes();
+    const QItemSelectionModel *selection = viewInUse()->selectionModel();
+    QModelIndexList indexes = m_viewMode == GridMode ? selection->selectedIndexes()
+                                                     : selection->selectedRows();
     if (indexes.isEmpty() && m_current->index().isValid())
         indexes = {m_current->index()};
     const CheckToggle::Result toggled = CheckToggle::toggle(*m_model, indexes);
@@ -483,14 +563,13 @@ void SDCardContentDataWidget::onMultiSelectEvent()
 void SDCardContentDataWidget::onThumbnailArrived(qint64 fileId)
 {
     ui->listView->repaintMatching(FileIdRole, fileId);
-    if (m_table->isVisible())
-        m_table->viewport()->update();
+    m_list->showThumbnail(fileId);
 }
 
-void SDCardContentDataWidget::openIndex(const QModelIndex &index, const QString &source)
+void SDCardContentDataWidget::openItem(TreeItemData *opened, const QString &source)
 {
     guarded(Q_FUNC_INFO, [&] {
-        const QPointer<TreeItemData> item = m_model->itemAt(index);
+        const QPointer<TreeItemData> item = opened;
         if (!item)
             return;
         const bool entered = source == QLatin1String("double_click")
@@ -503,23 +582,58 @@ void SDCardContentDataWidget::openIndex(const QModelIndex &index, const QString 
     });
 }
 
+void SDCardContentDataWidget::goToLocation(TreeItemData *item)
+{
+    if (!item)
+        return;
+    const bool pane = m_viewMode == ListWithDetailMode;
+    emit signalLocateFile(item);
+    emit signalSensorsData(
+        QStringLiteral("go_to_file_path_click"),
+        {{QStringLiteral("click_from"),
+          pane ? QStringLiteral("detail_view") : QStringLiteral("list_view")},
+         {QStringLiteral("click_what"),
+          pane ? QStringLiteral("path_jump_icon") : QStringLiteral("path_text_link")}});
+}
+
+void SDCardContentDataWidget::applySort(HeaderViewSortType type)
+{
+    guarded(Q_FUNC_INFO, [this, type] {
+        ui->iconModeHederView->setSortType(type);
+        m_list->header()->setSortType(type);
+        // The sections that sort are the model's first columns.
+        if (SortCycle::section(type) != SortCycle::NoSection)
+            m_model->sort(SortCycle::section(type),
+                          SortCycle::isDescending(type) ? Qt::DescendingOrder : Qt::AscendingOrder);
+        if (!m_root)
+            return;
+        repaintViews();
+        emit signalSortClicked(m_root, type);
+    });
+}
+
+void SDCardContentDataWidget::setFoldersHavePlaceholder(bool placeholder)
+{
+    m_list->delegate()->setFoldersHavePlaceholder(placeholder);
+    repaintViews();
+}
+
 bool SDCardContentDataWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == ui->listView) {
-        switch (event->type()) {
-        case QEvent::KeyPress:
-            if (handleKey(static_cast<QKeyEvent *>(event)->key()))
-                return true;
-            break;
-        case QEvent::Resize:
-        case QEvent::Show:
-        case QEvent::Hide:
-            // After the view has taken its new size.
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        if (handleKey(static_cast<QKeyEvent *>(event)->key()))
+            return true;
+        break;
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+        // After the view has taken its new size.
+        if (watched == ui->listView)
             QMetaObject::invokeMethod(m_overlay, &OverlayScrollBar::sync, Qt::QueuedConnection);
-            break;
-        default:
-            break;
-        }
+        break;
+    default:
+        break;
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -532,7 +646,7 @@ bool SDCardContentDataWidget::handleKey(int key)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        openIndex(ui->listView->currentIndex(), QStringLiteral("double_click"));
+        openItem(m_model->itemAt(viewInUse()->currentIndex()), QStringLiteral("double_click"));
         return true;
     default:
         return false;

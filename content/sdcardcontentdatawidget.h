@@ -17,9 +17,9 @@ class CheckAll;
 class ContentPages;
 class CurrentItem;
 class IconDelegate;
+class ListMode;
 class OverlayScrollBar;
 class ScanDataModel;
-class ScanTableView;
 class QAbstractItemView;
 class ThumbnailRequests;
 struct FilterCondition;
@@ -54,6 +54,8 @@ public:
     void showLoadingPage(bool show);
     /// Stays the caller's; must outlive its use here or be replaced.
     void setFilterCondition(FilterCondition *condition);
+    /// Folders show "--" as their location in the list.
+    void setFoldersHavePlaceholder(bool placeholder);
 
     void initScaningLottie();
     void startScanAnimation();
@@ -92,6 +94,8 @@ protected:
 private:
     void createViews();
     void connectViews();
+    void connectGrid();
+    void connectList();
     void connectThumbnails();
     void loadStyleSheet();
 
@@ -107,7 +111,9 @@ private:
     void onMultiSelectEvent();
     void onCheckChanged(const QModelIndex &index, Qt::CheckState state);
     void onThumbnailArrived(qint64 fileId);
-    void openIndex(const QModelIndex &index, const QString &source);
+    void openItem(TreeItemData *item, const QString &source);
+    void goToLocation(TreeItemData *item);
+    void applySort(HeaderViewSortType type);
     void checkAll(Qt::CheckState state);
     void toggleSelectedChecks();
     bool handleKey(int key);
@@ -116,7 +122,7 @@ private:
     std::unique_ptr<Ui::SDCardContentDataWidgetClass> ui;
     ScanDataModel *m_model = nullptr;
     IconDelegate *m_gridDelegate = nullptr;
-    ScanTableView *m_table = nullptr;
+    ListMode *m_list = nullptr;
     OverlayScrollBar *m_overlay = nullptr;
     ContentPages *m_pages = nullptr;
     CheckAll *m_checkAll = nullptr;
@@ -124,7 +130,8 @@ private:
     ThumbnailRequests *m_thumbnails = nullptr;
     FilterCondition *m_filter = nullptr;
     QPointer<TreeItemData> m_root;
-    ViewMemory m_memory;
+    ViewMemory m_gridMemory;
+    ViewMemory m_tableMemory;
     int m_viewMode = 0;
     const int m_side;
     bool m_searchMode = false;

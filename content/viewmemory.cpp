@@ -1,8 +1,8 @@
 #include "content/viewmemory.h"
 
-#include "content/thumbnailgrid.h"
 #include "model/scandatamodel.h"
 
+#include <QAbstractItemView>
 #include <QItemSelectionModel>
 #include <QScrollBar>
 
@@ -19,6 +19,14 @@ void appendRange(QItemSelection &selection, const ScanDataModel &model, int top,
         --bottom;
     if (top <= bottom)
         selection.append(QItemSelectionRange(model.index(top, 0), model.index(bottom, 0)));
+}
+
+/// In a table whole rows are selected.
+QItemSelectionModel::SelectionFlags flagsOf(const QAbstractItemView &view)
+{
+    return view.selectionBehavior() == QAbstractItemView::SelectRows
+        ? QItemSelectionModel::Select | QItemSelectionModel::Rows
+        : QItemSelectionModel::Select;
 }
 
 /// As few ranges as possible; rows below 0 are left out.
@@ -39,7 +47,7 @@ QItemSelection selectionOfRows(const ScanDataModel &model, QVector<int> rows)
 
 } // namespace
 
-void ViewMemory::capture(const ThumbnailGrid &view, const ScanDataModel &model)
+void ViewMemory::capture(const QAbstractItemView &view, const ScanDataModel &model, int topRow)
 {
     m_selectedRanges.clear();
     m_selectedItems.clear();
@@ -50,28 +58,29 @@ void ViewMemory::capture(const ThumbnailGrid &view, const ScanDataModel &model)
             m_selectedItems.append(model.itemAt(row));
     }
 
-    captureAnchor(view, model);
+    captureAnchor(view, model, topRow);
 }
 
-void ViewMemory::captureAnchor(const ThumbnailGrid &view, const ScanDataModel &model)
+void ViewMemory::captureAnchor(const QAbstractItemView &view, const ScanDataModel &model,
+                               int topRow)
 {
     m_scrollValue = view.verticalScrollBar()->value();
     // In a grid new items also move the others from line to line: until the user scrolls, the item
     // that was held last is held again, or the view would creep line by line.
     const int heldRow = m_scrollValue == m_restoredValue && m_topItem ? model.rowOf(m_topItem) : -1;
-    m_topRow = heldRow >= 0 ? heldRow : view.visibleRows().first;
+    m_topRow = heldRow >= 0 ? heldRow : topRow;
     m_topItem = m_topRow < 0 ? nullptr : model.itemAt(m_topRow);
     m_topOffset = m_topItem ? view.visualRect(model.index(m_topRow, 0)).top() : 0;
 }
 
-void ViewMemory::restore(ThumbnailGrid &view, const ScanDataModel &model)
+void ViewMemory::restore(QAbstractItemView &view, const ScanDataModel &model)
 {
     restoreSelection(view, model);
     restoreScroll(view, model);
     m_restoredValue = view.verticalScrollBar()->value();
 }
 
-void ViewMemory::restoreSelection(ThumbnailGrid &view, const ScanDataModel &model) const
+void ViewMemory::restoreSelection(QAbstractItemView &view, const ScanDataModel &model) const
 {
     if (m_selectedRanges.isEmpty())
         return;
@@ -92,10 +101,10 @@ void ViewMemory::restoreSelection(ThumbnailGrid &view, const ScanDataModel &mode
         }
         selection = selectionOfRows(model, model.rowsOf(alive));
     }
-    view.selectionModel()->select(selection, QItemSelectionModel::Select);
+    view.selectionModel()->select(selection, flagsOf(view));
 }
 
-void ViewMemory::restoreScroll(ThumbnailGrid &view, const ScanDataModel &model) const
+void ViewMemory::restoreScroll(QAbstractItemView &view, const ScanDataModel &model) const
 {
     QScrollBar *bar = view.verticalScrollBar();
     // Who is at the very top wants to see what comes first, not what was first a moment ago.
@@ -109,4 +118,14 @@ void ViewMemory::restoreScroll(ThumbnailGrid &view, const ScanDataModel &model) 
         return;
     }
     bar->setValue(bar->value() + view.visualRect(model.index(row, 0)).top() - m_topOffset);
+}
+
+void ViewMemory::copySelection(const QAbstractItemView &from, QAbstractItemView &to,
+                               const ScanDataModel &model)
+{
+    QItemSelection selection;
+    const QItemSelection selected = from.selectionModel()->selection();
+    for (const QItemSelectionRange &range : selected)
+        appendRange(selection, model, range.top(), range.bottom());
+    to.selectionModel()->select(selection, flagsOf(to) | QItemSelectionModel::Clear);
 }

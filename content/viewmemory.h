@@ -6,8 +6,8 @@
 #include <QPointer>
 #include <QVector>
 
+class QAbstractItemView;
 class ScanDataModel;
-class ThumbnailGrid;
 
 /// What a reset of the model takes from a view, kept by record and put back afterwards: selected
 /// rows and the item at the top of the viewport. Rows that kept their numbers are put back as plain
@@ -15,14 +15,19 @@ class ThumbnailGrid;
 class ViewMemory
 {
 public:
-    void capture(const ThumbnailGrid &view, const ScanDataModel &model);
+    /// \a topRow: the first row of which any part is in the viewport; negative: none is.
+    void capture(const QAbstractItemView &view, const ScanDataModel &model, int topRow);
     /// Call when the model has been reset with the same tree, grown or changed.
-    void restore(ThumbnailGrid &view, const ScanDataModel &model);
+    void restore(QAbstractItemView &view, const ScanDataModel &model);
+
+    /// The rows selected in \a from become those selected in \a to.
+    static void copySelection(const QAbstractItemView &from, QAbstractItemView &to,
+                              const ScanDataModel &model);
 
 private:
-    void captureAnchor(const ThumbnailGrid &view, const ScanDataModel &model);
-    void restoreSelection(ThumbnailGrid &view, const ScanDataModel &model) const;
-    void restoreScroll(ThumbnailGrid &view, const ScanDataModel &model) const;
+    void captureAnchor(const QAbstractItemView &view, const ScanDataModel &model, int topRow);
+    void restoreSelection(QAbstractItemView &view, const ScanDataModel &model) const;
+    void restoreScroll(QAbstractItemView &view, const ScanDataModel &model) const;
 
     QVector<QPair<int, int>> m_selectedRanges;
     QVector<QPointer<TreeItemData>> m_selectedItems;

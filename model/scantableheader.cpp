@@ -81,7 +81,7 @@ void ScanTableHeader::setSortType(HeaderViewSortType type)
 
 void ScanTableHeader::resetSort()
 {
-    setSortType(NameAscending);
+    setSortType(NoSort);
 }
 
 void ScanTableHeader::sortBy(int section)

@@ -25,7 +25,7 @@ public:
     HeaderViewSortType sortType() const;
     /// Shows a sort that was chosen elsewhere; emits nothing.
     void setSortType(HeaderViewSortType type);
-    /// By name, ascending; emits nothing.
+    /// No sort is chosen: rows stand as the host hands them over. Emits nothing.
     void resetSort();
 
     /// Beside the detail pane there is no room for the location column.

@@ -208,8 +208,10 @@ void SDCardScanContentPlugin::updateThumbnailWithPath(qint64 id, const QString &
     ScanPluginPreviewManager::instance()->storeThumbnail(id, path, pixmap);
 }
 
-void SDCardScanContentPlugin::setListDelegateFlag(bool)
+void SDCardScanContentPlugin::setListDelegateFlag(bool flag)
 {
+    if (m_scanContent)
+        m_scanContent->setFoldersHavePlaceholder(flag);
 }
 
 void SDCardScanContentPlugin::showLoadingPage(bool show)

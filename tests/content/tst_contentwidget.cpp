@@ -1,8 +1,13 @@
+#include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
 #include "content/thumbnailgrid.h"
+#include "detail/itemdetailview.h"
+#include "model/headerview.h"
 #include "model/scandatamodel.h"
+#include "model/scantableheader.h"
 #include "support/recordtree.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -15,7 +20,11 @@ class TestContentWidget : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { qRegisterMetaType<Qt::CheckState>("Qt::CheckState"); }
+    void initTestCase()
+    {
+        qRegisterMetaType<Qt::CheckState>("Qt::CheckState");
+        qRegisterMetaType<HeaderViewSortType>("HeaderViewSortType");
+    }
     void growthDisturbsNothing_data();
     void growthDisturbsNothing();
     void anotherTreeStartsAtItsFirstItem();
@@ -29,6 +38,12 @@ private slots:
     void doubleClickOpens();
     void bottomAsksForMoreOnlyWhenMoreExists();
     void locateMakesCurrentAndVisible();
+    void listKeepsItsPlaceWhileResultsStreamIn();
+    void selectionMovesBetweenTheViews();
+    void oneSelectAllOneSort();
+    void paneFollowsTheCurrentItem();
+    void pathClickLocates_data();
+    void pathClickLocates();
 
 private:
     static ThumbnailGrid *gridOf(Content &widget) { return widget.findChild<ThumbnailGrid *>(); }
@@ -317,6 +332,147 @@ void TestContentWidget::locateMakesCurrentAndVisible()
     widget.locateFileId(-1);
     widget.locateSecondaryId(77);
     QCOMPARE(gridOf(widget)->currentIndex().row(), 321);
+}
+
+void TestContentWidget::listKeepsItsPlaceWhileResultsStreamIn()
+{
+    RecordTree tree;
+    tree.addFiles(300, QStringLiteral("m%1.jpg"));
+    Content widget(1);
+    show(widget);
+    widget.setViewMode(2);
+    widget.updateData(&tree.root, QString());
+    auto *table = widget.findChild<ScanTableView *>();
+    modelOf(widget)->sort(ScanDataModel::NameColumn, Qt::DescendingOrder);
+    QCoreApplication::processEvents();
+    table->verticalScrollBar()->setValue(2000);
+    const int top = table->visibleRows().first;
+    const TreeItemData *topItem = itemAt(widget, top);
+    const int y = table->rowViewportPosition(top);
+    table->selectRow(top + 3);
+    const QList<TreeItemData *> selected = widget.selectedItems();
+    QCOMPARE(selected.size(), 1);
+
+    for (int i = 0; i < 3; ++i) {
+        tree.addFiles(20, QStringLiteral("z%1.jpg"));
+        widget.updateData(&tree.root, QString());
+    }
+    QCOMPARE(itemAt(widget, top + 60), topItem);
+    QCOMPARE(table->rowViewportPosition(top + 60), y);
+    QCOMPARE(widget.selectedItems(), selected);
+}
+
+void TestContentWidget::selectionMovesBetweenTheViews()
+{
+    RecordTree tree;
+    tree.addFiles(50);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    for (int row : {3, 4, 30})
+        gridOf(widget)->selectionModel()->select(modelOf(widget)->index(row, 0),
+                                                 QItemSelectionModel::Select);
+    const QList<TreeItemData *> selected = widget.selectedItems();
+    widget.setViewMode(1);
+    QCOMPARE(widget.selectedItems(), selected);
+    auto *table = widget.findChild<ScanTableView *>();
+    table->selectRow(7);
+    widget.setViewMode(0);
+    QCOMPARE(widget.selectedItems(), QList<TreeItemData *>{tree.root.childFiles.at(7)});
+    widget.setViewMode(17);
+    QVERIFY(gridOf(widget)->isVisible());
+}
+
+void TestContentWidget::oneSelectAllOneSort()
+{
+    RecordTree tree;
+    tree.addFiles(5);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    auto *bar = widget.findChild<HeaderView *>();
+    auto *header = widget.findChild<ScanTableHeader *>();
+    QSignalSpy checks(&widget, &Content::signalItemDataCheck);
+    QSignalSpy sorts(&widget, &Content::signalSortClicked);
+
+    emit header->signalAllChecked(Qt::Checked);
+    QCOMPARE(bar->checkState(), int(Qt::Checked));
+    QTest::mouseClick(widget.findChild<QPushButton *>(QStringLiteral("allCheckButton")),
+                      Qt::LeftButton);
+    QCOMPARE(header->checkState(), int(Qt::Unchecked));
+    QCOMPARE(checks.count(), 2);
+
+    QTest::mouseClick(bar->findChild<QPushButton *>(QStringLiteral("sizeButton")), Qt::LeftButton);
+    QCOMPARE(header->sortType(), SizeAscending);
+    emit header->signalSortClicked(SizeDescending);
+    QCOMPARE(bar->sortType(), SizeDescending);
+    QCOMPARE(itemAt(widget, 0), tree.root.childFiles.last());
+    QCOMPARE(sorts.count(), 2);
+    QCOMPARE(sorts.last().at(1).value<HeaderViewSortType>(), SizeDescending);
+    widget.reset();
+    QCOMPARE(header->sortType(), NoSort);
+}
+
+void TestContentWidget::paneFollowsTheCurrentItem()
+{
+    RecordTree tree;
+    tree.addFiles(5);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    QSignalSpy metadata(&widget, &Content::signalGetMetaData);
+    widget.setViewMode(1);
+    auto *pane = widget.findChild<ItemDetailView *>();
+    auto *table = widget.findChild<ScanTableView *>();
+    QVERIFY(pane->isVisible());
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Down);
+    const auto *name = pane->findChild<QLabel *>(QStringLiteral("namelabel"));
+    QCOMPARE(name->accessibleName(), tree.root.childFiles.at(1)->name);
+    QTRY_COMPARE(metadata.count(), 1);
+    QCOMPARE(metadata.first().first().value<TreeItemData *>(), tree.root.childFiles.at(1));
+    widget.setViewMode(2);
+    QVERIFY(!pane->isVisible());
+}
+
+void TestContentWidget::pathClickLocates_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("what");
+    QTest::newRow("pane") << 1 << "detail_view"
+                          << "path_jump_icon";
+    QTest::newRow("list") << 2 << "list_view"
+                          << "path_text_link";
+}
+
+void TestContentWidget::pathClickLocates()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, from);
+    QFETCH(QString, what);
+    RecordTree tree;
+    tree.root.rootType = 26;
+    TreeItemData *file = tree.addFile(QStringLiteral("a.jpg"));
+    file->path = QStringLiteral("/DCIM");
+    Content widget(1);
+    widget.resize(1000, 500);
+    widget.setViewMode(mode);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    widget.updateData(&tree.root, QString());
+    QSignalSpy located(&widget, &Content::signalLocateFile);
+    QSignalSpy sensors(&widget, &Content::signalSensorsData);
+    auto *table = widget.findChild<ScanTableView *>();
+    const QRect cell = table->visualRect(modelOf(widget)->index(
+        0, mode == 1 ? ScanDataModel::DateColumn : ScanDataModel::PathColumn));
+    const QPoint pos = mode == 1 ? QPoint(cell.right() - 16, cell.center().y()) : cell.center();
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, pos);
+    QCOMPARE(located.count(), 1);
+    QCOMPARE(located.first().first().value<TreeItemData *>(), file);
+    const QVariantMap map = sensors.value(0).value(1).toMap();
+    QCOMPARE(map.value(QStringLiteral("click_from")).toString(), from);
+    QCOMPARE(map.value(QStringLiteral("click_what")).toString(), what);
 }
 
 QTEST_MAIN(TestContentWidget)

@@ -178,7 +178,7 @@ void TestScanTableHeader::sortsCycle()
     QCOMPARE(table.sorts, QVector<int>({3, 4, 1, 5}));
 
     table.header->resetSort();
-    QCOMPARE(table.header->sortType(), NameAscending);
+    QCOMPARE(table.header->sortType(), NoSort);
     QCOMPARE(table.sorts.size(), 4);
 }
 

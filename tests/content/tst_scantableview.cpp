@@ -1,0 +1,216 @@
+#include "content/scantableview.h"
+#include "support/recordtree.h"
+
+#include "model/scandatamodel.h"
+
+#include <QHeaderView>
+#include <QRubberBand>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+constexpr int RowHeight = 40;
+
+/// Counts what is repainted.
+class PaintSpy : public QObject
+{
+public:
+    explicit PaintSpy(QWidget *widget)
+        : m_widget(widget)
+    {
+        widget->installEventFilter(this);
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == m_widget && event->type() == QEvent::Paint)
+            area += static_cast<QPaintEvent *>(event)->region().boundingRect().height();
+        return false;
+    }
+    int area = 0;
+
+private:
+    QWidget *m_widget;
+};
+
+} // namespace
+
+class TestScanTableView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_table.reset(); }
+    void bandNeedsFivePixels_data();
+    void bandNeedsFivePixels();
+    void bandSelectsWhatAPlainWalkWould_data();
+    void bandSelectsWhatAPlainWalkWould();
+    void bandAddsToTheSelection();
+    void hoverRepaintsTheRowsConcerned();
+    void leavingClearsTheHoverCellOnce();
+    void deadRowsInABand();
+
+private:
+    QPoint at(int row, int y, int x = 20) const
+    {
+        return {x, m_table->rowViewportPosition(row) + y};
+    }
+    void drag(const QPoint &from, const QPoint &to);
+    QVector<int> selectedRows() const;
+
+    RecordTree m_tree;
+    ScanDataModel m_model;
+    QScopedPointer<ScanTableView> m_table;
+};
+
+void TestScanTableView::init()
+{
+    m_tree.clear();
+    m_tree.addFiles(60);
+    m_model.openFolder(&m_tree.root);
+    m_table.reset(new ScanTableView);
+    m_table->setModel(&m_model);
+    m_table->setRowHeight(RowHeight);
+    m_table->resize(700, 500);
+    m_table->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_table.data()));
+}
+
+void TestScanTableView::drag(const QPoint &from, const QPoint &to)
+{
+    QWidget *viewport = m_table->viewport();
+    QTest::mousePress(viewport, Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(viewport, &move);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
+}
+
+QVector<int> TestScanTableView::selectedRows() const
+{
+    QVector<int> rows;
+    for (const QModelIndex &index : m_table->selectionModel()->selectedRows())
+        rows.append(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void TestScanTableView::bandNeedsFivePixels_data()
+{
+    QTest::addColumn<QPoint>("delta");
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("four down") << QPoint(0, 4) << false;
+    QTest::newRow("five down") << QPoint(0, 5) << true;
+    QTest::newRow("two and two") << QPoint(2, -2) << false;
+    QTest::newRow("three and two") << QPoint(-3, 2) << true;
+}
+
+void TestScanTableView::bandNeedsFivePixels()
+{
+    QFETCH(QPoint, delta);
+    QFETCH(bool, shown);
+    QWidget *viewport = m_table->viewport();
+    const QPoint from = at(2, 20);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, from + delta, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(viewport, &move);
+    QCOMPARE(viewport->findChild<QRubberBand *>()->isVisible(), shown);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, from + delta);
+    QVERIFY(!viewport->findChild<QRubberBand *>()->isVisible());
+}
+
+void TestScanTableView::bandSelectsWhatAPlainWalkWould_data()
+{
+    QTest::addColumn<QPoint>("from");
+    QTest::addColumn<QPoint>("to");
+    QTest::addColumn<int>("scroll");
+    QTest::newRow("inside one row") << QPoint(10, 5) << QPoint(60, 30) << 0;
+    QTest::newRow("touches by one pixel") << QPoint(10, 39) << QPoint(60, 81) << 0;
+    QTest::newRow("upwards, scrolled") << QPoint(60, 300) << QPoint(10, 7) << 333;
+    QTest::newRow("into the first column") << QPoint(400, 10) << QPoint(50, 200) << 0;
+    QTest::newRow("beyond the upper edge") << QPoint(30, 100) << QPoint(50, -500) << 120;
+    QTest::newRow("beyond the lower edge") << QPoint(30, 300) << QPoint(50, 9000) << 0;
+}
+
+void TestScanTableView::bandSelectsWhatAPlainWalkWould()
+{
+    QFETCH(QPoint, from);
+    QFETCH(QPoint, to);
+    QFETCH(int, scroll);
+    m_table->setColumnWidth(0, 220);
+    m_table->verticalScrollBar()->setValue(scroll);
+    const QRect band = QRect(from, to).normalized();
+    QVector<int> expected;
+    const int pressed = m_table->rowAt(from.y());
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        if (m_table->visualRect(m_model.index(row, 0)).intersects(band) || row == pressed)
+            expected.append(row);
+    }
+    // The stock view's own drag selection would add rows of its own: what counts is the release.
+    QTest::mousePress(m_table->viewport(), Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_table->viewport(), &move);
+    m_table->verticalScrollBar()->setValue(scroll);
+    m_table->clearSelection();
+    m_table->selectRow(pressed);
+    m_table->verticalScrollBar()->setValue(scroll);
+    QTest::mouseRelease(m_table->viewport(), Qt::LeftButton, {}, to);
+    QCOMPARE(selectedRows(), expected);
+}
+
+void TestScanTableView::bandAddsToTheSelection()
+{
+    QWidget *viewport = m_table->viewport();
+    QTest::mousePress(viewport, Qt::LeftButton, {}, at(1, 5));
+    QMouseEvent move(QEvent::MouseMove, at(2, 5), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(viewport, &move);
+    m_table->selectionModel()->select(m_model.index(9, 0),
+                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, at(2, 5));
+    QVERIFY(selectedRows().contains(9));
+    QVERIFY(selectedRows().contains(2));
+}
+
+void TestScanTableView::hoverRepaintsTheRowsConcerned()
+{
+    QCoreApplication::processEvents();
+    PaintSpy spy(m_table->viewport());
+    for (int row = 0; row < 8; ++row) {
+        QTest::mouseMove(m_table->viewport(), at(row, 10));
+        QTest::mouseMove(m_table->viewport(), at(row, 12));
+        QCoreApplication::processEvents();
+        QCOMPARE(m_table->hoverRow(), row);
+    }
+    QVERIFY2(spy.area <= 8 * 4 * RowHeight, qPrintable(QString::number(spy.area)));
+}
+
+void TestScanTableView::leavingClearsTheHoverCellOnce()
+{
+    QTest::mouseMove(m_table->viewport(), at(3, 10));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_table->hoverColumn(), 0);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(m_table.data(), &leave);
+    QCOMPARE(m_table->hoverRow(), -1);
+    QCoreApplication::processEvents();
+    PaintSpy spy(m_table->viewport());
+    QCoreApplication::sendEvent(m_table.data(), &leave);
+    QCoreApplication::processEvents();
+    QCOMPARE(spy.area, 0);
+}
+
+void TestScanTableView::deadRowsInABand()
+{
+    const QList<TreeItemData *> files = m_tree.root.childFiles;
+    for (int row : {1, 2, 5})
+        m_tree.kill(files.at(row));
+    drag(at(1, 5), at(6, 30));
+    const QVector<int> rows = selectedRows();
+    QVERIFY(rows.contains(3) && rows.contains(4) && rows.contains(6));
+    m_table->grab();
+}
+
+QTEST_MAIN(TestScanTableView)
+#include "tst_scantableview.moc"
