@@ -97,13 +97,18 @@ void ListDelegate::retranslate() const
     m_rowTexts.setDirty();
 }
 
-void ListDelegate::setTableView(ScanTableView *view)
+void ListDelegate::setTableView(ScanTableView *newView)
 {
-    if (m_view)
-        m_view->viewport()->removeEventFilter(this);
-    m_view = view;
-    if (view)
-        view->viewport()->installEventFilter(this);
+    if (const ScanTableView *before = view())
+        before->viewport()->removeEventFilter(this);
+    m_view = newView;
+    if (newView)
+        newView->viewport()->installEventFilter(this);
+}
+
+ScanTableView *ListDelegate::view() const
+{
+    return qobject_cast<ScanTableView *>(m_view.data());
 }
 
 void ListDelegate::setSearchKeyword(const QString &keyword)
@@ -120,12 +125,14 @@ QSize ListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInd
 
 bool ListDelegate::isSorted(int column) const
 {
-    return m_view && m_view->horizontalHeader()->sortIndicatorSection() == column;
+    const ScanTableView *table = view();
+    return table && table->horizontalHeader()->sortIndicatorSection() == column;
 }
 
 int ListDelegate::viewportWidth(const QStyleOptionViewItem &option) const
 {
-    return m_view ? m_view->viewport()->width() : option.rect.right() + 1;
+    const ScanTableView *table = view();
+    return table ? table->viewport()->width() : option.rect.right() + 1;
 }
 
 void ListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -141,9 +148,10 @@ void ListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     if (m_fontFamily != FontManager::instance()->family())
         retranslate();
 
+    const ScanTableView *table = view();
     const int column = index.column();
     const Cell cell{RowLayout(option.rect, column, option.direction), index, *item,
-                    isSorted(column), m_view && m_view->hoverRow() == index.row()};
+                    isSorted(column), table && table->hoverRow() == index.row()};
     const DeviceGrid grid(painter);
     {
         const PainterState state(painter);
@@ -248,7 +256,7 @@ void ListDelegate::drawLocation(QPainter *painter, const Cell &cell) const
     const QString shown = asPath(texts.elided(text, cell.layout.textWidth, Qt::ElideMiddle),
                                  cell.layout.direction);
     const bool link = m_pathColumnsActive && cell.rowHovered
-        && m_view->hoverColumn() == ScanDataModel::PathColumn && LocationText::isKnown(text);
+        && view()->hoverColumn() == ScanDataModel::PathColumn && LocationText::isKnown(text);
     if (!link) {
         painter->setPen(m_colors.secondaryText);
         texts.draw(painter, cell.layout.text, shown);

@@ -37,7 +37,7 @@ public:
     ~ListDelegate() override;
 
     /// Not owned; may be destroyed at any time.
-    void setTableView(ScanTableView *view);
+    void setTableView(ScanTableView *newView);
     /// A regular expression; empty: names are plain.
     void setSearchKeyword(const QString &keyword);
     /// Folders may be checked whatever they hold, and show their own state, not their parent's.
@@ -100,6 +100,8 @@ private:
                          const TreeItemData &item) const;
     bool showsLocationImage(const TreeItemData &item) const;
 
+    /// Null also for a view that is in its destructor and still sends events.
+    ScanTableView *view() const;
     bool isSorted(int column) const;
     bool isFirstColumnShown() const;
     int viewportWidth(const QStyleOptionViewItem &option) const;
@@ -116,7 +118,7 @@ private:
 
     QPersistentModelIndex m_pressed;
     QPersistentModelIndex m_hoveredImage;
-    QPointer<ScanTableView> m_view;
+    QPointer<QWidget> m_view;
     RowBackground m_background;
     RowPictures m_pictures;
     RowColors m_colors;

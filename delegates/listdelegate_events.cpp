@@ -20,7 +20,8 @@ bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
             retranslate();
         return false;
     }
-    if (!m_view || watched != m_view->viewport())
+    const ScanTableView *table = view();
+    if (!table || watched != table->viewport())
         return QStyledItemDelegate::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Paint:
@@ -28,7 +29,7 @@ bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::MouseMove:
         // between and below the rows no cell gets to see the mouse
-        if (!m_view->indexAt(static_cast<QMouseEvent *>(event)->pos()).isValid())
+        if (!table->indexAt(static_cast<QMouseEvent *>(event)->pos()).isValid())
             hoverNothing();
         break;
     case QEvent::Leave:
@@ -42,9 +43,10 @@ bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
 
 bool ListDelegate::isFirstColumnShown() const
 {
-    const int left = m_view->columnViewportPosition(ScanDataModel::NameColumn);
-    const int width = m_view->columnWidth(ScanDataModel::NameColumn);
-    return width > 0 && left < m_view->viewport()->width() && left + width > 0;
+    const ScanTableView *table = view();
+    const int left = table->columnViewportPosition(ScanDataModel::NameColumn);
+    const int width = table->columnWidth(ScanDataModel::NameColumn);
+    return width > 0 && left < table->viewport()->width() && left + width > 0;
 }
 
 bool ListDelegate::leadsToLocation(const RowLayout &layout, const QPoint &pos,
@@ -162,16 +164,17 @@ void ListDelegate::setHoveredImage(const QModelIndex &index)
         return;
     const QModelIndex before = m_hoveredImage;
     m_hoveredImage = index;
-    if (!m_view)
-        return;
-    m_view->update(before);
-    m_view->update(index);
+    if (ScanTableView *table = view()) {
+        table->update(before);
+        table->update(index);
+    }
 }
 
 void ListDelegate::setCursor(Qt::CursorShape shape)
 {
-    if (m_view && m_view->viewport()->cursor().shape() != shape)
-        m_view->viewport()->setCursor(shape);
+    const ScanTableView *table = view();
+    if (table && table->viewport()->cursor().shape() != shape)
+        table->viewport()->setCursor(shape);
 }
 
 void ListDelegate::showTooltip(const QModelIndex &index, const QString &text)
