@@ -1,6 +1,8 @@
 #include "plugin/sdcardscancontentplugin.h"
 
+#include "common/fontmanager.h"
 #include "common/thememanager.h"
+#include "common/zvlangmanager.h"
 #include "platform/system/system.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
@@ -19,6 +21,9 @@ bool s_used = false; // the process-wide objects have been made
 QFrame *makeFrame(const char *name, int side, QPointer<SDCardContentDataWidget> *content)
 {
     s_used = true;
+    // From now on a host finds them and can set the language.
+    FontManager::instance();
+    ZVLangManager::instance();
     auto *frame = new QFrame;
     frame->setObjectName(QLatin1String(name));
     auto *layout = new QVBoxLayout(frame);

@@ -125,6 +125,9 @@ void TestPlugin::framesAreMadeOnceAndOnDemand()
     QCOMPARE(search->objectName(), QStringLiteral("sdcardScanSearchResultInnerFrame"));
     QVERIFY(search != scan);
     QVERIFY(!scan->parent());
+    // A host that shares no code with us reaches these by name.
+    for (const char *name : {"FontManager", "ZVLangManager", "ThemeManager"})
+        QVERIFY2(qApp->property(name).value<void *>(), name);
 }
 
 void TestPlugin::everyOperationSurvivesAnyOrder()
