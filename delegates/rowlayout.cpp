@@ -68,6 +68,7 @@ RowLayout::RowLayout(const QRect &cellRect, int columnIndex, Qt::LayoutDirection
         break;
     case ScanDataModel::DateColumn:
         text = mirrored(cell.adjusted(TextInset, 0, -LocationImageStrip, 0));
+        textWidth = text.width(); // in a narrow window the image would cut a digit in two
         locationImage = mirrored(leftCentred(cell,
                                              cell.right() + 1 - LocationImageStrip
                                                  + (LocationImageStrip - LocationImageSide) / 2,
