@@ -6,6 +6,7 @@
 #include "content/checktoggle.h"
 #include "content/contentpages.h"
 #include "content/currentitem.h"
+#include "content/gridmode.h"
 #include "content/listmode.h"
 #include "content/loadmoretrigger.h"
 #include "content/overlayscrollbar.h"
@@ -13,7 +14,6 @@
 #include "content/scantableview.h"
 #include "content/thumbnailrequests.h"
 #include "delegates/delegateitem.h"
-#include "delegates/icondelegate.h"
 #include "delegates/listdelegate.h"
 #include "detail/itemdetailview.h"
 #include "model/scandatamodel.h"
@@ -30,10 +30,7 @@ using PageChoice::Page;
 namespace {
 
 constexpr int SearchSide = 2;
-constexpr int GridMode = 0;
-constexpr int ListWithDetailMode = 1;
-constexpr int ListOnlyMode = 2;
-constexpr int CardSpacing = 8;
+enum ViewMode { GridOnly = 0, ListWithPane = 1, ListOnly = 2 };
 
 enum ScanState { Started = 1, Finished = 4, AnimationStopped = 5 };
 
@@ -74,20 +71,9 @@ SDCardContentDataWidget::~SDCardContentDataWidget() = default;
 
 void SDCardContentDataWidget::createViews()
 {
-    m_gridDelegate = new IconDelegate(this);
     m_model = new ScanDataModel(this);
     m_thumbnails = new ThumbnailRequests(this);
-
-    ui->listView->setModel(m_model);
-    ui->listView->setViewMode(QListView::IconMode);
-    ui->listView->setFlow(QListView::LeftToRight);
-    ui->listView->setResizeMode(QListView::Adjust);
-    ui->listView->setUniformItemSizes(true);
-    ui->listView->setSpacing(CardSpacing);
-    ui->listView->setReservedWidth(OverlayScrollBar::RoomInView);
-    ui->listView->setCardsStretched(true);
-    ui->listView->setItemDelegate(m_gridDelegate);
-
+    m_grid = new GridMode(ui->listView, m_model, this);
     m_list = new ListMode(m_model, ui->frame_4);
     m_list->table()->installEventFilter(this);
     ui->horizontalLayout_4->insertWidget(1, m_list->table(), 1);
@@ -111,15 +97,12 @@ void SDCardContentDataWidget::connectViews()
     connect(ui->iconModeHederView, &HeaderView::signalSortClicked, this,
             &SDCardContentDataWidget::applySort);
     connect(m_pages, &ContentPages::shown, m_overlay, &OverlayScrollBar::sync);
-    connect(m_current, &CurrentItem::saved, this, [this](const QModelIndex &index) {
-        m_gridDelegate->setPressedIndex(index.sibling(index.row(), 0));
-    });
+    connect(m_current, &CurrentItem::saved, m_grid, &GridMode::setCurrentIndex);
     connect(m_current, &CurrentItem::changed, this, [this](TreeItemData *item) {
         m_list->setCurrentItem(item);
         emit signalCurrentItemChanged(item);
     });
-    connectGrid();
-    connectList();
+    connectModes();
 
     auto *gridBottom = new LoadMoreTrigger(
         ui->listView, "[ScrollDiag][listView] trigger signalQueryMoreData", this);
@@ -139,35 +122,14 @@ void SDCardContentDataWidget::connectViews()
     });
 }
 
-void SDCardContentDataWidget::connectGrid()
+void SDCardContentDataWidget::connectModes()
 {
-    connect(ui->listView, &QListView::pressed, this, &SDCardContentDataWidget::onPressed);
-    connect(ui->listView, &ThumbnailGrid::signalMutilSelectEvent, this,
-            &SDCardContentDataWidget::onMultiSelectEvent);
-    connect(ui->listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &SDCardContentDataWidget::onSelectionChanged);
-
-    connect(m_gridDelegate, &IconDelegate::signalCheckStateChange, this,
-            &SDCardContentDataWidget::onCheckChanged);
-    connect(m_gridDelegate, &IconDelegate::signalClickListViewItem, this,
-            [this](const QModelIndex &index) {
-                openItem(m_model->itemAt(index), QStringLiteral("preview_btn"));
-            });
-    connect(m_gridDelegate, &IconDelegate::signalClickDouble, this,
-            [this](const QModelIndex &index) {
-                openItem(m_model->itemAt(index), QStringLiteral("double_click"));
-            });
-    connect(m_gridDelegate, &IconDelegate::signalSetCursor, this,
-            [this](const QCursor &cursor) { ui->listView->viewport()->setCursor(cursor); });
-    // The press reaches the delegate before the view has changed its selection.
-    connect(m_gridDelegate, &IconDelegate::signalMutilSelectEvent, this,
-            &SDCardContentDataWidget::onMultiSelectEvent, Qt::QueuedConnection);
-    connect(m_gridDelegate, &IconDelegate::signalShowTooltip, this,
+    connect(m_grid, &GridMode::pressed, m_current, &CurrentItem::save);
+    connect(m_grid, &GridMode::checkChanged, this, &SDCardContentDataWidget::onCheckChanged);
+    connect(m_grid, &GridMode::openRequested, this, &SDCardContentDataWidget::openItem);
+    connect(m_grid, &GridMode::tooltipWanted, this,
             &SDCardContentDataWidget::signalScanViewShowTooltip);
-}
 
-void SDCardContentDataWidget::connectList()
-{
     connect(m_list, &ListMode::allChecked, this, &SDCardContentDataWidget::checkAll);
     connect(m_list, &ListMode::sortClicked, this, &SDCardContentDataWidget::applySort);
     connect(m_list, &ListMode::checkChanged, this, &SDCardContentDataWidget::onCheckChanged);
@@ -180,8 +142,7 @@ void SDCardContentDataWidget::connectList()
 
 void SDCardContentDataWidget::connectThumbnails()
 {
-    connect(m_gridDelegate, &IconDelegate::signalGetThumItem, m_thumbnails,
-            &ThumbnailRequests::request);
+    connect(m_grid, &GridMode::thumbnailMissing, m_thumbnails, &ThumbnailRequests::request);
     connect(m_list, &ListMode::thumbnailMissing, m_thumbnails, &ThumbnailRequests::request);
     connect(m_thumbnails, &ThumbnailRequests::wanted, this,
             &SDCardContentDataWidget::signalGetThumPixmap);
@@ -259,13 +220,13 @@ void SDCardContentDataWidget::setViewMode(int mode)
 {
     if (mode == m_viewMode)
         return;
-    if (mode < GridMode || mode > ListOnlyMode) {
+    if (mode < GridOnly || mode > ListOnly) {
         qDebug() << "SDCardContentDataWidget setViewMode unknown mode" << mode;
         return;
     }
     guarded(Q_FUNC_INFO, [this, mode] {
-        const bool grid = mode == GridMode;
-        const bool pane = mode == ListWithDetailMode;
+        const bool grid = mode == GridOnly;
+        const bool pane = mode == ListWithPane;
         QAbstractItemView *before = viewInUse();
         m_viewMode = mode;
         ui->headerViewFrame->setVisible(grid);
@@ -277,7 +238,7 @@ void SDCardContentDataWidget::setViewMode(int mode)
         m_list->setPaneShown(pane);
         m_list->fitColumns();
         if (before != viewInUse()) {
-            m_gridDelegate->clearMarkedIndexes();
+            m_grid->forgetMultiSelection();
             ViewMemory::copySelection(*before, *viewInUse(), *m_model);
             viewInUse()->scrollTo(m_current->index());
         }
@@ -290,8 +251,8 @@ void SDCardContentDataWidget::showHeaders()
 {
     // The table brings its own header: the container for one stays empty.
     const bool rows = m_model->rowCount() > 0;
-    ui->iconModeHederView->setVisible(rows && m_viewMode == GridMode);
-    ui->listModeHeaderView->setVisible(rows && m_viewMode != GridMode);
+    ui->iconModeHederView->setVisible(rows && m_viewMode == GridOnly);
+    ui->listModeHeaderView->setVisible(rows && m_viewMode != GridOnly);
 }
 
 void SDCardContentDataWidget::repaintViews()
@@ -302,7 +263,7 @@ void SDCardContentDataWidget::repaintViews()
 
 QAbstractItemView *SDCardContentDataWidget::viewInUse() const
 {
-    if (m_viewMode == GridMode)
+    if (m_viewMode == GridOnly)
         return ui->listView;
     return m_list->table();
 }
@@ -312,11 +273,11 @@ void SDCardContentDataWidget::setScanState(int state)
     guarded(Q_FUNC_INFO, [this, state] {
         switch (state) {
         case Started:
-            setViewMode(GridMode);
+            setViewMode(GridOnly);
             m_pages->show(Page::Scanning);
             ui->animationframe->show();
             m_scanFinished = false;
-            m_gridDelegate->setAssessmentFinished(false);
+            m_grid->setAssessmentFinished(false);
             m_list->setAssessmentFinished(false);
             m_pages->applyFonts();
             break;
@@ -326,7 +287,7 @@ void SDCardContentDataWidget::setScanState(int state)
             const Page page = PageChoice::forFinishedScan(situation(), m_pages->current());
             if (page != m_pages->current())
                 m_pages->show(page);
-            m_gridDelegate->setAssessmentFinished(true);
+            m_grid->setAssessmentFinished(true);
             m_list->setAssessmentFinished(true);
             break;
         }
@@ -344,7 +305,7 @@ void SDCardContentDataWidget::setScanFinished(bool finished)
     if (finished == m_scanFinished)
         return;
     m_scanFinished = finished;
-    m_gridDelegate->setAssessmentFinished(finished);
+    m_grid->setAssessmentFinished(finished);
     m_list->setAssessmentFinished(finished);
     repaintViews();
 }
@@ -369,7 +330,7 @@ void SDCardContentDataWidget::updateData(TreeItemData *root, const QString &keyw
     guarded(Q_FUNC_INFO, [&] {
         qDebug() << "SDCardContentDataWidget updateData itemCount = "
                  << root->childFolders.size() + root->childFiles.size();
-        m_gridDelegate->setSearchKeyword(keyword);
+        m_grid->setSearchKeyword(keyword);
         m_list->setSearchKeyword(keyword);
         m_root = root;
         // A link leads somewhere only where items come from many places.
@@ -393,7 +354,7 @@ void SDCardContentDataWidget::updateData(TreeItemData *root, const QString &keyw
 void SDCardContentDataWidget::giveToModel(TreeItemData *root)
 {
     const bool sameTree = m_current->belongsTo(*root) && m_model->rowCount() > 0;
-    const bool grid = m_viewMode == GridMode;
+    const bool grid = m_viewMode == GridOnly;
     // Only the view in use: the other takes its selection over when it is shown.
     ViewMemory &memory = grid ? m_gridMemory : m_tableMemory;
     if (sameTree)
@@ -411,7 +372,7 @@ void SDCardContentDataWidget::reset()
 {
     guarded(Q_FUNC_INFO, [this] {
         m_scanFinished = false;
-        m_gridDelegate->setAssessmentFinished(false);
+        m_grid->setAssessmentFinished(false);
         m_list->setAssessmentFinished(false);
         m_thumbnails->clear();
         m_model->clear();
@@ -450,18 +411,12 @@ void SDCardContentDataWidget::locate(int row)
 
 QList<TreeItemData *> SDCardContentDataWidget::selectedItems() const
 {
-    QModelIndexList indexes;
-    if (m_viewMode != GridMode) {
-        indexes = m_list->table()->selectionModel()->selectedRows();
-    } else {
-        indexes = ui->listView->selectionModel()->selectedIndexes();
-        const QModelIndexList marked = m_gridDelegate->markedIndexes();
-        if (indexes.size() <= 1 && marked.size() > indexes.size())
-            indexes = marked;
-    }
+    const QModelIndexList indexes = m_viewMode == GridOnly
+        ? m_grid->selectedIndexes()
+        : m_list->table()->selectionModel()->selectedRows();
     QList<TreeItemData *> items;
     items.reserve(indexes.size());
-    for (const QModelIndex &index : qAsConst(indexes)) {
+    for (const QModelIndex &index : indexes) {
         if (TreeItemData *item = m_model->itemAt(index))
             items.append(item);
     }
@@ -520,7 +475,7 @@ void SDCardContentDataWidget::onCheckChanged(const QModelIndex &index, Qt::Check
 void SDCardContentDataWidget::toggleSelectedChecks()
 {
     const QItemSelectionModel *selection = viewInUse()->selectionModel();
-    QModelIndexList indexes = m_viewMode == GridMode ? selection->selectedIndexes()
+    QModelIndexList indexes = m_viewMode == GridOnly ? selection->selectedIndexes()
                                                      : selection->selectedRows();
     if (indexes.isEmpty() && m_current->index().isValid())
         indexes = {m_current->index()};
@@ -533,36 +488,9 @@ void SDCardContentDataWidget::toggleSelectedChecks()
 
 // What the user does ---------------------------------------------------------------------------
 
-void SDCardContentDataWidget::onPressed(const QModelIndex &index)
-{
-    if (!index.isValid()) {
-        qDebug() << "listview pressed index is not valid";
-        return;
-    }
-    ui->listView->viewport()->update();
-    m_current->save(index);
-}
-
-void SDCardContentDataWidget::onSelectionChanged(const QItemSelection &selected)
-{
-    const QModelIndexList indexes = ui->listView->selectionModel()->selectedIndexes();
-    if (indexes.size() > 1) {
-        m_gridDelegate->setMarkedIndexes(indexes);
-        qDebug() << "selectionChanged:" << indexes.size();
-    }
-    qDebug() << "selected.indexes() :" << selected.indexes().size();
-}
-
-void SDCardContentDataWidget::onMultiSelectEvent()
-{
-    const QModelIndexList indexes = ui->listView->selectionModel()->selectedIndexes();
-    m_gridDelegate->setMarkedIndexes(indexes);
-    qDebug() << "signalMutilSelectEvent:" << indexes.size();
-}
-
 void SDCardContentDataWidget::onThumbnailArrived(qint64 fileId)
 {
-    ui->listView->repaintMatching(FileIdRole, fileId);
+    m_grid->showThumbnail(fileId);
     m_list->showThumbnail(fileId);
 }
 
@@ -586,7 +514,7 @@ void SDCardContentDataWidget::goToLocation(TreeItemData *item)
 {
     if (!item)
         return;
-    const bool pane = m_viewMode == ListWithDetailMode;
+    const bool pane = m_viewMode == ListWithPane;
     emit signalLocateFile(item);
     emit signalSensorsData(
         QStringLiteral("go_to_file_path_click"),

@@ -6,7 +6,6 @@
 #include "model/headerviewsorttype.h"
 #include "platform/item/treeitemdata.h"
 
-#include <QItemSelection>
 #include <QPointer>
 #include <QVariantMap>
 #include <QWidget>
@@ -16,7 +15,7 @@
 class CheckAll;
 class ContentPages;
 class CurrentItem;
-class IconDelegate;
+class GridMode;
 class ListMode;
 class OverlayScrollBar;
 class ScanDataModel;
@@ -94,8 +93,7 @@ protected:
 private:
     void createViews();
     void connectViews();
-    void connectGrid();
-    void connectList();
+    void connectModes();
     void connectThumbnails();
     void loadStyleSheet();
 
@@ -106,9 +104,6 @@ private:
     void giveToModel(TreeItemData *root);
     void locate(int row);
 
-    void onPressed(const QModelIndex &index);
-    void onSelectionChanged(const QItemSelection &selected);
-    void onMultiSelectEvent();
     void onCheckChanged(const QModelIndex &index, Qt::CheckState state);
     void onThumbnailArrived(qint64 fileId);
     void openItem(TreeItemData *item, const QString &source);
@@ -121,7 +116,7 @@ private:
 
     std::unique_ptr<Ui::SDCardContentDataWidgetClass> ui;
     ScanDataModel *m_model = nullptr;
-    IconDelegate *m_gridDelegate = nullptr;
+    GridMode *m_grid = nullptr;
     ListMode *m_list = nullptr;
     OverlayScrollBar *m_overlay = nullptr;
     ContentPages *m_pages = nullptr;
