@@ -24,6 +24,17 @@ TSK_DADDR_T firstCluster(const TSK_FS_FILE *file)
     return file->fs_info->ftype == TSK_FS_TYPE_EXFAT ? cluster : cluster & ClusterMask;
 }
 
+QString nameOf(TSK_FS_INFO *fs, TSK_INUM_T address)
+{
+    QString name = FatEntries(fs).longName(address);
+    TSK_FS_FILE *file = name.isEmpty() ? tsk_fs_file_open_meta(fs, nullptr, address) : nullptr;
+    if (file && file->meta && file->meta->name2)
+        name = QString::fromUtf8(file->meta->name2->name);
+    if (file)
+        tsk_fs_file_close(file);
+    return name;
+}
+
 } // namespace
 
 qint64 ClusterClaims::createdAt(const TSK_FS_META *meta)
@@ -59,14 +70,14 @@ void ClusterClaims::add(const TSK_FS_FILE *file, bool deleted, bool named)
 bool ClusterClaims::belongTo(TSK_FS_FILE *file, const TSK_FS_ATTR *contents, QString *error)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
+    // First what is certain: behind a part that was overwritten, the free clusters that make up for
+    // its length often are those of the next deleted file.
+    if (!isWrittenAround(file, contents, error))
+        return false;
     if (!isOnlyClaim(file, contents)) {
         *error = tr(
             "Another deleted file was in the same place; which of the two is still there is "
             "not known.");
-        return false;
-    }
-    if (!isWrittenAround(file, contents)) {
-        *error = tr("A part of the contents has been overwritten by another file.");
         return false;
     }
     return true;
@@ -101,8 +112,9 @@ bool ClusterClaims::isOnlyClaim(TSK_FS_FILE *file, const TSK_FS_ATTR *contents)
     return true;
 }
 
-bool ClusterClaims::isWrittenAround(TSK_FS_FILE *file, const TSK_FS_ATTR *contents)
+bool ClusterClaims::isWrittenAround(TSK_FS_FILE *file, const TSK_FS_ATTR *contents, QString *error)
 {
+    const QString overwritten = tr("A part of the contents has been overwritten by another file.");
     const qint64 created = createdAt(file->meta);
     for (const TSK_FS_ATTR_RUN *run = contents->nrd.run; run && run->next; run = run->next) {
         TSK_DADDR_T sector = run->addr + run->len;
@@ -113,11 +125,18 @@ bool ClusterClaims::isWrittenAround(TSK_FS_FILE *file, const TSK_FS_ATTR *conten
             auto owner = std::upper_bound(
                 m_owners.cbegin(), m_owners.cend(), sector,
                 [](TSK_DADDR_T place, const Owner &each) { return place < each.first; });
-            if (owner == m_owners.cbegin())
-                return false; // in use by nobody that we know
-            --owner;
-            if (sector >= owner->end || owner->created > created)
+            if (owner == m_owners.cbegin() || sector >= (--owner)->end) {
+                *error = overwritten; // in use by nobody that we know
                 return false;
+            }
+            if (owner->created > created) {
+                const QString name = nameOf(file->fs_info, owner->address);
+                *error = name.isEmpty()
+                    ? overwritten
+                    : tr("A part of the contents has been overwritten by the newer file %1.")
+                          .arg(name);
+                return false;
+            }
             sector = owner->end;
         }
     }
@@ -132,7 +151,7 @@ void ClusterClaims::findOwners(TSK_FS_INFO *fs)
         const TSK_FS_ATTR *contents = file ? tsk_fs_file_attr_get(file) : nullptr;
         for (const TSK_FS_ATTR_RUN *run = contents ? contents->nrd.run : nullptr; run;
              run = run->next)
-            m_owners.push_back({run->addr, run->addr + run->len, live.created});
+            m_owners.push_back({run->addr, run->addr + run->len, live.created, live.address});
         if (file)
             tsk_fs_file_close(file);
     }

@@ -44,6 +44,7 @@ private:
         TSK_DADDR_T first; // sector
         TSK_DADDR_T end;   // sector after the last
         qint64 created;
+        TSK_INUM_T address;
     };
     struct Live
     {
@@ -53,7 +54,7 @@ private:
 
     static qint64 createdAt(const TSK_FS_META *meta);
     bool isOnlyClaim(TSK_FS_FILE *file, const TSK_FS_ATTR *contents);
-    bool isWrittenAround(TSK_FS_FILE *file, const TSK_FS_ATTR *contents);
+    bool isWrittenAround(TSK_FS_FILE *file, const TSK_FS_ATTR *contents, QString *error);
     void findOwners(TSK_FS_INFO *fs);
 
     std::mutex m_mutex; // guards what follows

@@ -345,6 +345,7 @@ void TestScanImage::writtenAroundAnotherFile()
     NEEDS_FAT();
     CardBuilder card(file(QStringLiteral("card.img")), 2 * MiB);
     card.formatFat(12);
+    card.makeFolder(QStringLiteral("KEEP"));
     card.put(QStringLiteral("HOLE.BIN"), noise(100000, 1));
     card.put(QStringLiteral("MIDDLE.BIN"), noise(100000, 2));
     card.remove(QStringLiteral("HOLE.BIN"));
@@ -357,10 +358,15 @@ void TestScanImage::writtenAroundAnotherFile()
         const Scan scan(card.path());
         QCOMPARE(scan.contents(scan.at(around, true)), noise(300000, 3));
     }
-    // Were the file in the middle the younger one, it would have overwritten a part.
+    // Were the file in the middle the younger one, it would have overwritten a part. That is what
+    // to say even where another deleted file has been in the same place too.
     setCreated(card, "MIDDLE  BIN", 10);
+    card.put(QStringLiteral("KEEP/OTHER.BIN"), noise(20000, 4));
+    setCreated(card, "OTHER   BIN", 12);
+    card.remove(QStringLiteral("KEEP/OTHER.BIN"));
     const Scan scan(card.path());
-    QVERIFY(scan.contents(scan.at(around, true)).startsWith('!'));
+    const QByteArray reason = scan.contents(scan.at(around, true));
+    QVERIFY2(reason.startsWith('!') && reason.contains("MIDDLE.BIN"), reason.constData());
 }
 
 void TestScanImage::twoDeletedInOnePlace_data()
