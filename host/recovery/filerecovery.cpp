@@ -5,7 +5,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QStorageInfo>
 
 #include <chrono>
 #include <filesystem>
@@ -108,10 +107,13 @@ RecoveryReport FileRecovery::recover(const QVector<FoundItem> &items)
 
 bool FileRecovery::isPointless(qint64 size, QString *reason)
 {
-    const QStorageInfo storage(m_tree.root());
-    if (!storage.isValid() || storage.bytesTotal() <= 0)
+    // Not QStorageInfo: it knows only what the list of mounts names, which a sandbox may hide.
+    std::error_code unknown;
+    const std::filesystem::space_info space = std::filesystem::space(
+        std::filesystem::u8path(m_tree.root().toStdString()), unknown);
+    if (unknown || space.capacity == 0)
         return false;
-    const qint64 room = storage.bytesAvailable();
+    const qint64 room = qint64(space.available);
     if (room >= size + FullBelow)
         return false;
     const QString folder = QDir::toNativeSeparators(m_tree.root());
