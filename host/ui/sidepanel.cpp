@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -83,6 +84,7 @@ SidePanel::SidePanel(const ItemTree &tree, QWidget *parent)
             emit picked(recordOf(row));
     });
     retranslate();
+    mirror();
 }
 
 ItemRecord *SidePanel::recordOf(const QTreeWidgetItem *row) const
@@ -226,6 +228,18 @@ void SidePanel::changeEvent(QEvent *event)
     QFrame::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    if (event->type() == QEvent::LayoutDirectionChange)
+        mirror();
+}
+
+/// Stylesheets know left and right only.
+void SidePanel::mirror()
+{
+    for (QWidget *each : {static_cast<QWidget *>(this), static_cast<QWidget *>(m_rows)}) {
+        each->setProperty("mirrored", isRightToLeft());
+        each->style()->unpolish(each);
+        each->style()->polish(each);
+    }
 }
 
 void SidePanel::setTheme(const HostTheme &theme)

@@ -42,6 +42,7 @@ private:
     void refreshRow(QTreeWidgetItem *row);
     void setArrangement(Arrangement arrangement);
     void retranslate();
+    void mirror();
     QIcon iconOf(const ItemRecord &record) const;
 
     const ItemTree &m_tree;
