@@ -43,6 +43,11 @@ if(QUARVO_SANITIZE)
     endif()
 endif()
 
+# What is Qt's own and not ours to mend; part of every test's environment.
+set(SCAN_SANITIZER_ENVIRONMENT
+    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp")
+
 # scan_add_test(NAME [SOURCES ...] [LIBS ...] [TIMEOUT seconds])
 # tests/<folder>/NAME.cpp with Qt Test, headless and under a time limit. SOURCES are further files.
 function(scan_add_test name)
@@ -58,7 +63,7 @@ function(scan_add_test name)
     cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
     set_tests_properties(${name} PROPERTIES
         LABELS ${folder}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-config/${name};TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-config/${name};${SCAN_SANITIZER_ENVIRONMENT}"
         TIMEOUT ${arg_TIMEOUT})
 endfunction()
 
