@@ -56,8 +56,8 @@ install_packages() {
     local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0)
     mkdir -p "$root/build"
     if ! { "${apt[@]}" update && "${apt[@]}" install --yes --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
-        tail -n 15 "$log" >&2
-        fail "apt could not install (is this Debian 12, with a network?): ${missing[*]}"
+        grep -m 1 '^E: ' "$log" >&2 || tail -n 3 "$log" >&2
+        fail "apt could not install these (is this Debian 12, with a network?); its words are in ${log#"$root"/}: ${missing[*]}"
     fi
 }
 
