@@ -24,7 +24,8 @@ constexpr int Rounds = 9;
 constexpr int Million = 1000000;
 
 template <class View>
-struct Bench {
+struct Bench
+{
     Bench()
     {
         view.setViewMode(QListView::IconMode);

@@ -24,7 +24,8 @@ constexpr QLatin1String HighDpiSuffix("@2x.");
 
 enum class Catalogue { Own, Family, None };
 
-struct RootName {
+struct RootName
+{
     int rootType;
     Catalogue catalogue;
     const char *text;
@@ -50,7 +51,8 @@ constexpr RootName RootNames[] = {
     {7, Catalogue::Family, QT_TRANSLATE_NOOP("QuarvoTRS", "time_nav_root_unknown_time")},
 };
 
-struct KeyName {
+struct KeyName
+{
     const char *key;
     const char *text;
 };

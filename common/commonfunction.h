@@ -8,7 +8,8 @@ class QFont;
 class QWidget;
 
 /// Helpers shared by the application family; static operations only. GUI thread.
-class CommonFunction : public QObject {
+class CommonFunction : public QObject
+{
     Q_OBJECT
 
 public:

@@ -19,7 +19,8 @@ QPointer<FontManager> s_instance;
 
 /// Languages that share a family. The first family is the one in use; the others follow it where
 /// the machine does not have it.
-struct LanguageGroup {
+struct LanguageGroup
+{
     QStringList languages;
     QStringList families;
 };
@@ -40,7 +41,8 @@ const std::array<LanguageGroup, 4> &languageGroups()
 
 QFont::Weight fromCssWeight(int weight)
 {
-    struct Step {
+    struct Step
+    {
         int below;
         QFont::Weight weight;
     };

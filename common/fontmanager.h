@@ -7,7 +7,8 @@ class QWidget;
 
 /// The font family for the language of the user interface. Shared by all modules of a process
 /// through the application property "FontManager" (void*). GUI thread.
-class FontManager : public QObject {
+class FontManager : public QObject
+{
     Q_OBJECT
 
 public:

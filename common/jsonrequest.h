@@ -7,7 +7,8 @@
 
 /// A compact JSON object whose fields keep the order in which they were added; QJsonObject sorts
 /// them by name.
-class JsonRequest {
+class JsonRequest
+{
 public:
     void add(const char *field, const QString &text) { addValue(field, QJsonValue(text)); }
     void add(const char *field, double number) { addValue(field, QJsonValue(number)); }

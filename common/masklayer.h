@@ -3,7 +3,8 @@
 #include <QWidget>
 
 /// A translucent sheet that covers its parent, follows its size and keeps the mouse away from it.
-class MaskLayer : public QWidget {
+class MaskLayer : public QWidget
+{
     Q_OBJECT
 
 public:

@@ -17,7 +17,8 @@ constexpr auto ThemeProperty = "ThemeType";
 QMutex s_instanceMutex;
 ThemeManager *s_instance = nullptr;
 
-struct Keys {
+struct Keys
+{
     QString organisation = QStringLiteral("Zenvoor");
     QString application = QStringLiteral("Quarvo");
     QString theme = QStringLiteral("theme");

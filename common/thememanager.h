@@ -10,7 +10,8 @@
 /// Published as the application property "ThemeManager" (void*), so that all modules of a process
 /// share one. The theme is published as the application property "ThemeType", always 0 or 1.
 /// Every function may be called from any thread.
-class ThemeManager : public QObject {
+class ThemeManager : public QObject
+{
     Q_OBJECT
 
 public:

@@ -7,7 +7,8 @@
 /// library. Shared by all modules of a process through the application property "ZVLangManager"
 /// (void*). A library failure is logged and gives what the answer holds, usually nothing. GUI
 /// thread.
-class ZVLangManager : public QObject {
+class ZVLangManager : public QObject
+{
     Q_OBJECT
 
 public:

@@ -27,7 +27,8 @@ Order identity(size_t size)
 
 // ---- numbers: least significant digit first
 
-struct NumberKey {
+struct NumberKey
+{
     quint64 number;
     quint32 position;
 };
@@ -89,7 +90,8 @@ Order sortedNumbers(std::vector<NumberKey> keys)
 // ---- texts
 
 template <Qt::SortOrder Direction>
-struct ComesBefore {
+struct ComesBefore
+{
     const TextKeys &texts;
 
     bool operator()(const TextKey &a, const TextKey &b) const

@@ -15,7 +15,8 @@
 /// Flat, sortable rows over the host's scan records. The host owns the records and may destroy one
 /// at any time: each is held by a QPointer, and a dead one answers every role with nothing. The
 /// only thing written into a record is its check state. Lives on the GUI thread.
-class ScanDataModel : public QAbstractItemModel {
+class ScanDataModel : public QAbstractItemModel
+{
     Q_OBJECT
 
 public:

@@ -8,7 +8,8 @@
 class TreeItemData;
 
 /// A sortable stand-in for one text: its first bytes, ready to be compared as two numbers.
-struct TextKey {
+struct TextKey
+{
     quint64 high = 0;
     quint64 low = 0;
     quint32 length = 0;   ///< of the whole text, in bytes, without the beginning that all share
@@ -18,7 +19,8 @@ struct TextKey {
 /// The texts that records are sorted by, one after the other in memory. They are kept in an 8-bit
 /// form whose byte order is the order of the UTF-16 code units, so that one comparison of eight
 /// bytes settles up to eight characters.
-class TextKeys {
+class TextKeys
+{
 public:
     TextKeys(const std::vector<const TreeItemData *> &records, int sortRole);
 
@@ -28,7 +30,8 @@ public:
 
 private:
     /// What one thread has collected.
-    struct Arena {
+    struct Arena
+    {
         void append(const QString &text, bool lowerCase);
         void append(const QChar *text, int size);
         bool appendLoweredAscii(const QChar *text, int size);

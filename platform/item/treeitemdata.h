@@ -20,26 +20,26 @@ public:
     ~TreeItemData() override;
 
     qint32 checkState = 0; ///< a Qt::CheckState
-    QString path; ///< directory that holds the item, without its name; '/' or '\\' separates
-    QString name; ///< with extension
-    QString extension; ///< without the dot
+    QString path;       ///< directory that holds the item, without its name; '/' or '\\' separates
+    QString name;       ///< with extension
+    QString extension;  ///< without the dot
     QString volumeRoot; ///< what `path` is relative to; empty when `path` is complete
     qint64 fileId = -1; ///< unique within a scan
     qint64 secondaryId = -1;
-    qint64 itemCount = 0; ///< folders: items below; negative: unknown
+    qint64 itemCount = 0;  ///< folders: items below; negative: unknown
     qint64 folderSize = 0; ///< folders: bytes of all that is below
     qint64 extraCount = 0;
-    qint64 fileSize = 0; ///< files: bytes
-    qint64 modifiedTime = 0; ///< seconds since the epoch; below 1: unknown
-    qint32 kind = 0; ///< 1 folder, 2 file, 0 another folder-like node
-    qint32 rootType = 0; ///< on the top item: the kind of root that its tree shows
-    qint32 fileCategory = 0; ///< family of the file type
+    qint64 fileSize = 0;            ///< files: bytes
+    qint64 modifiedTime = 0;        ///< seconds since the epoch; below 1: unknown
+    qint32 kind = 0;                ///< 1 folder, 2 file, 0 another folder-like node
+    qint32 rootType = 0;            ///< on the top item: the kind of root that its tree shows
+    qint32 fileCategory = 0;        ///< family of the file type
     TreeItemData *parent = nullptr; ///< the folder that holds the item; hides QObject::parent()
     QList<TreeItemData *> childFolders;
     QList<TreeItemData *> childFiles;
 
-    bool exists = false; ///< still on the medium, not deleted
-    QStringList aiScenes; ///< scene ids, such as "beach"
+    bool exists = false;                       ///< still on the medium, not deleted
+    QStringList aiScenes;                      ///< scene ids, such as "beach"
     QVector<QPair<QString, QString>> metaData; ///< key, value; the answer to a metadata request
 
 Q_SIGNALS:

@@ -5,7 +5,8 @@
 
 /// The library's log file. It is opened for each line only, so that it may be moved away while
 /// the program runs; a line that repeats the one before is left out. For any thread.
-class LangLog {
+class LangLog
+{
 public:
     static LangLog &instance();
 

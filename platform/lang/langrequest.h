@@ -6,7 +6,8 @@
 
 /// One request of the language library, read and checked field by field. The first fault is kept:
 /// after it every field reads as its empty value, and error() says what is wrong.
-class LangRequest {
+class LangRequest
+{
 public:
     /// \a text: a JSON object in UTF-8, or null.
     explicit LangRequest(const char *text);

@@ -13,7 +13,8 @@ class Animation;
 
 /// One loaded Lottie file. Immutable but for rlottie's own working state, which is locked: frames
 /// may be rendered from any thread, one at a time.
-class LottieAnimation {
+class LottieAnimation
+{
 public:
     /// Null when \a path is missing, unreadable or not an animation.
     static std::shared_ptr<LottieAnimation> load(const QString &path);

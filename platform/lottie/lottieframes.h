@@ -14,7 +14,8 @@ class LottieAnimation;
 /// a time, and kept while CacheBytes last; what does not fit is rendered again when it is due. As
 /// an animation loops, dropping the oldest to make room would drop each frame just before it is
 /// needed. GUI thread; may be destroyed while a frame is being rendered.
-class LottieFrames : public QObject {
+class LottieFrames : public QObject
+{
     Q_OBJECT
 
 public:

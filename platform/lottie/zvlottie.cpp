@@ -13,7 +13,8 @@
 
 namespace Tarn {
 
-struct ZVLottie::Private {
+struct ZVLottie::Private
+{
     explicit Private(ZVLottie *widget)
         : q(widget)
     {

@@ -12,7 +12,8 @@ namespace Tarn {
 /// are rendered on a pool thread and kept up to 32 MB while the widget is on screen; paused,
 /// hidden or minimised it costs no processor time, hidden no memory but the frame on show.
 /// GUI thread.
-class ZVLOTTIE_EXPORT ZVLottie : public QWidget {
+class ZVLOTTIE_EXPORT ZVLottie : public QWidget
+{
     Q_OBJECT
 
 public:

@@ -103,8 +103,8 @@ QPixmap System::fileTypeIcon(const QString &extension, int side)
         return {};
 
     IImageList *list = nullptr;
-    if (FAILED(
-            SHGetImageList(imageListFor(side), __uuidof(IImageList), reinterpret_cast<void **>(&list))))
+    if (FAILED(SHGetImageList(imageListFor(side), __uuidof(IImageList),
+                              reinterpret_cast<void **>(&list))))
         return {};
     HICON icon = nullptr;
     const HRESULT result = list->GetIcon(info.iIcon, ILD_TRANSPARENT, &icon);

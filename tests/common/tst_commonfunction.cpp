@@ -15,7 +15,8 @@
 namespace {
 
 /// Answers every text with its context in front of it.
-class ContextTranslator : public QTranslator {
+class ContextTranslator : public QTranslator
+{
 public:
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *text, const char *, int) const override
@@ -43,7 +44,8 @@ int probeScreen()
 
 } // namespace
 
-class TestCommonFunction : public QObject {
+class TestCommonFunction : public QObject
+{
     Q_OBJECT
 
 private slots:

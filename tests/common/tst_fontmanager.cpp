@@ -5,7 +5,8 @@
 #include <QTest>
 #include <QWidget>
 
-class TestFontManager : public QObject {
+class TestFontManager : public QObject
+{
     Q_OBJECT
 
 private slots:

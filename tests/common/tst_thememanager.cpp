@@ -66,7 +66,8 @@ int probe(const QStringList &steps)
 
 } // namespace
 
-class TestThemeManager : public QObject {
+class TestThemeManager : public QObject
+{
     Q_OBJECT
 
 private slots:

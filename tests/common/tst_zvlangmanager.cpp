@@ -16,7 +16,8 @@ Q_DECLARE_METATYPE(Call)
 namespace {
 
 /// What reached the library, and how it is to answer.
-struct Library {
+struct Library
+{
     QByteArray function;
     QByteArray request;
     QByteArray product;
@@ -78,7 +79,8 @@ int Lang_GetStorageStr(const char *request, char *answer, char *error)
     return reply("Lang_GetStorageStr", request, answer, error);
 }
 
-class TestZVLangManager : public QObject {
+class TestZVLangManager : public QObject
+{
     Q_OBJECT
 
 private slots:

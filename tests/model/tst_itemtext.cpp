@@ -4,7 +4,8 @@
 
 #include <QTest>
 
-class tst_ItemText : public QObject {
+class tst_ItemText : public QObject
+{
     Q_OBJECT
 
 private slots:

@@ -69,7 +69,8 @@ qint64 randomNumber(QRandomGenerator &random)
     }
 }
 
-class Sample {
+class Sample
+{
 public:
     Sample(int size, const QString &prefix, const QString &alphabet, int maxSize)
         : m_random(quint32(size + maxSize))
@@ -99,7 +100,8 @@ const int s_roles[] = {NameRole, SizeRole, KindRole, ModifiedTimeRole, PathTextR
 
 } // namespace
 
-class tst_RowSort : public QObject {
+class tst_RowSort : public QObject
+{
     Q_OBJECT
 
 private slots:

@@ -18,7 +18,8 @@ constexpr int FolderKind = 1;
 constexpr int FileKind = 2;
 
 /// The model says the same of every parent, as its contract has it; the tester wants a flat model.
-class FlatProxy : public QIdentityProxyModel {
+class FlatProxy : public QIdentityProxyModel
+{
 public:
     using QIdentityProxyModel::QIdentityProxyModel;
     int rowCount(const QModelIndex &parent) const override
@@ -29,7 +30,8 @@ public:
 };
 
 /// A folder of a host whose records die, and whose new ones take the places in memory of dead ones.
-class Host {
+class Host
+{
 public:
     ~Host()
     {
@@ -84,7 +86,8 @@ public:
     TreeItemData root;
 
 private:
-    struct alignas(TreeItemData) Slot {
+    struct alignas(TreeItemData) Slot
+    {
         unsigned char bytes[sizeof(TreeItemData)];
     };
     QRandomGenerator m_random{7};
@@ -106,7 +109,8 @@ QVector<qint64> idsOf(const ScanDataModel &model)
 
 } // namespace
 
-class tst_ScanDataModel : public QObject {
+class tst_ScanDataModel : public QObject
+{
     Q_OBJECT
 
 private slots:

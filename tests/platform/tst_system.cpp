@@ -8,7 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-class TestSystem : public QObject {
+class TestSystem : public QObject
+{
     Q_OBJECT
 
 private slots:

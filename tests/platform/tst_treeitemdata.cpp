@@ -6,14 +6,16 @@
 
 #include <memory>
 
-class Sender : public QObject {
+class Sender : public QObject
+{
     Q_OBJECT
 
 signals:
     void signalSaveThumbnail(TreeItemData *itemData);
 };
 
-class Receiver : public QObject {
+class Receiver : public QObject
+{
     Q_OBJECT
 
 public slots:
@@ -23,7 +25,8 @@ public:
     TreeItemData *taken = nullptr;
 };
 
-class TestTreeItemData : public QObject {
+class TestTreeItemData : public QObject
+{
     Q_OBJECT
 
 private slots:

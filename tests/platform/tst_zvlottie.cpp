@@ -26,7 +26,8 @@ QImage pictureOf(QWidget &widget)
 }
 
 /// Counts what comes to a widget.
-class EventCounter : public QObject {
+class EventCounter : public QObject
+{
 public:
     EventCounter(QWidget *widget, QEvent::Type type)
         : m_type(type)
@@ -46,7 +47,8 @@ private:
 
 } // namespace
 
-class TestZVLottie : public QObject {
+class TestZVLottie : public QObject
+{
     Q_OBJECT
 
 private slots:

@@ -5,7 +5,8 @@
 
 /// Cards of a fixed size, filled and no more: what a view costs shows, what painting costs does
 /// not.
-class CardDelegate : public QStyledItemDelegate {
+class CardDelegate : public QStyledItemDelegate
+{
 public:
     explicit CardDelegate(QSize size = {150, 124}, QObject *parent = nullptr)
         : QStyledItemDelegate(parent)

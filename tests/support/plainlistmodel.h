@@ -3,7 +3,8 @@
 #include <QAbstractListModel>
 
 /// A list of any length that holds nothing: row n is called "item n", and its id is n.
-class PlainListModel : public QAbstractListModel {
+class PlainListModel : public QAbstractListModel
+{
 public:
     enum { IdRole = Qt::UserRole + 4 };
 

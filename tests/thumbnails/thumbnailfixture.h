@@ -10,7 +10,8 @@
 #include <QTemporaryDir>
 
 /// A temporary folder that is the system's temporary folder for the life of the object.
-class TemporaryRoot {
+class TemporaryRoot
+{
 public:
     TemporaryRoot()
     {
@@ -54,7 +55,8 @@ private:
     QTemporaryDir m_folder;
 };
 
-class Photo : public TreeItemData {
+class Photo : public TreeItemData
+{
 public:
     explicit Photo(qint64 id)
     {
