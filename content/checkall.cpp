@@ -1,6 +1,9 @@
 #include "content/checkall.h"
 
+#include "common/checkicon.h"
 #include "common/commonfunction.h"
+#include "model/headerview.h"
+#include "model/scantableheader.h"
 
 #include <QPushButton>
 #include <QVariant>
@@ -9,26 +12,20 @@ namespace {
 
 const char StateProperty[] = "checkstate";
 
-QString iconName(int state)
-{
-    switch (state) {
-    case Qt::Checked:
-        return QStringLiteral("icon16_check_normal");
-    case Qt::PartiallyChecked:
-        return QStringLiteral("icon16_half_check");
-    default:
-        return QStringLiteral("icon16_uncheck_normal");
-    }
-}
-
 } // namespace
 
-CheckAll::CheckAll(QPushButton *button)
-    : QObject(button)
+CheckAll::CheckAll(QPushButton *button, HeaderView *bar, ScanTableHeader *header, QObject *parent)
+    : QObject(parent)
     , m_button(button)
+    , m_bar(bar)
+    , m_header(header)
 {
+    bar->setCheckButtonVisible(false);
     setState(Qt::Unchecked);
-    connect(button, &QPushButton::clicked, this, &CheckAll::onClicked);
+    connect(button, &QPushButton::clicked, this,
+            [this] { choose(state() == Qt::Checked ? Qt::Unchecked : Qt::Checked); });
+    connect(bar, &HeaderView::signalAllChecked, this, &CheckAll::choose);
+    connect(header, &ScanTableHeader::signalAllChecked, this, &CheckAll::choose);
 }
 
 int CheckAll::state() const
@@ -39,12 +36,18 @@ int CheckAll::state() const
 void CheckAll::setState(int state)
 {
     m_button->setProperty(StateProperty, state);
-    m_button->setIcon(QIcon(CommonFunction::themePixmap(iconName(state))));
+    refresh();
+    m_bar->setCheckState(state);
+    m_header->setCheckState(state);
 }
 
-void CheckAll::onClicked()
+void CheckAll::refresh()
 {
-    const Qt::CheckState wanted = state() == Qt::Checked ? Qt::Unchecked : Qt::Checked;
-    setState(wanted);
-    emit clicked(wanted);
+    m_button->setIcon(QIcon(CommonFunction::themePixmap(checkIconName(state()))));
+}
+
+void CheckAll::choose(Qt::CheckState state)
+{
+    setState(state);
+    emit clicked(state);
 }

@@ -29,7 +29,6 @@ ListMode::ListMode(ScanDataModel *model, QWidget *parent)
 
 void ListMode::connectRows()
 {
-    connect(m_header, &ScanTableHeader::signalAllChecked, this, &ListMode::allChecked);
     connect(m_header, &ScanTableHeader::signalSortClicked, this, &ListMode::sortClicked);
     connect(m_delegate, &ListDelegate::signalCheckStateChange, this, &ListMode::checkChanged);
     connect(m_delegate, &ListDelegate::signalShowTooltip, this, &ListMode::tooltipWanted);
@@ -73,11 +72,6 @@ void ListMode::setCurrentItem(TreeItemData *item)
 void ListMode::fitColumns()
 {
     m_header->fitColumns(m_table->viewport()->width());
-}
-
-void ListMode::setCheckState(int state)
-{
-    m_header->setCheckState(state);
 }
 
 void ListMode::setSearchKeyword(const QString &keyword)

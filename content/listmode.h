@@ -35,7 +35,6 @@ public:
     /// The item of the pane; shown when the pane is.
     void setCurrentItem(TreeItemData *item);
     void fitColumns();
-    void setCheckState(int state);
     void setSearchKeyword(const QString &keyword);
     void setAssessmentFinished(bool finished);
     /// Repaints the rows of this file and the pane's picture of it.
@@ -45,7 +44,6 @@ public:
 
 signals:
     void checkChanged(const QModelIndex &index, Qt::CheckState state);
-    void allChecked(Qt::CheckState state);
     void sortClicked(HeaderViewSortType type);
     void openRequested(TreeItemData *item, const QString &source);
     void thumbnailMissing(TreeItemData *item);

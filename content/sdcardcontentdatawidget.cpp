@@ -53,7 +53,6 @@ SDCardContentDataWidget::SDCardContentDataWidget(int side, QWidget *parent)
 
     ui->stackedWidget->setCurrentWidget(m_side == SearchSide ? ui->scandatapage : ui->scanningpage);
     ui->listView->installEventFilter(this);
-    m_checkAll = new CheckAll(ui->allCheckButton);
     m_pages = new ContentPages(*ui, this);
     m_pages->loadImages();
     m_pages->applyFonts();
@@ -78,8 +77,7 @@ void SDCardContentDataWidget::createViews()
     m_list->table()->installEventFilter(this);
     ui->horizontalLayout_4->insertWidget(1, m_list->table(), 1);
     ui->itemDetailFrameVLayout->addWidget(m_list->pane());
-    // One select-all is on screen: the one with the caption over the grid, the header's in a list.
-    ui->iconModeHederView->setCheckButtonVisible(false);
+    m_checkAll = new CheckAll(ui->allCheckButton, ui->iconModeHederView, m_list->header(), this);
 
     m_current = new CurrentItem(m_model, {ui->listView, m_list->table()}, this);
     m_overlay = new OverlayScrollBar(ui->listView, this);
@@ -92,8 +90,6 @@ void SDCardContentDataWidget::createViews()
 void SDCardContentDataWidget::connectViews()
 {
     connect(m_checkAll, &CheckAll::clicked, this, &SDCardContentDataWidget::checkAll);
-    connect(ui->iconModeHederView, &HeaderView::signalAllChecked, this,
-            &SDCardContentDataWidget::checkAll);
     connect(ui->iconModeHederView, &HeaderView::signalSortClicked, this,
             &SDCardContentDataWidget::applySort);
     connect(m_pages, &ContentPages::shown, m_overlay, &OverlayScrollBar::sync);
@@ -130,7 +126,6 @@ void SDCardContentDataWidget::connectModes()
     connect(m_grid, &GridMode::tooltipWanted, this,
             &SDCardContentDataWidget::signalScanViewShowTooltip);
 
-    connect(m_list, &ListMode::allChecked, this, &SDCardContentDataWidget::checkAll);
     connect(m_list, &ListMode::sortClicked, this, &SDCardContentDataWidget::applySort);
     connect(m_list, &ListMode::checkChanged, this, &SDCardContentDataWidget::onCheckChanged);
     connect(m_list, &ListMode::openRequested, this, &SDCardContentDataWidget::openItem);
@@ -428,14 +423,11 @@ QList<TreeItemData *> SDCardContentDataWidget::selectedItems() const
 void SDCardContentDataWidget::setCheckAllState(int state)
 {
     m_checkAll->setState(state);
-    ui->iconModeHederView->setCheckState(state);
-    m_list->setCheckState(state);
 }
 
 void SDCardContentDataWidget::checkAll(Qt::CheckState state)
 {
     guarded(Q_FUNC_INFO, [this, state] {
-        setCheckAllState(state);
         if (!m_root)
             return;
         m_root->checkState = state;

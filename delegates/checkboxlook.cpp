@@ -1,5 +1,6 @@
 #include "delegates/checkboxlook.h"
 
+#include "common/checkicon.h"
 #include "common/commonfunction.h"
 #include "delegates/delegateitem.h"
 
@@ -32,9 +33,9 @@ Qt::CheckState CheckBox::toggled(int state)
 
 void CheckBoxPictures::load()
 {
-    m_checked = CommonFunction::themePixmap(QStringLiteral("icon16_check_normal"));
-    m_partial = CommonFunction::themePixmap(QStringLiteral("icon16_half_check"));
-    m_unchecked = CommonFunction::themePixmap(QStringLiteral("icon16_uncheck_normal"));
+    m_checked = CommonFunction::themePixmap(checkIconName(Qt::Checked));
+    m_partial = CommonFunction::themePixmap(checkIconName(Qt::PartiallyChecked));
+    m_unchecked = CommonFunction::themePixmap(checkIconName(Qt::Unchecked));
     m_disabled = CommonFunction::themePixmap(QStringLiteral("icon16_uncheck_disable"));
 }
 

@@ -1,5 +1,6 @@
 #include "model/headerlook.h"
 
+#include "common/checkicon.h"
 #include "common/commonfunction.h"
 #include "common/fontmanager.h"
 #include "model/headersection.h"
@@ -56,9 +57,9 @@ void HeaderLook::updateTheme()
     m_strongText = dark ? QColor(255, 255, 255, 224) : QColor(0, 0, 0, 217);
     m_hairline = dark ? QColor(255, 255, 255, 20) : QColor(13, 44, 110, 26);
 
-    m_checked = CommonFunction::themePixmap(QStringLiteral("icon16_check_normal"));
-    m_unchecked = CommonFunction::themePixmap(QStringLiteral("icon16_uncheck_normal"));
-    m_halfChecked = CommonFunction::themePixmap(QStringLiteral("icon16_half_check"));
+    m_checked = CommonFunction::themePixmap(checkIconName(Qt::Checked));
+    m_unchecked = CommonFunction::themePixmap(checkIconName(Qt::Unchecked));
+    m_halfChecked = CommonFunction::themePixmap(checkIconName(Qt::PartiallyChecked));
     m_sortDefault = markOf(QStringLiteral("icon_sort_default"));
     m_sortAscend = markOf(QStringLiteral("icon_sort_ascend"));
     m_sortDescend = markOf(QStringLiteral("icon_sort_descend"));

@@ -1,5 +1,6 @@
 #include "model/headerview.h"
 
+#include "common/checkicon.h"
 #include "common/commonfunction.h"
 #include "common/fontmanager.h"
 #include "common/qssloader.h"
@@ -28,18 +29,6 @@ constexpr int SpacerHeight = 20;
 constexpr int SpacerCharacters = 2; // between two buttons, in characters of the bar's font
 constexpr int LeftMargin = 11;
 constexpr int RightMargin = 8;
-
-QString checkIconName(int state)
-{
-    switch (state) {
-    case Qt::Checked:
-        return QStringLiteral("icon16_check_normal");
-    case Qt::PartiallyChecked:
-        return QStringLiteral("icon16_half_check");
-    default:
-        return QStringLiteral("icon16_uncheck_normal");
-    }
-}
 
 } // namespace
 
