@@ -30,6 +30,14 @@ ElidedLabel::ElidedLabel(QWidget *parent)
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    align();
+}
+
+void ElidedLabel::align()
+{
+    // By the interface, not by the text: a Latin name in an Arabic pane stands with its title.
+    setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute
+                 | Qt::AlignVCenter);
 }
 
 void ElidedLabel::setFullText(const QString &text)
@@ -76,6 +84,8 @@ void ElidedLabel::resizeEvent(QResizeEvent *event)
 void ElidedLabel::changeEvent(QEvent *event)
 {
     QLabel::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        align();
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         elide();
 }

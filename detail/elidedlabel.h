@@ -33,6 +33,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void align();
     void elide();
     void copy() const;
 

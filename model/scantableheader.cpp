@@ -18,7 +18,6 @@ using namespace HeaderMetrics;
 namespace {
 
 // What a column shows at most, give or take; their widths are measured with it.
-constexpr qint64 LongSize = Q_INT64_C(1000) * 1000 * 1000;
 constexpr qint64 LongTime = 1669852799; // two digits everywhere
 constexpr char LongType[] = "MMMMM";
 
@@ -28,6 +27,15 @@ constexpr int LocationShare = 30;     // per cent of the viewport
 bool sorts(int section)
 {
     return section >= 0 && section < SortCycle::SectionCount;
+}
+
+/// The widest size there is: the units are of very different lengths in some languages.
+int longestSize()
+{
+    int width = 0;
+    for (const qint64 unit : {qint64(1), qint64(1) << 10, qint64(1) << 20, qint64(1) << 30})
+        width = std::max(width, HeaderLook::cellWidth(ItemText::size(unit * 88888 / 100)));
+    return width;
 }
 
 } // namespace
@@ -252,7 +260,7 @@ void ScanTableHeader::fitColumns(int viewportWidth)
         const int heading = sectionSizeFromContents(column).width();
         others.push_back({std::max(heading, cellWidth), heading});
     };
-    add(Column::SizeColumn, HeaderLook::cellWidth(ItemText::size(LongSize)));
+    add(Column::SizeColumn, longestSize());
     add(Column::TypeColumn,
         std::max(HeaderLook::cellWidth(QLatin1String(LongType)),
                  HeaderLook::cellWidth(translatedKey("folder"))));
