@@ -19,8 +19,6 @@ namespace {
 constexpr int IconSide = 16;
 constexpr qint64 MB = 1024 * 1024;
 constexpr qint64 Day = 24 * 60 * 60;
-constexpr char MinProperty[] = "min";
-constexpr char MaxProperty[] = "max";
 
 struct Range
 {
