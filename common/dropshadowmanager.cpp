@@ -15,6 +15,8 @@ constexpr QRgb Ink = qRgb(6, 10, 24);
 // the white keeps away from the body's edge, or it would shine through the rounded corners
 constexpr qreal FillInset = 1.0;
 
+constexpr qreal EdgeDepth = 0.62; // a soft shadow has lost some depth where the body ends
+
 /// Depth of the shadow, 0 to 1, at a place \a dx and \a dy outside of the rectangle in which the
 /// corner arcs of the body have their centres. Falls to nothing without an edge.
 qreal depthAt(qreal dx, qreal dy, qreal reachX, qreal reachY)
@@ -22,10 +24,10 @@ qreal depthAt(qreal dx, qreal dy, qreal reachX, qreal reachY)
     const qreal length = std::hypot(dx, dy);
     const qreal beyond = length - DropShadowManager::BodyRadius;
     if (beyond <= 0)
-        return 1.0;
+        return EdgeDepth;
     const qreal reach = 1.0 / std::hypot(dx / length / reachX, dy / length / reachY);
     const qreal left = std::max(0.0, 1.0 - beyond / reach);
-    return left * left * left;
+    return EdgeDepth * left * left;
 }
 
 /// Signed distance of \a at from the stretch \a from to \a to: negative before, positive behind.

@@ -18,9 +18,9 @@ public:
     explicit DropShadowManager(qreal ratio);
 
     /// Makes \a pixmap the shadow for \a rect, that is the body and its margins together. The
-    /// shadow is darkest along the body's lower edge, with the opacity \a darkness of 255; at the
-    /// upper edge \a topShare per cent of that are left, for light falls from above. The body
-    /// itself is filled with white. An empty \a rect leaves a null pixmap.
+    /// opacity \a darkness, of 255, is that of a whole shadow, of which the lower edge shows the
+    /// rim; at the upper edge \a topShare per cent of it are left, for light falls from above. The
+    /// body itself is filled with white. An empty \a rect leaves a null pixmap.
     void paint(QPixmap *pixmap, const QRect &rect, int darkness, int topShare) const;
 
 private:

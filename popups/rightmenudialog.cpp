@@ -208,8 +208,11 @@ bool RightMenuDialog::event(QEvent *event)
 
 bool RightMenuDialog::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Enter || event->type() == QEvent::MouseMove) {
-        if (m_mouseRests && QCursor::pos() == m_restingMouse)
+    const bool enters = event->type() == QEvent::Enter;
+    if (enters || event->type() == QEvent::MouseMove) {
+        const QPoint mouse = enters ? QCursor::pos()
+                                    : static_cast<QMouseEvent *>(event)->globalPos();
+        if (m_mouseRests && mouse == m_restingMouse)
             return true;
         m_mouseRests = false;
         highlight(qobject_cast<RightMenuFrame *>(watched));

@@ -184,6 +184,10 @@ void RightMenuFrame::placeLabels()
     text.setX(TextX);
     text.setWidth(width() - TextX);
     icon.moveLeft(IconX);
+    // by the layout, not by the script of the text
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    ui->labelText->setAlignment((mirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute
+                                | Qt::AlignVCenter);
     ui->labelText->setGeometry(QStyle::visualRect(layoutDirection(), rect(), text));
     ui->lblIcon->setGeometry(QStyle::visualRect(layoutDirection(), rect(), icon));
 }
