@@ -12,6 +12,7 @@ to render the pictures|librsvg2-bin
 to read file systems|libtsk-dev
 to read and write a photo's metadata|libexiv2-dev
 to read and write videos|libavformat-dev libavcodec-dev libavutil-dev libswscale-dev
+to take frames from videos|libffmpegthumbnailer-dev
 to make the sample card|dosfstools mtools
 so that texts are visible|fonts-open-sans fonts-noto-core fonts-noto-cjk
 for the benchmarks|libbenchmark-dev

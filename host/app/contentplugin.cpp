@@ -88,6 +88,7 @@ void ContentPlugin::connectSignals()
          SIGNAL(fileOpened(TreeItemData *, QString))},
         {SIGNAL(signalLocateFile(TreeItemData *)), SIGNAL(locateRequested(TreeItemData *))},
         {SIGNAL(signalSaveThumbnail(TreeItemData *)), SIGNAL(thumbnailRequested(TreeItemData *))},
+        {SIGNAL(signalGetMetaData(TreeItemData *)), SIGNAL(metadataRequested(TreeItemData *))},
         {SIGNAL(signalRightMenuRecover(TreeItemData *)), SIGNAL(recoverRequested(TreeItemData *))},
         {SIGNAL(signalShowTooltip(QString)), SIGNAL(tooltipRequested(QString))},
     };

@@ -33,6 +33,7 @@ signals:
     void fileOpened(TreeItemData *item, const QString &source);
     void locateRequested(TreeItemData *item);
     void thumbnailRequested(TreeItemData *item);
+    void metadataRequested(TreeItemData *item);
     void recoverRequested(TreeItemData *item);
     void tooltipRequested(const QString &text);
 

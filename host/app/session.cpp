@@ -43,6 +43,9 @@ void Session::connectScan()
     connect(&m_thumbnails, &ThumbnailMaker::thumbnailReady, this, &Session::answerThumbnail);
     connect(&m_thumbnails, &ThumbnailMaker::thumbnailFailed, this,
             [this](qint64 id) { answerThumbnail(id, QString(), QImage()); });
+    connect(&m_metadata, &MetadataReader::metadataReady, this, &Session::answerMetadata);
+    connect(&m_metadata, &MetadataReader::metadataFailed, this,
+            [this](qint64 id) { answerMetadata(id, {}, {}); });
 }
 
 void Session::connectPlugin()
@@ -53,6 +56,7 @@ void Session::connectPlugin()
             [this](Qt::CheckState state) { takeSearchCheck(m_search.root(), state); });
     connect(&m_plugin, &ContentPlugin::folderOpened, this, &Session::openFolder);
     connect(&m_plugin, &ContentPlugin::thumbnailRequested, this, &Session::requestThumbnail);
+    connect(&m_plugin, &ContentPlugin::metadataRequested, this, &Session::requestMetadata);
     connect(&m_plugin, &ContentPlugin::tooltipRequested, this, &Session::tooltipRequested);
     connect(&m_plugin, &ContentPlugin::recoverRequested, this, &Session::recoverRequested);
     // What follows changes the trees that the plug-in is showing: not from inside its signal.
@@ -76,6 +80,8 @@ void Session::clear()
 {
     m_publisher.stop();
     m_thumbnails.drop();
+    m_metadata.setSource(nullptr);
+    m_awaitingMetadata.clear();
     m_plugin->clearData(Plugin::BothSides);
     m_search.clear();
     m_shown = nullptr;
@@ -103,9 +109,12 @@ void Session::takeVolumes(const QVector<VolumeInfo> &volumes)
 {
     m_tree.setVolumes(volumes);
     m_thumbnails.setSource(m_runner.source());
+    m_metadata.setSource(m_runner.source());
     m_shown = m_tree.allFiles();
     m_publisher.start();
     emit opened();
+    if (MediaSetup::installedProgram().isEmpty())
+        emit noticed(MediaSetup::missingMessage());
     emit shownRootChanged();
 }
 
@@ -279,6 +288,26 @@ void Session::answerThumbnail(qint64 id, const QString &path, const QImage &imag
     else
         m_plugin->updateThumbnailWithPath(id, path, QPixmap::fromImage(image));
     emit thumbnailTraffic();
+}
+
+void Session::requestMetadata(TreeItemData *item)
+{
+    ItemRecord *record = m_tree.records().find(item);
+    if (!record || record->isFolder() || record->isRoot)
+        return;
+    m_awaitingMetadata.insert(record->fileId, record);
+    m_metadata.request(record->found());
+}
+
+void Session::answerMetadata(qint64 id, const QVector<QPair<QString, QString>> &metaData,
+                             const QStringList &scenes)
+{
+    ItemRecord *record = m_awaitingMetadata.take(id);
+    if (!record)
+        return;
+    record->metaData = metaData;
+    record->aiScenes = scenes;
+    emit record->metaDataChanged(); // also of nothing: the asking is over
 }
 
 QVector<ItemRecord *> Session::matching(const QString &pattern) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/app/contentplugin.h"
+#include "host/media/metadatareader.h"
 #include "host/media/thumbnailmaker.h"
 #include "host/scan/scanrunner.h"
 #include "host/tree/itemsearch.h"
@@ -83,6 +84,9 @@ private:
     void takeSearchCheck(TreeItemData *item, Qt::CheckState state);
     void openFolder(TreeItemData *item);
     void requestThumbnail(TreeItemData *item);
+    void requestMetadata(TreeItemData *item);
+    void answerMetadata(qint64 id, const QVector<QPair<QString, QString>> &metaData,
+                        const QStringList &scenes);
     void answerThumbnail(qint64 id, const QString &path, const QImage &image);
 
     ContentPlugin &m_plugin;
@@ -90,6 +94,8 @@ private:
     ItemTree m_tree;
     ItemSearch m_search;
     ThumbnailMaker m_thumbnails;
+    MetadataReader m_metadata;
+    QHash<qint64, ItemRecord *> m_awaitingMetadata; // none of an earlier scan
     ScanRunner m_runner;
     QTimer m_publisher;
     QString m_path;

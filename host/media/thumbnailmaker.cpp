@@ -1,36 +1,31 @@
 #include "host/media/thumbnailmaker.h"
 
-#include "host/media/pictureloader.h"
-#include "host/scan/filecategory.h"
+#include "host/media/mediajobs.h"
 
 #include <QSize>
-
-#include <algorithm>
+#include <QtConcurrent>
 
 namespace {
-
-constexpr int Threads = 2;
 // A card's picture area is 150 x 82; a list row and the detail pane need less.
 const QSize CoverSize(300, 166);
-
 } // namespace
 
-ThumbnailMaker::ThumbnailMaker(QObject *parent)
+ThumbnailMaker::ThumbnailMaker(QObject *parent, std::shared_ptr<MediaPool> pool)
     : QObject(parent)
+    , m_pool(std::move(pool))
+    , m_sweeping(QtConcurrent::run(&ThumbnailFiles::sweep))
 {
-    m_pool.setMaxThreadCount(Threads);
-    m_pool.start(&ThumbnailFiles::sweep);
 }
 
 ThumbnailMaker::~ThumbnailMaker()
 {
-    drop();
-    m_pool.waitForDone();
+    m_pool->leave(this);
+    m_sweeping.waitForFinished();
 }
 
 void ThumbnailMaker::setSource(std::shared_ptr<const ScanSource> source)
 {
-    drop();
+    m_pool->abandon(this);
     ++m_generation; // what is at work answers for a source that is gone
     m_pending.clear();
     {
@@ -46,7 +41,8 @@ void ThumbnailMaker::request(const FoundItem &item, const QString &extension)
     if (m_pending.contains(item.id))
         return;
     m_pending.insert(item.id);
-    if (!m_source || item.folder || categoryOfExtension(extension) != PhotoCategory) {
+    MediaPool::Job job;
+    if (!m_source || !MediaJobs::prepare(item, extension, &job)) {
         // Later, as every other answer: the caller may still be at work on its own request.
         const int generation = m_generation;
         QMetaObject::invokeMethod(
@@ -58,44 +54,29 @@ void ThumbnailMaker::request(const FoundItem &item, const QString &extension)
             Qt::QueuedConnection);
         return;
     }
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_stack.push_back({item, extension, m_source, m_generation});
-    }
-    m_pool.start([this] { work(); });
+    job.owner = this;
+    job.source = m_source;
+    job.request.task = MediaRequest::Picture;
+    job.request.cover = CoverSize;
+    job.done = [this, generation = m_generation, id = item.id, extension](MediaAnswer &&made) {
+        store(generation, id, extension, std::move(made));
+    };
+    m_pool->add(std::move(job));
 }
 
 void ThumbnailMaker::drop()
 {
-    m_pool.clear();
-    std::lock_guard<std::mutex> lock(m_mutex);
-    for (const Request &request : m_stack)
-        m_pending.remove(request.item.id);
-    m_stack.clear();
+    for (const qint64 id : m_pool->drop(this))
+        m_pending.remove(id);
 }
 
-bool ThumbnailMaker::takeLatest(Request *request)
+/// On a thread of the pool: encoding and writing take their time.
+void ThumbnailMaker::store(int generation, qint64 fileId, const QString &extension,
+                           MediaAnswer &&made)
 {
-    std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_stack.empty())
-        return false;
-    *request = std::move(m_stack.back());
-    m_stack.pop_back();
-    return true;
-}
-
-void ThumbnailMaker::work()
-{
-    Request request;
-    if (!takeLatest(&request))
-        return; // dropped
-    QString reason;
     QString path;
-    QImage image;
-    if (const std::unique_ptr<QIODevice> device = request.source->openFile(request.item, &reason))
-        image = loadPicture(*device, CoverSize, &reason);
-    if (!image.isNull())
-        path = ThumbnailFiles::write(request.item.id, request.extension, image);
+    if (!made.image.isNull())
+        path = ThumbnailFiles::write(fileId, extension, made.image);
     if (!path.isEmpty()) {
         // Here, because the answer is lost when the maker goes.
         std::lock_guard<std::mutex> lock(m_mutex);
@@ -103,8 +84,8 @@ void ThumbnailMaker::work()
     }
     QMetaObject::invokeMethod(
         this,
-        [this, generation = request.generation, id = request.item.id, path, image, reason] {
-            answer(generation, id, path, image, reason);
+        [this, generation, fileId, path, image = made.image, reason = made.error] {
+            answer(generation, fileId, path, image, reason);
         },
         Qt::QueuedConnection);
 }

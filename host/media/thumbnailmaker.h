@@ -1,27 +1,27 @@
 #pragma once
 
+#include "host/media/mediapool.h"
 #include "host/media/thumbnailfiles.h"
-#include "host/scan/scansource.h"
 
+#include <QFuture>
 #include <QImage>
 #include <QObject>
 #include <QSet>
-#include <QThreadPool>
 
 #include <mutex>
-#include <vector>
 
-/// Makes thumbnails of pictures on a few threads of its own and writes them where the plug-in looks
-/// for them. The latest request is served first: it is for what is on screen now. Every request is
-/// answered once, by thumbnailReady() or thumbnailFailed(), unless it is dropped.
+/// Has thumbnails of photos and videos made by the helper program and writes them where the plug-in
+/// looks for them. The latest request is served first: it is for what is on screen now. Every
+/// request is answered once, by thumbnailReady() or thumbnailFailed(), unless it is dropped.
 ///
-/// GUI thread; the signals come on it too. Destroying the maker waits for the pictures at work.
+/// GUI thread; the signals come on it too. Destroying the maker ends what is at work.
 class ThumbnailMaker : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ThumbnailMaker(QObject *parent = nullptr);
+    explicit ThumbnailMaker(QObject *parent = nullptr,
+                            std::shared_ptr<MediaPool> pool = MediaPool::shared());
     ~ThumbnailMaker() override;
 
     /// Requests are for items of \a source from now on. Drops what was asked for, and removes the
@@ -49,27 +49,18 @@ signals:
     void settled();
 
 private:
-    struct Request
-    {
-        FoundItem item;
-        QString extension;
-        std::shared_ptr<const ScanSource> source;
-        int generation = 0;
-    };
-
-    void work();
-    bool takeLatest(Request *request);
+    void store(int generation, qint64 fileId, const QString &extension, MediaAnswer &&answer);
     void answer(int generation, qint64 fileId, const QString &path, const QImage &image,
                 const QString &reason);
 
+    std::shared_ptr<MediaPool> m_pool;
     std::shared_ptr<const ScanSource> m_source;
     QSet<qint64> m_pending;
     int m_generation = 0;
     int m_made = 0;
 
     std::mutex m_mutex; // guards what follows
-    std::vector<Request> m_stack;
     ThumbnailFiles m_files;
 
-    QThreadPool m_pool;
+    QFuture<void> m_sweeping;
 };

@@ -1,6 +1,6 @@
 #include "host/ui/pictureviewer.h"
 
-#include "host/media/pictureloader.h"
+#include "host/media/mediajobs.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/texts.h"
 
@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QToolButton>
-#include <QtConcurrent>
 
 namespace {
 constexpr int Margin = 24;
@@ -41,15 +40,11 @@ PictureViewer::PictureViewer(std::shared_ptr<const ScanSource> source, QWidget *
     };
     prepare(m_previous, Glyph::Left, tr("Previous picture"), -1);
     prepare(m_next, Glyph::Right, tr("Next picture"), 1);
-    connect(&m_watcher, &QFutureWatcherBase::finished, this, [this] {
-        m_loaded = m_watcher.result();
-        update();
-    });
 }
 
 PictureViewer::~PictureViewer()
 {
-    m_watcher.waitForFinished();
+    m_media->leave(this);
 }
 
 void PictureViewer::open(const QVector<FoundItem> &pictures, int current)
@@ -75,16 +70,34 @@ void PictureViewer::load()
     setWindowTitle(item.name);
     m_previous->setEnabled(m_current > 0);
     m_next->setEnabled(m_current + 1 < m_pictures.size());
-    m_loaded = Loaded();
-    const QSize cover = QGuiApplication::primaryScreen()->size() * devicePixelRatioF();
-    // a watcher forgets the picture before, whose result nobody waits for any more
-    m_watcher.setFuture(QtConcurrent::run([source = m_source, item, cover] {
-        Loaded loaded;
-        const std::unique_ptr<QIODevice> file = source->openFile(item, &loaded.error);
-        if (file)
-            loaded.image = loadPicture(*file, cover, &loaded.error);
-        return loaded;
-    }));
+    m_loaded = MediaAnswer();
+    m_media->drop(this); // nobody waits for the picture before
+    const int request = ++m_request;
+    const auto report = [this, request](MediaAnswer &&answer) {
+        QMetaObject::invokeMethod(
+            this, [this, request, answer = std::move(answer)] { take(request, answer); },
+            Qt::QueuedConnection);
+    };
+    MediaPool::Job job;
+    if (MediaJobs::prepare(item, extensionOf(item.name), &job)) {
+        job.owner = this;
+        job.source = m_source;
+        job.request.cover = QGuiApplication::primaryScreen()->size() * devicePixelRatioF();
+        job.done = report;
+        m_media->add(std::move(job));
+    } else {
+        MediaAnswer refusal;
+        refusal.error = tr("There is no picture in such a file.");
+        report(std::move(refusal));
+    }
+    update();
+}
+
+void PictureViewer::take(int request, const MediaAnswer &answer)
+{
+    if (request != m_request)
+        return;
+    m_loaded = answer;
     update();
 }
 

@@ -1,16 +1,15 @@
 #pragma once
 
-#include "host/scan/scansource.h"
+#include "host/media/mediapool.h"
 
-#include <QFutureWatcher>
 #include <QImage>
 #include <QWidget>
 
 class QLabel;
 class QToolButton;
 
-/// Shows pictures of a source one at a time, fitted to the window. They are read off the GUI thread
-/// and no larger than the screen needs.
+/// Shows pictures of a source one at a time, fitted to the window. The helper program decodes them,
+/// no larger than the screen needs.
 class PictureViewer : public QWidget
 {
     Q_OBJECT
@@ -27,21 +26,17 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    struct Loaded
-    {
-        QImage image;
-        QString error;
-    };
-
     void step(int by);
     void load();
+    void take(int request, const MediaAnswer &answer);
     void placeButtons();
 
     std::shared_ptr<const ScanSource> m_source;
     QVector<FoundItem> m_pictures;
     int m_current = 0;
-    QFutureWatcher<Loaded> m_watcher;
-    Loaded m_loaded;
+    std::shared_ptr<MediaPool> m_media = MediaPool::shared();
+    int m_request = 0;
+    MediaAnswer m_loaded;
     QToolButton *m_previous;
     QToolButton *m_next;
 };

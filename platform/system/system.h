@@ -15,6 +15,10 @@ bool appsUseDarkTheme();
 /// Physical memory that can be had now, in bytes; 0 where the system does not say.
 quint64 availablePhysicalMemory();
 
+/// Bounds the memory that this process may use; what asks for more is refused it. A program that
+/// reads strangers' files does this first. Nothing happens in builds that watch memory themselves.
+void limitMemory(quint64 bytes);
+
 /// The desktop's icon for files that end in \a extension (no dot), \a side device pixels wide and
 /// high; null where the desktop has none. GUI thread.
 QPixmap fileTypeIcon(const QString &extension, int side);

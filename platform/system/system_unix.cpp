@@ -11,6 +11,7 @@
 #include <QMimeDatabase>
 
 #include <dlfcn.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -70,6 +71,20 @@ quint64 System::availablePhysicalMemory()
         return quint64(pages) * quint64(pageSize);
 #endif
     return 0;
+}
+
+void System::limitMemory(quint64 bytes)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    Q_UNUSED(bytes); // sanitizers reserve terabytes of addresses
+#else
+    rlimit limit = {};
+    getrlimit(RLIMIT_AS, &limit);
+    limit.rlim_cur = limit.rlim_max == RLIM_INFINITY ? rlim_t(bytes)
+                                                     : qMin(rlim_t(bytes), limit.rlim_max);
+    if (setrlimit(RLIMIT_AS, &limit) != 0)
+        qWarning("The memory of this process cannot be limited");
+#endif
 }
 
 QPixmap System::fileTypeIcon(const QString &extension, int side)

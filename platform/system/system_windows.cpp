@@ -92,6 +92,19 @@ quint64 System::availablePhysicalMemory()
     return GlobalMemoryStatusEx(&status) ? status.ullAvailPhys : 0;
 }
 
+void System::limitMemory(quint64 bytes)
+{
+    // The job is never closed: it lives as long as the process that is in it.
+    HANDLE job = CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_PROCESS_MEMORY;
+    limits.ProcessMemoryLimit = SIZE_T(bytes);
+    if (!job
+        || !SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits))
+        || !AssignProcessToJobObject(job, GetCurrentProcess()))
+        qWarning("The memory of this process cannot be limited");
+}
+
 QPixmap System::fileTypeIcon(const QString &extension, int side)
 {
     if (extension.isEmpty() || side < 1)

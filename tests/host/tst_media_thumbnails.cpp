@@ -1,13 +1,13 @@
-#include "host/media/pictureloader.h"
+#include "foundfolder.h"
+
+#include "host/media/program/pictureloader.h"
 #include "host/media/thumbnailmaker.h"
-#include "host/scan/scansource.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtEndian>
 #include <QtTest>
 
@@ -92,30 +92,7 @@ private slots:
     void forgetsAnotherSourcesFiles();
     void latestFirstAndDroppable();
     void diesAtWork();
-
-private:
-    std::shared_ptr<ScanSource> folder(const QHash<QString, QByteArray> &files,
-                                       QVector<FoundItem> *items);
-    std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-std::shared_ptr<ScanSource> TestMediaThumbnails::folder(const QHash<QString, QByteArray> &files,
-                                                        QVector<FoundItem> *items)
-{
-    m_dir = std::make_unique<QTemporaryDir>();
-    for (auto it = files.cbegin(); it != files.cend(); ++it) {
-        QFile file(m_dir->filePath(it.key()));
-        if (file.open(QIODevice::WriteOnly))
-            file.write(it.value());
-    }
-    QString error;
-    std::shared_ptr<ScanSource> source = ScanSource::create(m_dir->path(), &error);
-    std::atomic<bool> cancel{false};
-    source->scan([items](QVector<FoundItem> &&batch) { *items += batch; }, cancel);
-    std::sort(items->begin(), items->end(),
-              [](const FoundItem &a, const FoundItem &b) { return a.name < b.name; });
-    return source;
-}
 
 void TestMediaThumbnails::sizes_data()
 {
@@ -198,14 +175,13 @@ void TestMediaThumbnails::brokenPictures()
 
 void TestMediaThumbnails::writesTheFileAndAnswers()
 {
-    QVector<FoundItem> items;
-    const auto source = folder({{QStringLiteral("a.JPG"), encoded(QSize(400, 300), "JPG")},
-                                {QStringLiteral("b.png"), encoded(QSize(400, 300), "PNG", true)}},
-                               &items);
+    const FoundFolder folder({{QStringLiteral("a.JPG"), encoded(QSize(400, 300), "JPG")},
+                              {QStringLiteral("b.png"), encoded(QSize(400, 300), "PNG", true)}});
+    const auto &items = folder.items;
     QStringList paths;
     {
         ThumbnailMaker maker;
-        maker.setSource(source);
+        maker.setSource(folder.source);
         QSignalSpy ready(&maker, &ThumbnailMaker::thumbnailReady);
         QSignalSpy settled(&maker, &ThumbnailMaker::settled);
         maker.request(items.at(0), QStringLiteral("JPG"));
@@ -233,16 +209,15 @@ void TestMediaThumbnails::writesTheFileAndAnswers()
 
 void TestMediaThumbnails::refusesInOrder()
 {
-    QVector<FoundItem> items;
-    const auto source = folder({{QStringLiteral("a.jpg"), QByteArray()},
-                                {QStringLiteral("b.jpg"), lyingPng(60000, 60000)},
-                                {QStringLiteral("c.mp4"), "video"}},
-                               &items);
+    const FoundFolder folder({{QStringLiteral("a.jpg"), QByteArray()},
+                              {QStringLiteral("b.jpg"), lyingPng(60000, 60000)},
+                              {QStringLiteral("c.mp4"), "video"}});
+    const auto &items = folder.items;
     ThumbnailMaker maker;
-    maker.setSource(source);
+    maker.setSource(folder.source);
     QSignalSpy failed(&maker, &ThumbnailMaker::thumbnailFailed);
     QSignalSpy settled(&maker, &ThumbnailMaker::settled);
-    for (const FoundItem &item : qAsConst(items))
+    for (const FoundItem &item : items)
         maker.request(item, QFileInfo(item.name).suffix());
     QCOMPARE(failed.size(), 0); // never from within the request
     QVERIFY(settled.wait(10000));
@@ -252,11 +227,10 @@ void TestMediaThumbnails::refusesInOrder()
 
 void TestMediaThumbnails::forgetsAnotherSourcesFiles()
 {
-    QVector<FoundItem> items;
-    const auto source = folder({{QStringLiteral("a.jpg"), encoded(QSize(4000, 3000), "JPG")}},
-                               &items);
+    const FoundFolder folder({{QStringLiteral("a.jpg"), encoded(QSize(4000, 3000), "JPG")}});
+    const auto &items = folder.items;
     ThumbnailMaker maker;
-    maker.setSource(source);
+    maker.setSource(folder.source);
     QSignalSpy ready(&maker, &ThumbnailMaker::thumbnailReady);
     QSignalSpy settled(&maker, &ThumbnailMaker::settled);
     maker.request(items.first(), QStringLiteral("jpg"));
@@ -264,7 +238,7 @@ void TestMediaThumbnails::forgetsAnotherSourcesFiles()
     const QString path = ready.first().at(1).toString();
     QVERIFY(QFileInfo::exists(path));
     maker.request(items.first(), QStringLiteral("jpg")); // at work while the source changes
-    maker.setSource(source);
+    maker.setSource(folder.source);
     QVERIFY(!QFileInfo::exists(path) || maker.pending() == 0);
     QCOMPARE(maker.pending(), 0);
     maker.request(items.first(), QStringLiteral("jpg"));
@@ -278,13 +252,13 @@ void TestMediaThumbnails::latestFirstAndDroppable()
     const QByteArray picture = encoded(QSize(3000, 2000), "JPG");
     for (int i = 0; i < 12; ++i)
         files.insert(QStringLiteral("%1.jpg").arg(i, 2, 10, QLatin1Char('0')), picture);
-    QVector<FoundItem> items;
-    const auto source = folder(files, &items);
+    const FoundFolder folder(files);
+    const auto &items = folder.items;
     ThumbnailMaker maker;
-    maker.setSource(source);
+    maker.setSource(folder.source);
     QSignalSpy ready(&maker, &ThumbnailMaker::thumbnailReady);
     QSignalSpy settled(&maker, &ThumbnailMaker::settled);
-    for (const FoundItem &item : qAsConst(items))
+    for (const FoundItem &item : items)
         maker.request(item, QStringLiteral("jpg"));
     QVERIFY(settled.wait(20000));
     QCOMPARE(ready.size(), 12);
@@ -293,7 +267,7 @@ void TestMediaThumbnails::latestFirstAndDroppable()
         order << QString::number(call.first().toLongLong() - items.first().id);
     QVERIFY2(ready.last().first().toLongLong() != items.last().id,
              qPrintable(order.join(QLatin1Char(' '))));
-    for (const FoundItem &item : qAsConst(items))
+    for (const FoundItem &item : items)
         maker.request(item, QStringLiteral("jpg"));
     maker.drop();
     QVERIFY(maker.pending() <= 4); // those at work
@@ -302,12 +276,11 @@ void TestMediaThumbnails::latestFirstAndDroppable()
 
 void TestMediaThumbnails::diesAtWork()
 {
-    QVector<FoundItem> items;
-    const auto source = folder({{QStringLiteral("a.jpg"), encoded(QSize(4000, 3000), "JPG")}},
-                               &items);
+    const FoundFolder folder({{QStringLiteral("a.jpg"), encoded(QSize(4000, 3000), "JPG")}});
+    const auto &items = folder.items;
     for (int i = 0; i < 5; ++i) {
         ThumbnailMaker maker;
-        maker.setSource(source);
+        maker.setSource(folder.source);
         maker.request(items.first(), QStringLiteral("jpg"));
     }
     const QString root = QDir::tempPath() + QStringLiteral("/Zenvoor_Quarvo/jpg");

@@ -1,19 +1,15 @@
-#include "host/media/pictureloader.h"
+#include "host/media/program/pictureloader.h"
 
 #include "platform/system/system.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QImageReader>
 
 #include <algorithm>
-#include <mutex>
 
 namespace {
 
 constexpr qint64 MaxPixels = 200 * 1000 * 1000;
-constexpr qint64 LargePixels = 40 * 1000 * 1000; // such pictures are read one at a time
-constexpr qint64 WholeFileBytes = 64 << 20; // up to here read at once: seeking on a card is slow
 constexpr int BytesPerPixel = 4;
 constexpr int MaxStretch =
     8; // of a long strip, so that its thumbnail does not become a large picture
@@ -44,18 +40,8 @@ QSize covering(const QSize &picture, const QSize &cover)
 
 QImage loadPicture(QIODevice &device, const QSize &cover, QString *error)
 {
-    QBuffer memory;
-    QIODevice *from = &device;
-    if (device.size() <= WholeFileBytes) {
-        memory.setData(device.readAll());
-        if (memory.size() < device.size()) {
-            *error = device.errorString();
-            return QImage();
-        }
-        memory.open(QIODevice::ReadOnly);
-        from = &memory;
-    }
-    QImageReader reader(from);
+    device.seek(0);
+    QImageReader reader(&device);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     if (!isTrusted(reader.format())) {
@@ -72,10 +58,6 @@ QImage loadPicture(QIODevice &device, const QSize &cover, QString *error)
         *error = tr("The picture is too large: %1 × %2.").arg(size.width()).arg(size.height());
         return QImage();
     }
-    static std::mutex s_large;
-    std::unique_lock<std::mutex> lock(s_large, std::defer_lock);
-    if (pixels > LargePixels)
-        lock.lock();
     const quint64 memoryLeft = System::availablePhysicalMemory();
     if (memoryLeft > 0 && quint64(pixels) * BytesPerPixel > memoryLeft / 2) {
         *error = tr("There is not enough memory for a picture of %1 × %2.")
