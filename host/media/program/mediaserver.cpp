@@ -7,7 +7,6 @@
 #include "host/media/program/videofile.h"
 #include "host/media/program/videoframe.h"
 #include "host/media/program/videometadata.h"
-#include "host/media/program/watchdog.h"
 
 #include <QCoreApplication>
 
@@ -41,13 +40,15 @@ void MediaServer::run()
     QByteArray payload;
     MediaRequest request;
     while (m_pipe.receive(&kind, &payload) && kind == MediaFrame::Request
-           && MediaRequest::decode(payload, &request))
+           && MediaRequest::decode(payload, &request)) {
+        m_watchdog.startFile();
         serve(request);
+        m_watchdog.endFile();
+    }
 }
 
 void MediaServer::serve(const MediaRequest &request)
 {
-    const Watchdog watchdog;
     RangeDevice file(m_pipe, request.fileSize);
     MediaAnswer answer;
     QByteArray payload;

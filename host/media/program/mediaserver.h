@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/media/program/hostpipe.h"
+#include "host/media/program/watchdog.h"
 #include "host/media/protocol/mediaanswer.h"
 #include "host/media/protocol/mediarequest.h"
 
@@ -17,4 +18,5 @@ private:
     static MediaAnswer answerTo(const MediaRequest &request, RangeDevice &file);
 
     HostPipe m_pipe;
+    Watchdog m_watchdog;
 };

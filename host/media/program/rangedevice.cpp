@@ -5,8 +5,11 @@
 #include <cstring>
 
 namespace {
-constexpr qint64 PartBytes = 256 << 10;
+
+constexpr qint64 FirstBytes = 64 << 10; // what a header takes, and a pipe holds
+constexpr qint64 MostBytes = 1 << 20;
 constexpr size_t MaxParts = 16;
+
 } // namespace
 
 RangeDevice::RangeDevice(HostPipe &pipe, qint64 size)
@@ -16,17 +19,26 @@ RangeDevice::RangeDevice(HostPipe &pipe, qint64 size)
     open(QIODevice::ReadOnly | QIODevice::Unbuffered); // it has a buffer of its own
 }
 
-const QByteArray *RangeDevice::partAt(qint64 offset)
+/// A file that is read on and on is read in growing parts, one that is looked into here and there
+/// in small ones.
+qint64 RangeDevice::lengthFrom(qint64 offset) const
+{
+    const bool goesOn = offset == m_fetchedEnd && m_fetchedLength > 0;
+    const qint64 length = goesOn ? std::min(2 * m_fetchedLength, MostBytes) : FirstBytes;
+    return std::min(length, m_size - offset);
+}
+
+const RangeDevice::Part *RangeDevice::partAt(qint64 position)
 {
     const auto known = std::find_if(m_parts.begin(), m_parts.end(),
-                                    [offset](const Part &part) { return part.offset == offset; });
+                                    [position](const Part &part) { return part.holds(position); });
     if (known != m_parts.end()) {
         m_parts.splice(m_parts.begin(), m_parts, known);
-        return &m_parts.front().bytes;
+        return &m_parts.front();
     }
     MediaFrame::Range range;
-    range.offset = offset;
-    range.length = std::min(PartBytes, m_size - offset);
+    range.offset = position == m_fetchedEnd ? position : position - position % FirstBytes;
+    range.length = lengthFrom(range.offset);
     m_pipe.send(MediaFrame::Read, MediaFrame::encode(range));
     MediaFrame::Kind kind = MediaFrame::Failure;
     QByteArray bytes;
@@ -37,10 +49,12 @@ const QByteArray *RangeDevice::partAt(qint64 offset)
         setErrorString(m_failure);
         return nullptr;
     }
+    m_fetchedLength = range.length;
+    m_fetchedEnd = range.offset + range.length;
     if (m_parts.size() >= MaxParts)
         m_parts.pop_back();
-    m_parts.push_front({offset, bytes});
-    return &m_parts.front().bytes;
+    m_parts.push_front({range.offset, bytes});
+    return m_parts.front().holds(position) ? &m_parts.front() : nullptr;
 }
 
 qint64 RangeDevice::readData(char *data, qint64 length)
@@ -48,15 +62,13 @@ qint64 RangeDevice::readData(char *data, qint64 length)
     qint64 done = 0;
     while (done < length && pos() + done < m_size) {
         const qint64 at = pos() + done;
-        const qint64 inPart = at % PartBytes;
-        const QByteArray *part = partAt(at - inPart);
+        const Part *part = partAt(at);
         if (!part)
-            return done > 0 ? done : -1;
-        const qint64 count = std::min(length - done, part->size() - inPart);
-        if (count <= 0)
-            break; // shorter than it was said to be
-        std::memcpy(data + done, part->constData() + inPart, size_t(count));
+            break;
+        const qint64 inPart = at - part->offset;
+        const qint64 count = std::min(length - done, part->bytes.size() - inPart);
+        std::memcpy(data + done, part->bytes.constData() + inPart, size_t(count));
         done += count;
     }
-    return done;
+    return done == 0 && !m_failure.isEmpty() ? -1 : done;
 }

@@ -26,15 +26,22 @@ protected:
 private:
     struct Part
     {
+        bool holds(qint64 position) const
+        {
+            return position >= offset && position < offset + bytes.size();
+        }
         qint64 offset;
         QByteArray bytes;
     };
 
-    /// The part that begins at \a offset; null when it cannot be read.
-    const QByteArray *partAt(qint64 offset);
+    /// The part that holds \a position; null when it cannot be read or the file ends before.
+    const Part *partAt(qint64 position);
+    qint64 lengthFrom(qint64 offset) const;
 
     HostPipe &m_pipe;
     const qint64 m_size;
     std::list<Part> m_parts; // the one used last in front
+    qint64 m_fetchedEnd = 0; // of the part fetched last
+    qint64 m_fetchedLength = 0;
     QString m_failure;
 };
