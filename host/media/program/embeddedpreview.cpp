@@ -87,8 +87,7 @@ QImage EmbeddedPreview::load(QIODevice &file, const QSize &cover, QString *error
 {
     *error = QCoreApplication::translate("EmbeddedPreview", "There is no preview in the file.");
     try {
-        const auto photo = Exiv2::ImageFactory::open(Exiv2::BasicIo::AutoPtr(new ExivFile(file)));
-        photo->readMetadata();
+        const auto photo = ExivFile::readPhoto(file);
         const int orientation = orientationOf(photo->exifData());
         const Exiv2::PreviewManager previews(*photo);
         const auto candidates = inOrder(previews.getPreviewProperties(), cover);

@@ -9,6 +9,16 @@ namespace {
 constexpr qint64 MaxWhole = 256 << 20; // the largest raw files of cameras are half of this
 }
 
+Exiv2::Image::AutoPtr ExivFile::readPhoto(QIODevice &device)
+{
+    Exiv2::Image::AutoPtr photo = Exiv2::ImageFactory::open(
+        Exiv2::BasicIo::AutoPtr(new ExivFile(device)));
+    if (!photo.get())
+        throw Exiv2::Error(Exiv2::kerErrorMessage, "no kind of photo that is known");
+    photo->readMetadata();
+    return photo;
+}
+
 ExivFile::ExivFile(QIODevice &device)
     : m_device(device)
 {

@@ -3,6 +3,7 @@
 #include <QIODevice>
 
 #include <exiv2/basicio.hpp>
+#include <exiv2/image.hpp>
 
 #include <memory>
 
@@ -10,6 +11,10 @@
 class ExivFile : public Exiv2::BasicIo
 {
 public:
+    /// The photo in \a device with its metadata, never null. Throws Exiv2::AnyError when there is
+    /// none.
+    static Exiv2::Image::AutoPtr readPhoto(QIODevice &device);
+
     explicit ExivFile(QIODevice &device);
 
     int open() override;

@@ -161,8 +161,7 @@ MediaAnswer photoMetadata(QIODevice &file)
     QSize size;
     int orientation = 0;
     try {
-        const auto photo = Exiv2::ImageFactory::open(Exiv2::BasicIo::AutoPtr(new ExivFile(file)));
-        photo->readMetadata();
+        const auto photo = ExivFile::readPhoto(file);
         const Reader reader(*photo);
         reader.readInto(&answer);
         orientation = reader.orientation();

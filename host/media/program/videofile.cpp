@@ -7,6 +7,7 @@ extern "C" {
 #include <libavutil/display.h>
 }
 
+#include <algorithm>
 #include <cmath>
 #include <new>
 
@@ -118,6 +119,17 @@ bool VideoFile::openHead(const QString &extension, QString *error)
     if (result < 0)
         *error = tr("The video is broken or of an unknown kind: %1.").arg(reason(result));
     return result >= 0;
+}
+
+bool VideoFile::seek(qint64 position)
+{
+    const qint64 start = m_context->start_time == AV_NOPTS_VALUE ? 0 : m_context->start_time;
+    return av_seek_frame(m_context, -1, start + position, AVSEEK_FLAG_BACKWARD) >= 0;
+}
+
+qint64 VideoFile::duration() const
+{
+    return std::max<qint64>(0, m_context->duration); // unknown is the least number
 }
 
 QSize VideoFile::size() const

@@ -26,8 +26,12 @@ public:
     /// Only as far as what it is: for libraries that insist on looking for the streams themselves.
     bool openHead(const QString &extension, QString *error);
 
+    /// The next frame read is a whole one at or before \a position. False when there is no way.
+    bool seek(qint64 position);
+
     AVFormatContext *context() const { return m_context; }
     AVStream *stream() const { return m_stream; } ///< after open()
+    qint64 duration() const;                      ///< after open(); in microseconds, 0: unknown
     QSize size() const; ///< after open(); as it is shown: turned if the file says so
 
 private:

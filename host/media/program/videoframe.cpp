@@ -27,33 +27,21 @@ int longSide(const QSize &size, const QSize &cover)
     return std::max(2, qRound(std::max(size.width(), size.height()) * scale));
 }
 
-} // namespace
-
-QImage loadVideoFrame(QIODevice &file, const QString &extension, const QSize &cover, QString *error)
+QImage frameAt(qint64 position, QIODevice &file, const QString &extension, int side, QString *error)
 {
-    QSize size;
-    {
-        VideoFile whole(file);
-        if (!whole.open(extension, error))
-            return QImage();
-        size = whole.size();
-    }
     VideoFile video(file);
-    if (!video.openHead(extension, error))
+    if (!video.openHead(extension, error) || (position > 0 && !video.seek(position)))
         return QImage();
-    *error = QCoreApplication::translate("VideoFrame", "No frame of the video can be decoded.");
     const std::unique_ptr<video_thumbnailer, decltype(&video_thumbnailer_destroy)> thumbnailer(
         video_thumbnailer_create(), &video_thumbnailer_destroy);
     const std::unique_ptr<image_data, decltype(&video_thumbnailer_destroy_image_data)> frame(
         video_thumbnailer_create_image_data(), &video_thumbnailer_destroy_image_data);
-    const int side = longSide(size, cover);
     video_thumbnailer_set_size(thumbnailer.get(), side, side);
-    thumbnailer->seek_percentage = SeekPercent;
     thumbnailer->thumbnail_image_type = Rgb;
     thumbnailer->av_format_context = video.context();
-    // the name is not opened: there is a context
-    if (video_thumbnailer_generate_thumbnail_to_buffer(thumbnailer.get(), "video", frame.get())
-        != 0)
+    // Nothing of this name is opened: there is a context. But the library does not seek in it: when
+    // that fails it begins again with a context that is used up, and crashes.
+    if (video_thumbnailer_generate_thumbnail_to_buffer(thumbnailer.get(), "-", frame.get()) != 0)
         return QImage();
     const int width = frame->image_data_width;
     const int height = frame->image_data_height;
@@ -64,6 +52,28 @@ QImage loadVideoFrame(QIODevice &file, const QString &extension, const QSize &co
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(image.scanLine(y), frame->image_data_ptr + qptrdiff(y) * width * BytesPerPixel,
                     size_t(width) * BytesPerPixel);
-    error->clear();
+    return image;
+}
+
+} // namespace
+
+QImage loadVideoFrame(QIODevice &file, const QString &extension, const QSize &cover, QString *error)
+{
+    qint64 position = 0;
+    int side = 0;
+    {
+        VideoFile video(file);
+        if (!video.open(extension, error))
+            return QImage();
+        position = video.duration() / 100 * SeekPercent;
+        side = longSide(video.size(), cover);
+    }
+    QImage image = frameAt(position, file, extension, side, error);
+    if (image.isNull() && position > 0)
+        image = frameAt(0, file, extension, side, error);
+    if (!image.isNull())
+        error->clear();
+    else if (error->isEmpty())
+        *error = QCoreApplication::translate("VideoFrame", "No frame of the video can be decoded.");
     return image;
 }
