@@ -114,7 +114,7 @@ void Session::takeVolumes(const QVector<VolumeInfo> &volumes)
     m_publisher.start();
     emit opened();
     if (MediaSetup::installedProgram().isEmpty())
-        emit noticed(MediaSetup::missingMessage());
+        emit failed(MediaSetup::missingMessage());
     emit shownRootChanged();
 }
 

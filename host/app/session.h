@@ -66,6 +66,7 @@ signals:
     void fileActivated(const ItemRecord *file);
     void recoverRequested();
     void noticed(const QString &text); ///< worth telling, but no failure
+    void failed(const QString &text);
     void tooltipRequested(const QString &text);
     /// A thumbnail was asked for or has been answered.
     void thumbnailTraffic();

@@ -47,7 +47,8 @@ void MetadataReader::request(const FoundItem &item)
 
 void MetadataReader::drop()
 {
-    for (const qint64 id : m_pool->drop(this))
+    const QVector<qint64> dropped = m_pool->drop(this);
+    for (const qint64 id : dropped)
         m_pending.remove(id);
 }
 

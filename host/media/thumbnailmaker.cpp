@@ -66,7 +66,8 @@ void ThumbnailMaker::request(const FoundItem &item, const QString &extension)
 
 void ThumbnailMaker::drop()
 {
-    for (const qint64 id : m_pool->drop(this))
+    const QVector<qint64> dropped = m_pool->drop(this);
+    for (const qint64 id : dropped)
         m_pending.remove(id);
 }
 

@@ -129,6 +129,7 @@ void MainWindow::connectSession()
             [this](const QString &text) { m_banner->tell(MessageBanner::Hint, text); });
     connect(&m_session, &Session::tooltipRequested, this,
             [this](const QString &text) { QToolTip::showText(QCursor::pos(), text, this); });
+    connect(&m_session, &Session::failed, this, &MainWindow::tellFailure);
     connect(&m_opener, &FileOpener::failed, this, &MainWindow::tellFailure);
 }
 

@@ -80,7 +80,8 @@ bool TestMediaMetadata::read(const FoundFolder &folder, const QString &name)
         m_failure = failed.first().at(1).toString();
         return !m_failure.isEmpty() && failed.first().at(0).toLongLong() == item.id;
     }
-    for (const auto &entry : ready.first().at(1).value<MetaData>())
+    const auto metaData = ready.first().at(1).value<MetaData>();
+    for (const auto &entry : metaData)
         m_values.insert(entry.first, entry.second);
     m_scenes = ready.first().at(2).toStringList();
     return ready.first().at(0).toLongLong() == item.id;
@@ -279,7 +280,7 @@ void TestMediaMetadata::forgetsAnotherSource()
     MetadataReader reader;
     reader.setSource(m_fixtures.source);
     QSignalSpy ready(&reader, &MetadataReader::metadataReady);
-    for (const FoundItem &item : m_fixtures.items)
+    for (const FoundItem &item : qAsConst(m_fixtures.items))
         reader.request(item);
     const FoundFolder other({{QStringLiteral("other.bmp"), "no picture"}});
     reader.setSource(other.source);

@@ -90,7 +90,7 @@ private slots:
     void writesTheFileAndAnswers();
     void refusesInOrder();
     void forgetsAnotherSourcesFiles();
-    void latestFirstAndDroppable();
+    void answersEachAndDrops();
     void diesAtWork();
 };
 
@@ -246,7 +246,7 @@ void TestMediaThumbnails::forgetsAnotherSourcesFiles()
     QCOMPARE(ready.size(), 2); // the answer to the request before was not for this source
 }
 
-void TestMediaThumbnails::latestFirstAndDroppable()
+void TestMediaThumbnails::answersEachAndDrops()
 {
     QHash<QString, QByteArray> files;
     const QByteArray picture = encoded(QSize(3000, 2000), "JPG");
@@ -262,11 +262,10 @@ void TestMediaThumbnails::latestFirstAndDroppable()
         maker.request(item, QStringLiteral("jpg"));
     QVERIFY(settled.wait(20000));
     QCOMPARE(ready.size(), 12);
-    QStringList order;
+    QSet<qint64> answered;
     for (const auto &call : qAsConst(ready))
-        order << QString::number(call.first().toLongLong() - items.first().id);
-    QVERIFY2(ready.last().first().toLongLong() != items.last().id,
-             qPrintable(order.join(QLatin1Char(' '))));
+        answered.insert(call.first().toLongLong());
+    QCOMPARE(answered.size(), 12);
     for (const FoundItem &item : items)
         maker.request(item, QStringLiteral("jpg"));
     maker.drop();

@@ -9,11 +9,11 @@ namespace {
 constexpr qint64 MaxWhole = 256 << 20; // the largest raw files of cameras are half of this
 }
 
-Exiv2::Image::AutoPtr ExivFile::readPhoto(QIODevice &device)
+std::unique_ptr<Exiv2::Image> ExivFile::readPhoto(QIODevice &device)
 {
-    Exiv2::Image::AutoPtr photo = Exiv2::ImageFactory::open(
-        Exiv2::BasicIo::AutoPtr(new ExivFile(device)));
-    if (!photo.get())
+    std::unique_ptr<Exiv2::Image> photo(
+        Exiv2::ImageFactory::open(Exiv2::BasicIo::AutoPtr(new ExivFile(device))).release());
+    if (!photo)
         throw Exiv2::Error(Exiv2::kerErrorMessage, "no kind of photo that is known");
     photo->readMetadata();
     return photo;

@@ -13,7 +13,7 @@ class ExivFile : public Exiv2::BasicIo
 public:
     /// The photo in \a device with its metadata, never null. Throws Exiv2::AnyError when there is
     /// none.
-    static Exiv2::Image::AutoPtr readPhoto(QIODevice &device);
+    static std::unique_ptr<Exiv2::Image> readPhoto(QIODevice &device);
 
     explicit ExivFile(QIODevice &device);
 

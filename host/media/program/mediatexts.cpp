@@ -34,7 +34,8 @@ bool isBetween(double value, double least, double most)
 QString MediaTexts::clean(const QString &text)
 {
     QString line;
-    for (const QChar c : text.left(8 * MaxLength)) {
+    const QString part = text.left(8 * MaxLength);
+    for (const QChar c : part) {
         if (c.isNull())
             break; // fields of fixed length are filled up with anything
         line += c.isPrint() ? c : QLatin1Char(' ');

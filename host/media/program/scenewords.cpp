@@ -75,7 +75,8 @@ QHash<QString, QString> makeTable()
         const QString id = QString::fromLatin1(scene.id);
         table.insert(normal(id), id);
         const QString words = QString::fromLatin1(scene.words);
-        for (const QString &word : words.split(QLatin1Char(',')))
+        const QStringList list = words.split(QLatin1Char(','));
+        for (const QString &word : list)
             table.insert(word, id);
     }
     return table;
@@ -107,7 +108,8 @@ QStringList SceneWords::scenesOf(const QStringList &keywords)
     static const QRegularExpression s_steps(QStringLiteral("[|/;,]"));
     QStringList scenes;
     for (const QString &keyword : keywords) {
-        for (const QString &step : keyword.split(s_steps)) {
+        const QStringList steps = keyword.split(s_steps);
+        for (const QString &step : steps) {
             const QString scene = sceneOf(normal(step));
             if (!scene.isEmpty() && !scenes.contains(scene))
                 scenes.append(scene);
