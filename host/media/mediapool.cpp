@@ -31,6 +31,7 @@ std::shared_ptr<MediaPool> MediaPool::shared()
 
 MediaPool::MediaPool(const MediaSetup &setup)
     : m_setup(setup)
+    , m_alive(setup.helpers)
 {
     for (int i = 0; i < m_setup.helpers; ++i) {
         // a QThread: processes of Qt need its event dispatcher
@@ -49,6 +50,11 @@ MediaPool::~MediaPool()
             task->abandoned = true;
     }
     m_arrived.notify_all();
+    {
+        // Sanitizers see this, but not how a thread of Qt is waited for.
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_ended.wait(lock, [this] { return m_alive == 0; });
+    }
     for (const auto &thread : m_threads)
         thread->wait();
 }
@@ -122,15 +128,19 @@ MediaPool::TaskPointer MediaPool::take()
 
 void MediaPool::work()
 {
-    MediaHelper helper(m_setup);
+    auto helper = std::make_unique<MediaHelper>(m_setup);
     while (const TaskPointer task = take()) {
-        serve(helper, task);
+        serve(*helper, task);
         {
             const std::lock_guard<std::mutex> lock(m_mutex);
             m_running.erase(std::find(m_running.begin(), m_running.end(), task));
         }
         m_ended.notify_all();
     }
+    helper.reset();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    --m_alive;
+    m_ended.notify_all(); // with the lock: the pool may go right after
 }
 
 void MediaPool::serve(MediaHelper &helper, const TaskPointer &task)

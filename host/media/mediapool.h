@@ -76,6 +76,7 @@ private:
     std::vector<TaskPointer> m_running;
     QHash<qint64, int> m_kills; // by file
     bool m_stopping = false;
+    int m_alive = 0; // threads
 
     std::vector<std::unique_ptr<QThread>> m_threads;
 };
