@@ -51,6 +51,7 @@ void GridMode::connectCards()
     // The press reaches the delegate before the view has changed its selection.
     connect(m_delegate, &IconDelegate::signalMutilSelectEvent, this, &GridMode::onMultiSelectEvent,
             Qt::QueuedConnection);
+    connect(m_delegate, &IconDelegate::signalClickRightButton, this, &GridMode::contextMenuWanted);
     connect(m_delegate, &IconDelegate::signalShowTooltip, this, &GridMode::tooltipWanted);
     connect(m_delegate, &IconDelegate::signalGetThumItem, this, &GridMode::thumbnailMissing);
 }

@@ -35,6 +35,7 @@ signals:
     void openRequested(TreeItemData *item, const QString &source);
     void thumbnailMissing(TreeItemData *item);
     void tooltipWanted(const QString &text);
+    void contextMenuWanted(const QModelIndex &index);
 
 private:
     void connectCards();

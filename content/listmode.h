@@ -50,6 +50,7 @@ signals:
     void metaDataWanted(TreeItemData *item);
     void locationClicked(TreeItemData *item);
     void tooltipWanted(const QString &text);
+    void contextMenuWanted(const QModelIndex &index);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -5,6 +5,7 @@
 #include "content/checkall.h"
 #include "content/checktoggle.h"
 #include "content/contentpages.h"
+#include "content/contextmenu.h"
 #include "content/currentitem.h"
 #include "content/gridmode.h"
 #include "content/listmode.h"
@@ -80,6 +81,7 @@ void SDCardContentDataWidget::createViews()
     m_checkAll = new CheckAll(ui->allCheckButton, ui->iconModeHederView, m_list->header(), this);
 
     m_current = new CurrentItem(m_model, {ui->listView, m_list->table()}, this);
+    m_menu = new ContextMenu(m_model, this);
     m_overlay = new OverlayScrollBar(ui->listView, this);
     setTabOrder(ui->allCheckButton, ui->iconModeHederView);
     setTabOrder(ui->iconModeHederView, ui->listView);
@@ -126,6 +128,15 @@ void SDCardContentDataWidget::connectModes()
     connect(m_grid, &GridMode::tooltipWanted, this,
             &SDCardContentDataWidget::signalScanViewShowTooltip);
 
+    // After the press has changed the selection, which the menu is about.
+    connect(m_grid, &GridMode::contextMenuWanted, m_menu, &ContextMenu::openAtMouse,
+            Qt::QueuedConnection);
+    connect(m_list, &ListMode::contextMenuWanted, m_menu, &ContextMenu::openAtMouse,
+            Qt::QueuedConnection);
+    connect(m_menu, &ContextMenu::openRequested, this, &SDCardContentDataWidget::openItem);
+    connect(m_menu, &ContextMenu::recoverRequested, this,
+            &SDCardContentDataWidget::signalRightMenuRecover);
+
     connect(m_list, &ListMode::sortClicked, this, &SDCardContentDataWidget::applySort);
     connect(m_list, &ListMode::checkChanged, this, &SDCardContentDataWidget::onCheckChanged);
     connect(m_list, &ListMode::openRequested, this, &SDCardContentDataWidget::openItem);
@@ -155,6 +166,7 @@ void SDCardContentDataWidget::retranslate()
     m_pages->retranslate();
     ui->iconModeHederView->retranslate();
     m_list->retranslate();
+    m_menu->retranslate();
     emit m_model->headerDataChanged(Qt::Horizontal, 0, ScanDataModel::ColumnCount - 1);
     repaintViews();
 }
@@ -177,6 +189,7 @@ void SDCardContentDataWidget::updateTheme(THEMETYPE)
         m_checkAll->refresh();
         ui->iconModeHederView->updateTheme();
         m_list->updateTheme();
+        m_menu->updateTheme();
         repaintViews();
     });
 }
@@ -544,6 +557,12 @@ bool SDCardContentDataWidget::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         if (handleKey(static_cast<QKeyEvent *>(event)->key()))
             return true;
+        break;
+    case QEvent::ContextMenu:
+        if (static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard) {
+            m_menu->openAtCurrent(*viewInUse());
+            return true;
+        }
         break;
     case QEvent::Resize:
     case QEvent::Show:

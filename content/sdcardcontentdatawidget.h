@@ -14,6 +14,7 @@
 
 class CheckAll;
 class ContentPages;
+class ContextMenu;
 class CurrentItem;
 class GridMode;
 class ListMode;
@@ -122,6 +123,7 @@ private:
     ContentPages *m_pages = nullptr;
     CheckAll *m_checkAll = nullptr;
     CurrentItem *m_current = nullptr;
+    ContextMenu *m_menu = nullptr;
     ThumbnailRequests *m_thumbnails = nullptr;
     FilterCondition *m_filter = nullptr;
     QPointer<TreeItemData> m_root;

@@ -5,6 +5,7 @@
 #include "model/headerview.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
+#include "popups/rightmenudialog.h"
 #include "support/recordtree.h"
 
 #include <QLabel>
@@ -42,6 +43,8 @@ private slots:
     void selectionMovesBetweenTheViews();
     void oneSelectAllOneSort();
     void paneFollowsTheCurrentItem();
+    void contextMenuActs_data();
+    void contextMenuActs();
     void pathClickLocates_data();
     void pathClickLocates();
 
@@ -433,6 +436,60 @@ void TestContentWidget::paneFollowsTheCurrentItem()
     QCOMPARE(metadata.first().first().value<TreeItemData *>(), tree.root.childFiles.at(1));
     widget.setViewMode(2);
     QVERIFY(!pane->isVisible());
+}
+
+void TestContentWidget::contextMenuActs_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<int>("entry");
+    QTest::newRow("grid, mouse, preview") << 0 << false << 0;
+    QTest::newRow("grid, key, recover") << 0 << true << 1;
+    QTest::newRow("list, mouse, recover") << 2 << false << 1;
+    QTest::newRow("list, key, preview") << 2 << true << 0;
+}
+
+void TestContentWidget::contextMenuActs()
+{
+    QFETCH(int, mode);
+    QFETCH(bool, byKey);
+    QFETCH(int, entry);
+    RecordTree tree;
+    tree.addFiles(6);
+    Content widget(1);
+    show(widget);
+    widget.setViewMode(mode);
+    widget.updateData(&tree.root, QString());
+    QSignalSpy opened(&widget, &Content::signalDoubleClicked);
+    QSignalSpy recovered(&widget, &Content::signalRightMenuRecover);
+    QAbstractItemView *view = gridOf(widget);
+    if (mode != 0)
+        view = widget.findChild<ScanTableView *>();
+    const QModelIndex index = modelOf(widget)->index(2, 0);
+    view->setCurrentIndex(index);
+    if (byKey) {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
+        QCoreApplication::sendEvent(view, &event);
+    } else {
+        QTest::mouseClick(view->viewport(), Qt::RightButton, {}, view->visualRect(index).center());
+    }
+    RightMenuDialog *menu = nullptr;
+    QTRY_VERIFY((menu = widget.findChild<RightMenuDialog *>()) && menu->isVisible());
+
+    tree.addFiles(3); // results stream in while the menu is open
+    widget.updateData(&tree.root, QString());
+    if (entry == 0)
+        menu->slotPreviewItem();
+    else
+        menu->slotRecoverEntry();
+    QCOMPARE(opened.count(), entry == 0 ? 1 : 0);
+    QCOMPARE(recovered.count(), entry == 1 ? 1 : 0);
+    const QList<QVariant> arguments = entry == 0 ? opened.first() : recovered.first();
+    QCOMPARE(arguments.first().value<TreeItemData *>(), tree.root.childFiles.at(2));
+    if (entry == 0)
+        QCOMPARE(arguments.at(1).toString(), QStringLiteral("right_click_menu"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!widget.findChild<RightMenuDialog *>());
 }
 
 void TestContentWidget::pathClickLocates_data()
