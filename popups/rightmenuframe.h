@@ -17,7 +17,7 @@ class RightMenuFrame : public QFrame
     Q_OBJECT
 
 public:
-    enum FrameState { Normal, Hover, Selected };
+    enum FrameState : int { Normal, Hover, Selected };
     Q_ENUM(FrameState)
 
     explicit RightMenuFrame(QWidget *parent = nullptr);
