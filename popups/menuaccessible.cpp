@@ -91,7 +91,8 @@ int MenuAccessible::indexOfChild(const QAccessibleInterface *child) const
 
 QAccessibleInterface *MenuAccessible::focusChild() const
 {
-    for (RightMenuFrame *entry : widget()->findChildren<RightMenuFrame *>()) {
+    const auto entries = widget()->findChildren<RightMenuFrame *>();
+    for (RightMenuFrame *entry : entries) {
         if (entry->isHighlighted())
             return QAccessible::queryAccessibleInterface(entry);
     }

@@ -82,8 +82,8 @@ RightMenuDialog::RightMenuDialog(QWidget *parent)
     y += m_recoverEntry->height() + EntriesInset;
     ui->frame->setFixedHeight(y);
 
-    installEventFilter(m_previewEntry);
-    installEventFilter(m_recoverEntry);
+    installEventFilter(m_previewEntry); // clazy:exclude=install-event-filter
+    installEventFilter(m_recoverEntry); // clazy:exclude=install-event-filter
     m_selectedAction = NoAction;
     doChangLanguage();
 }
