@@ -90,6 +90,23 @@ void GridMode::forgetMultiSelection()
     m_delegate->clearMarkedIndexes();
 }
 
+void GridMode::rememberAnchor()
+{
+    const QModelIndex anchor = m_view->selectionAnchor();
+    m_anchorRow = anchor.row();
+    m_anchorItem = m_model->itemAt(anchor);
+}
+
+void GridMode::restoreAnchor()
+{
+    if (!m_anchorItem)
+        return;
+    const int row = m_anchorRow < m_model->unchangedPrefix() ? m_anchorRow
+                                                             : m_model->rowOf(m_anchorItem);
+    if (row >= 0)
+        m_view->setSelectionAnchor(m_model->index(row, 0));
+}
+
 void GridMode::onPressed(const QModelIndex &index)
 {
     if (!index.isValid()) {

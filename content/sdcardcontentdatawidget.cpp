@@ -369,11 +369,14 @@ void SDCardContentDataWidget::giveToModel(TreeItemData *root)
         memory.capture(*viewInUse(), *m_model,
                        grid ? ui->listView->visibleRows().first
                             : m_list->table()->visibleRows().first);
+    m_grid->rememberAnchor();
     m_model->openFolder(root);
-    if (sameTree)
+    if (sameTree) {
         memory.restore(*viewInUse(), *m_model);
-    else
+        m_grid->restoreAnchor();
+    } else {
         viewInUse()->scrollToTop();
+    }
 }
 
 void SDCardContentDataWidget::reset()

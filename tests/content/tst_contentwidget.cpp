@@ -28,6 +28,7 @@ private slots:
     }
     void growthDisturbsNothing_data();
     void growthDisturbsNothing();
+    void shiftStartsFromTheSameItemAfterGrowth();
     void anotherTreeStartsAtItsFirstItem();
     void itemThatLeftHandsOverToItsNeighbour();
     void deadRecordsAreNeitherShownNorTouched();
@@ -115,6 +116,30 @@ void TestContentWidget::growthDisturbsNothing()
         }
     }
     QVERIFY(found);
+}
+
+void TestContentWidget::shiftStartsFromTheSameItemAfterGrowth()
+{
+    RecordTree tree;
+    tree.addFiles(20, QStringLiteral("m%1.jpg"));
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    modelOf(widget)->sort(ScanDataModel::NameColumn, Qt::DescendingOrder);
+    ThumbnailGrid *grid = gridOf(widget);
+    const auto click = [&](int row, Qt::KeyboardModifiers modifiers) {
+        const QRect cell = grid->visualRect(modelOf(widget)->index(row, 0));
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, modifiers,
+                          cell.bottomLeft() + QPoint(cell.width() / 2, -8));
+    };
+    click(1, {});
+    const TreeItemData *anchor = itemAt(widget, 1);
+    tree.addFiles(3, QStringLiteral("z%1.jpg")); // three rows before the anchor
+    widget.updateData(&tree.root, QString());
+    QCOMPARE(itemAt(widget, 4), anchor);
+    click(6, Qt::ShiftModifier);
+    QCOMPARE(widget.selectedItems().size(), 3);
+    QVERIFY(widget.selectedItems().contains(const_cast<TreeItemData *>(anchor)));
 }
 
 void TestContentWidget::anotherTreeStartsAtItsFirstItem()
