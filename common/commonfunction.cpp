@@ -20,7 +20,7 @@ namespace {
 
 constexpr qreal HighDpiRatio = 2.0;
 constexpr int MaskCornerRadius = 12;
-constexpr QLatin1String HighDpiSuffix("@2x.");
+constexpr auto HighDpiSuffix = "@2x.";
 
 enum class Catalogue { Own, Family, None };
 
@@ -158,7 +158,7 @@ qreal CommonFunction::getScaleFactor()
 QString CommonFunction::getHighDpiPath(const QString &base, const QString &extension)
 {
     if (getScaleFactor() >= HighDpiRatio)
-        return base + HighDpiSuffix + extension;
+        return base + QLatin1String(HighDpiSuffix) + extension;
     return base + QLatin1Char('.') + extension;
 }
 
@@ -176,7 +176,7 @@ QString CommonFunction::getThemeImagePath(const QString &name, const QString &ex
 QPixmap CommonFunction::loadPixmap(const QString &path)
 {
     QPixmap pixmap(path);
-    if (pixmap.isNull() || !path.contains(HighDpiSuffix))
+    if (pixmap.isNull() || !path.contains(QLatin1String(HighDpiSuffix)))
         return pixmap;
     const int scale = std::max(int(HighDpiRatio), int(getScaleFactor()));
     if (scale > HighDpiRatio)

@@ -13,9 +13,14 @@
 namespace {
 
 constexpr auto SharedPointerProperty = "FontManager";
-constexpr QLatin1String DefaultFamily("Segoe UI");
+constexpr auto DefaultFamily = "Segoe UI";
 
-QPointer<FontManager> s_instance;
+/// Another module that has adopted the object may delete it.
+QPointer<FontManager> &sharedInstance()
+{
+    static QPointer<FontManager> pointer;
+    return pointer;
+}
 
 /// Languages that share a family. The first family is the one in use; the others follow it where
 /// the machine does not have it.
@@ -70,29 +75,30 @@ QFont makeFont(const QString &family, int pixelSize, int weight)
 
 FontManager *FontManager::instance()
 {
-    if (s_instance)
-        return s_instance;
+    QPointer<FontManager> &shared = sharedInstance();
+    if (shared)
+        return shared;
     QCoreApplication *app = QCoreApplication::instance();
     if (app)
-        s_instance = static_cast<FontManager *>(
-            app->property(SharedPointerProperty).value<void *>());
-    if (!s_instance) {
-        s_instance = new FontManager;
+        shared = static_cast<FontManager *>(app->property(SharedPointerProperty).value<void *>());
+    if (!shared) {
+        shared = new FontManager;
         if (app)
             app->setProperty(SharedPointerProperty,
-                             QVariant::fromValue(static_cast<void *>(s_instance.data())));
+                             QVariant::fromValue(static_cast<void *>(shared.data())));
     }
-    return s_instance;
+    return shared;
 }
 
 void FontManager::release()
 {
-    if (!s_instance)
+    FontManager *shared = sharedInstance();
+    if (!shared)
         return;
     // nobody may adopt what is about to be freed
     if (QCoreApplication *app = QCoreApplication::instance())
         app->setProperty(SharedPointerProperty, QVariant());
-    delete s_instance.data();
+    delete shared;
 }
 
 FontManager::FontManager(QObject *parent)

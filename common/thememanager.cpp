@@ -14,7 +14,6 @@ namespace {
 constexpr auto SharedPointerProperty = "ThemeManager";
 constexpr auto ThemeProperty = "ThemeType";
 
-QMutex s_instanceMutex;
 ThemeManager *s_instance = nullptr;
 
 struct Keys
@@ -54,7 +53,8 @@ void writeSettings(bool follow, THEMETYPE type)
 
 ThemeManager *ThemeManager::instance()
 {
-    QMutexLocker lock(&s_instanceMutex);
+    static QMutex mutex;
+    QMutexLocker lock(&mutex);
     if (s_instance)
         return s_instance;
 

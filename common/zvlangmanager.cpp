@@ -20,7 +20,12 @@ constexpr qint64 LargestSeconds = 9999999999;
 constexpr qint64 SmallestSeconds = -9999999999;
 constexpr qint64 MSecsPerSec = 1000;
 
-QPointer<ZVLangManager> s_instance;
+/// Another module that has adopted the object may delete it.
+QPointer<ZVLangManager> &sharedInstance()
+{
+    static QPointer<ZVLangManager> pointer;
+    return pointer;
+}
 
 using LangFunction = int (*)(const char *request, char *answer, char *error);
 
@@ -45,19 +50,19 @@ JsonRequest requestFor(const QString &lang)
 
 ZVLangManager *ZVLangManager::instance()
 {
-    if (s_instance)
-        return s_instance;
+    QPointer<ZVLangManager> &shared = sharedInstance();
+    if (shared)
+        return shared;
     QCoreApplication *app = QCoreApplication::instance();
     if (app)
-        s_instance = static_cast<ZVLangManager *>(
-            app->property(SharedPointerProperty).value<void *>());
-    if (!s_instance) {
-        s_instance = new ZVLangManager;
+        shared = static_cast<ZVLangManager *>(app->property(SharedPointerProperty).value<void *>());
+    if (!shared) {
+        shared = new ZVLangManager;
         if (app)
             app->setProperty(SharedPointerProperty,
-                             QVariant::fromValue(static_cast<void *>(s_instance.data())));
+                             QVariant::fromValue(static_cast<void *>(shared.data())));
     }
-    return s_instance;
+    return shared;
 }
 
 ZVLangManager::ZVLangManager(QObject *parent)

@@ -49,8 +49,8 @@ void CardBackground::draw(QPainter *painter, const DeviceGrid &grid, const CardL
                   card.label ? int(*card.label) : -1,
                   card.dark,
                   layout.direction == Qt::RightToLeft};
-    auto it = m_plates.constFind(key);
-    if (it == m_plates.constEnd()) {
+    auto it = m_plates.find(key);
+    if (it == m_plates.end()) {
         if (m_plates.size() >= MostPlates)
             m_plates.clear();
         it = m_plates.insert(key, compose(key, layout, card, label));

@@ -134,7 +134,12 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     paintCard(painter, option, index, item, kind, thumbnail);
     // last, because whoever listens may destroy the record
     if (isFile && thumbnail.isNull())
-        emit signalGetThumItem(item);
+        reportMissingThumbnail(item);
+}
+
+void IconDelegate::reportMissingThumbnail(TreeItemData *item) const
+{
+    emit const_cast<IconDelegate *>(this)->signalGetThumItem(item);
 }
 
 void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &option,

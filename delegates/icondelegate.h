@@ -69,7 +69,7 @@ signals:
     void signalClickDouble(QModelIndex index);
     void signalSetCursor(QCursor cursor);
     /// A file without a thumbnail has been painted; emitted from within paint().
-    void signalGetThumItem(TreeItemData *itemData) const;
+    void signalGetThumItem(TreeItemData *itemData);
     void signalMutilSelectEvent();
     void signalShowTooltip(QString tooltip);
 
@@ -78,6 +78,8 @@ private:
     /// Texts and fonts of the language; the font family may also change without notice.
     void retranslate() const;
 
+    /// Painting is const, and what it finds missing is told all the same.
+    void reportMissingThumbnail(TreeItemData *item) const;
     void paintCard(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
                    TreeItemData *item, int kind, const QPixmap &thumbnail) const;
     CardBackground::Look lookOf(const QStyleOptionViewItem &option, const QModelIndex &index,

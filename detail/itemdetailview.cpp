@@ -260,7 +260,8 @@ void ItemDetailView::changeEvent(QEvent *event)
 void ItemDetailView::updateTheme()
 {
     loadStyleSheet();
-    for (DataInfoItem *row : findChildren<DataInfoItem *>())
+    const auto rows = findChildren<DataInfoItem *>();
+    for (DataInfoItem *row : rows)
         row->updateTheme();
     m_tags->updateTheme();
     refresh();

@@ -15,7 +15,7 @@ constexpr int FileKind = 2;
 
 using Content = SDCardContentDataWidget;
 
-QPointer<SDCardScanContentPlugin> s_plugin;
+SDCardScanContentPlugin *s_plugin = nullptr;
 bool s_used = false; // the process-wide objects have been made
 
 QFrame *makeFrame(const char *name, int side, QPointer<SDCardContentDataWidget> *content)
@@ -52,6 +52,8 @@ SDCardScanContentPlugin::SDCardScanContentPlugin(QObject *parent)
 SDCardScanContentPlugin::~SDCardScanContentPlugin()
 {
     qRemovePostRoutine(&beforeApplicationGoes);
+    if (s_plugin == this)
+        s_plugin = nullptr;
     deleteFrames();
     if (s_used)
         ScanPluginPreviewManager::instance()->stop();

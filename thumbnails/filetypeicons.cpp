@@ -87,8 +87,8 @@ QPixmap picture(const char *family, FileTypeIcons::Size size)
     const QString base = folder + nameOf(family, size);
     static QHash<QString, QPixmap> pictures;
     const QString key = CommonFunction::getHighDpiPath(base, QStringLiteral("png"));
-    auto found = pictures.constFind(key);
-    if (found == pictures.constEnd())
+    auto found = pictures.find(key);
+    if (found == pictures.end())
         found = pictures.insert(key, CommonFunction::highDpiPixmap(base));
     return *found;
 }
@@ -100,8 +100,8 @@ QPixmap desktopIcon(const QString &upperExtension, FileTypeIcons::Size size)
     const int side = qRound(int(size) * scale);
     static QMap<QPair<QString, int>, QPixmap> icons;
     const QPair<QString, int> key(upperExtension, side);
-    auto found = icons.constFind(key);
-    if (found == icons.constEnd()) {
+    auto found = icons.find(key);
+    if (found == icons.end()) {
         QPixmap icon = System::fileTypeIcon(upperExtension, side);
         icon.setDevicePixelRatio(scale);
         found = icons.insert(key, icon);

@@ -92,7 +92,8 @@ CommandLine::Answer CommandLine::parse(const QStringList &arguments, QString *me
     quit = parser.isSet(QStringLiteral("quit"));
     for (const char *name : {"recover-to", "screenshot", "report", "check", "plugin"}) {
         const QString option = QLatin1String(name);
-        for (const QString &value : parser.values(option)) {
+        const QStringList values = parser.values(option);
+        for (const QString &value : values) {
             if (value.isEmpty() || value.startsWith(QLatin1String("--"))) {
                 *message = QStringLiteral("--%1 needs a value").arg(option);
                 return Usage;

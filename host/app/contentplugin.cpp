@@ -16,7 +16,8 @@ QStringList candidates()
         const QDir place(home.filePath(QLatin1String(folder)));
         const QStringList patterns{QStringLiteral("SDCardScanContentPlugin*"),
                                    QStringLiteral("libSDCardScanContentPlugin*")};
-        for (const QFileInfo &file : place.entryInfoList(patterns, QDir::Files, QDir::Name)) {
+        const auto found = place.entryInfoList(patterns, QDir::Files, QDir::Name);
+        for (const QFileInfo &file : found) {
             if (QLibrary::isLibrary(file.fileName()))
                 files.append(file.absoluteFilePath());
         }
@@ -42,7 +43,8 @@ bool ContentPlugin::load(const QString &file, QString *error)
     if (!file.isEmpty())
         return loadFile(QFileInfo(file).absoluteFilePath(), error);
     *error = tr("The plug-in SDCardScanContentPlugin is not beside the program.");
-    for (const QString &candidate : candidates()) {
+    const QStringList files = candidates();
+    for (const QString &candidate : files) {
         if (loadFile(candidate, error))
             return true;
     }

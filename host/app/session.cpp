@@ -350,7 +350,8 @@ QVector<FoundItem> Session::selectedForRecovery() const
 QVector<FoundItem> Session::checkedForRecovery() const
 {
     QVector<FoundItem> items;
-    for (const ItemRecord *record : m_tree.checkedItems())
+    const auto checked = m_tree.checkedItems();
+    for (const ItemRecord *record : checked)
         items.append(record->found());
     return items;
 }

@@ -119,8 +119,9 @@ QStringList safePathParts(const QString &path)
 {
     QString unified = path;
     unified.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    const QStringList given = unified.split(QLatin1Char('/'));
     QStringList parts;
-    for (const QString &part : unified.split(QLatin1Char('/'))) {
+    for (const QString &part : given) {
         if (!part.isEmpty() && part != QLatin1String("."))
             parts.append(safeFileName(part));
     }

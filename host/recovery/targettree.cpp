@@ -68,7 +68,8 @@ QString TargetTree::folderFor(const QString &cardPath, QString *error)
 {
     QString card;
     QString folder = m_root;
-    for (const QString &part : cardPath.split(QLatin1Char('/'))) {
+    const QStringList parts = cardPath.split(QLatin1Char('/'));
+    for (const QString &part : parts) {
         if (part.isEmpty())
             continue;
         card += QLatin1Char('/') + part;

@@ -44,7 +44,8 @@ QHash<QString, FileCategory> makeTable()
     QHash<QString, FileCategory> table;
     for (const Family &family : Families) {
         const QString words = QString::fromLatin1(family.extensions);
-        for (const QString &extension : words.split(QLatin1Char(' ')))
+        const QStringList extensions = words.split(QLatin1Char(' '));
+        for (const QString &extension : extensions)
             table.insert(extension, family.category);
     }
     return table;

@@ -45,7 +45,7 @@ const Range Dates[] = {
 
 bool isChosen(const QActionGroup *group)
 {
-    return group->checkedAction() != group->actions().first();
+    return group->checkedAction() != group->actions().constFirst();
 }
 
 } // namespace
@@ -103,7 +103,7 @@ void FilterBar::fillMenus()
             action->setCheckable(true);
         }
         if (isNew)
-            group->actions().first()->setChecked(true);
+            group->actions().constFirst()->setChecked(true);
     };
     QStringList kinds{tr("Any kind")};
     for (const ItemKind &kind : ItemKinds::All)
@@ -146,7 +146,7 @@ FilterCondition FilterBar::condition() const
 void FilterBar::clear()
 {
     for (QActionGroup *group : {m_kinds, m_sizes, m_dates})
-        group->actions().first()->setChecked(true);
+        group->actions().constFirst()->setChecked(true);
     m_deleted->setChecked(false);
     refresh();
 }

@@ -65,7 +65,8 @@ int Segments::chosen() const
 
 void Segments::setTheme(const HostTheme &theme)
 {
-    for (QAbstractButton *button : m_group->buttons()) {
+    const auto buttons = m_group->buttons();
+    for (QAbstractButton *button : buttons) {
         const QVariant glyph = button->property(GlyphProperty);
         if (glyph.isValid())
             button->setIcon(
