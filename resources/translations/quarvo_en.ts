@@ -360,4 +360,27 @@
         <translation>TB</translation>
     </message>
 </context>
+<context>
+    <name>HowToFindPicture</name>
+    <!-- Captions in the drawn window of the how-to-find dialog. Short: a caption may be about twice
+         as wide as the English one, "Search by name" half as wide again. The window also shows
+         reconstructed_files_label, select_all, preview and recover, and the categories Photo, Video,
+         Audio and Document. -->
+    <message>
+        <source>SD card</source>
+        <translation>SD card</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>Deleted files</source>
+        <translation>Deleted files</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>Search by name</translation>
+    </message>
+</context>
 </TS>
