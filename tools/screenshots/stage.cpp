@@ -1,0 +1,221 @@
+#include "stage.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLibrary>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextStream>
+#include <QTimer>
+
+Stage::Stage(const QSize &size)
+{
+    m_window.resize(size);
+    auto *layout = new QHBoxLayout(&m_window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_records = std::make_unique<Records>(m_window.devicePixelRatioF());
+}
+
+Stage::~Stage()
+{
+    if (m_view)
+        m_loader.unload();
+}
+
+bool Stage::load()
+{
+    const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/plugins"));
+    const QStringList files = folder.entryList({QStringLiteral("SDCardScanContentPlugin*")});
+    for (const QString &file : files) {
+        if (QLibrary::isLibrary(file))
+            m_loader.setFileName(folder.filePath(file));
+    }
+    m_view = qobject_cast<SDCardScanContentPluginInterface *>(m_loader.instance());
+    if (!m_view) {
+        QTextStream(stderr) << "quarvo-screenshots: " << m_loader.errorString() << '\n';
+        return false;
+    }
+    connect(m_loader.instance(), SIGNAL(signalGetMetaData(TreeItemData *)), this,
+            SLOT(answerMetaData(TreeItemData *)));
+    m_scan = m_view->getScanContentFrame();
+    m_search = m_view->getSearchResultFrame();
+    m_window.layout()->addWidget(m_scan);
+    m_window.layout()->addWidget(m_search);
+    m_search->hide();
+    m_window.show();
+    return true;
+}
+
+void Stage::setLanguage(const QString &name)
+{
+    Languages::apply(*Languages::find(name));
+    settle(0);
+}
+
+void Stage::setTheme(const QString &name)
+{
+    m_view->updateTheme(name == QLatin1String("dark") ? DarkTheme : LightTheme);
+    settle(0);
+}
+
+void Stage::clear()
+{
+    m_filter = {};
+    m_view->setFilterCondition(&m_filter);
+    m_view->clearData(SDCardScanContentPluginInterface::BothSides);
+    m_search->hide();
+    m_scan->show();
+}
+
+void Stage::showScan(TreeItemData *root, int viewMode)
+{
+    m_view->setScanState(SDCardScanContentPluginInterface::ScanStarted);
+    m_view->setViewMode(viewMode);
+    m_view->updateScanData(root);
+    m_view->setScanState(SDCardScanContentPluginInterface::ScanFinished);
+    handOverThumbnails();
+    settle(0);
+}
+
+void Stage::showSearch(TreeItemData *root, const QString &keyword, int viewMode)
+{
+    m_scan->hide();
+    m_search->show();
+    m_view->setViewMode(viewMode);
+    m_view->updateSearchData(root, keyword);
+    handOverThumbnails();
+    settle(0);
+}
+
+void Stage::handOverThumbnails()
+{
+    const auto &thumbnails = m_records->thumbnails();
+    for (auto it = thumbnails.cbegin(); it != thumbnails.cend(); ++it)
+        m_view->updateThumbnail(it.key(), it.value());
+}
+
+void Stage::answerMetaData(TreeItemData *item)
+{
+    Records::fillMetaData(item);
+}
+
+void Stage::settle(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+}
+
+// What a hand does ------------------------------------------------------------------------------
+
+QFrame *Stage::front() const
+{
+    return m_search->isHidden() ? m_scan : m_search;
+}
+
+QAbstractItemView *Stage::items() const
+{
+    const auto views = front()->findChildren<QAbstractItemView *>();
+    for (QAbstractItemView *view : views) {
+        if (view->isVisible())
+            return view;
+    }
+    return nullptr;
+}
+
+QPoint Stage::placeOf(int row, int column) const
+{
+    return items()->visualRect(items()->model()->index(row, column)).center();
+}
+
+void Stage::send(QEvent::Type type, const QPoint &place, Qt::MouseButton button,
+                 Qt::KeyboardModifiers modifiers)
+{
+    QWidget *target = items()->viewport();
+    QCursor::setPos(target->mapToGlobal(place));
+    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+    QMouseEvent event(type, place, target->mapToGlobal(place), button, held, modifiers);
+    QApplication::sendEvent(target, &event);
+}
+
+void Stage::hover(int row, int column)
+{
+    send(QEvent::MouseMove, placeOf(row, column), Qt::NoButton);
+    settle(0);
+}
+
+void Stage::click(int row, Qt::KeyboardModifiers modifiers)
+{
+    // beside picture, box and icon, where a click does nothing but select
+    const QRect cell = items()->visualRect(items()->model()->index(row, 0));
+    const QPoint place(cell.center().x(), cell.bottom() - 12);
+    send(QEvent::MouseButtonPress, place, Qt::LeftButton, modifiers);
+    send(QEvent::MouseButtonRelease, place, Qt::LeftButton, modifiers);
+    settle(0);
+}
+
+void Stage::openMenu(int row)
+{
+    const QPoint place = placeOf(row, 0);
+    send(QEvent::MouseButtonPress, place, Qt::RightButton);
+    send(QEvent::MouseButtonRelease, place, Qt::RightButton);
+    settle(0);
+}
+
+void Stage::followLink()
+{
+    const auto labels = front()->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (!label->isVisible() || !label->text().contains(QLatin1String("<a ")))
+            continue;
+        QTimer::singleShot(0, this, [this] {
+            settle(0);
+            m_taken = grabAll();
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+                dialog->reject();
+        });
+        emit label->linkActivated(QStringLiteral("#"));
+        return;
+    }
+}
+
+// Taking the picture ----------------------------------------------------------------------------
+
+QImage Stage::grabAll()
+{
+    QPixmap all = m_window.grab();
+    QPainter painter(&all);
+    const auto others = QApplication::topLevelWidgets();
+    for (QWidget *other : others) {
+        if (other == &m_window || !other->isVisible() || !other->isWindow())
+            continue;
+        QPixmap piece(other->size() * other->devicePixelRatioF());
+        piece.setDevicePixelRatio(other->devicePixelRatioF());
+        piece.fill(Qt::transparent);
+        other->render(&piece);
+        painter.drawPixmap(m_window.mapFromGlobal(other->pos()), piece);
+    }
+    painter.end();
+    return all.toImage();
+}
+
+QImage Stage::picture()
+{
+    if (m_taken.isNull())
+        m_taken = grabAll();
+    const auto others = QApplication::topLevelWidgets();
+    for (QWidget *other : others) {
+        if (other != &m_window && other->isVisible())
+            other->close();
+    }
+    if (QAbstractItemView *view = items()) {
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(view->viewport(), &leave);
+    }
+    return std::exchange(m_taken, QImage());
+}

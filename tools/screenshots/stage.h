@@ -1,0 +1,66 @@
+#pragma once
+
+#include "host/app/languages.h"
+#include "plugin/sdcardscancontentplugininterface.h"
+#include "records.h"
+
+#include <QAbstractItemView>
+#include <QEvent>
+#include <QImage>
+#include <QPluginLoader>
+#include <QWidget>
+
+/// A window as a host has it, with the plug-in's two frames, and the hands of somebody who uses it.
+class Stage : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Stage(const QSize &size);
+    ~Stage() override;
+
+    /// False, with a message on standard error, when the plug-in cannot be loaded.
+    bool load();
+    void setLanguage(const QString &name);
+    void setTheme(const QString &name);
+
+    /// Nothing on either side, no filter, the scan side in front.
+    void clear();
+    SDCardScanContentPluginInterface *view() const { return m_view; }
+    Records &records() { return *m_records; }
+    FilterCondition &filter() { return m_filter; }
+    void showScan(TreeItemData *root, int viewMode);
+    void showSearch(TreeItemData *root, const QString &keyword, int viewMode);
+    void handOverThumbnails();
+
+    void hover(int row, int column = 0);
+    void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void openMenu(int row);
+    /// Follows the link of the page in front; the dialog that it opens is closed by the picture.
+    void followLink();
+    /// Lets timers and queued calls do what they have to.
+    static void settle(int milliseconds);
+
+    /// The window with everything that lies over it. Closes what does.
+    QImage picture();
+
+private slots:
+    void answerMetaData(TreeItemData *item);
+
+private:
+    QFrame *front() const;
+    QAbstractItemView *items() const;
+    QPoint placeOf(int row, int column) const;
+    void send(QEvent::Type type, const QPoint &place, Qt::MouseButton button,
+              Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    QImage grabAll();
+
+    QPluginLoader m_loader;
+    SDCardScanContentPluginInterface *m_view = nullptr;
+    std::unique_ptr<Records> m_records;
+    FilterCondition m_filter;
+    QWidget m_window;
+    QFrame *m_scan = nullptr;
+    QFrame *m_search = nullptr;
+    QImage m_taken; ///< while a modal dialog was open
+};
