@@ -8,11 +8,38 @@
 
 using PageChoice::Page;
 
-ContentPages::ContentPages(Ui::SDCardContentDataWidgetClass &form, QObject *parent)
+ContentPages::ContentPages(Ui::SDCardContentDataWidgetClass &form, bool searchSide, QObject *parent)
     : QObject(parent)
     , m_form(form)
     , m_animation(new ScanAnimation(form.animationframe, this))
+    , m_searchSide(searchSide)
 {
+    form.stackedWidget->setCurrentWidget(searchSide ? form.scandatapage : form.scanningpage);
+    loadImages();
+    applyFonts();
+}
+
+PageChoice::Situation ContentPages::situation(const TreeItemData *root) const
+{
+    return {m_searchSide, m_searchMode, m_scanFinished, m_filter, root};
+}
+
+Page ContentPages::pageForTree(const TreeItemData *root) const
+{
+    return PageChoice::forTree(situation(root));
+}
+
+void ContentPages::showForFinishedScan(const TreeItemData *root)
+{
+    const Page page = PageChoice::forFinishedScan(situation(root), current());
+    if (page != current())
+        show(page);
+}
+
+void ContentPages::showLoading()
+{
+    if (!m_searchMode && m_scanFinished)
+        show(Page::Loading);
 }
 
 Page ContentPages::current() const

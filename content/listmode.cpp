@@ -29,7 +29,6 @@ ListMode::ListMode(ScanDataModel *model, QWidget *parent)
 
 void ListMode::connectRows()
 {
-    connect(m_header, &ScanTableHeader::signalSortClicked, this, &ListMode::sortClicked);
     connect(m_delegate, &ListDelegate::signalCheckStateChange, this, &ListMode::checkChanged);
     connect(m_delegate, &ListDelegate::signalClickRightButton, this, &ListMode::contextMenuWanted);
     connect(m_delegate, &ListDelegate::signalShowTooltip, this, &ListMode::tooltipWanted);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "common/themetype.h"
-#include "model/headerviewsorttype.h"
 #include "platform/item/treeitemdata.h"
 
 #include <QObject>
@@ -44,7 +43,6 @@ public:
 
 signals:
     void checkChanged(const QModelIndex &index, Qt::CheckState state);
-    void sortClicked(HeaderViewSortType type);
     void openRequested(TreeItemData *item, const QString &source);
     void thumbnailMissing(TreeItemData *item);
     void metaDataWanted(TreeItemData *item);

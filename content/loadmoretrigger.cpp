@@ -3,20 +3,28 @@
 #include "platform/item/treeitemdata.h"
 
 #include <QAbstractItemView>
+#include <QDebug>
 #include <QScrollBar>
 
-LoadMoreTrigger::LoadMoreTrigger(QAbstractItemView *view, const char *logLine, QObject *parent)
-    : QObject(parent)
-    , m_logLine(logLine)
-{
-    const QScrollBar *bar = view->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) {
-        if (bar->maximum() >= 1 && value == bar->maximum())
-            emit bottomReached();
-    });
-}
+namespace {
 
-bool LoadMoreTrigger::hasMore(const TreeItemData *root)
+/// Constant time: it is asked while scrolling.
+bool hasMore(const TreeItemData *root)
 {
     return root && root->childFolders.size() + root->childFiles.size() < root->itemCount;
+}
+
+} // namespace
+
+LoadMoreTrigger::LoadMoreTrigger(QAbstractItemView *view, const char *logLine,
+                                 std::function<TreeItemData *()> root, QObject *parent)
+    : QObject(parent)
+{
+    const QScrollBar *bar = view->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar, logLine, root](int value) {
+        if (bar->maximum() < 1 || value != bar->maximum() || !hasMore(root()))
+            return;
+        qDebug() << logLine;
+        emit moreWanted(root());
+    });
 }

@@ -1,8 +1,6 @@
 #pragma once
 
 #include "common/themetype.h"
-#include "content/pagechoice.h"
-#include "content/viewmemory.h"
 #include "model/headerviewsorttype.h"
 #include "platform/item/treeitemdata.h"
 
@@ -14,13 +12,12 @@
 
 class CheckAll;
 class ContentPages;
+class ContentViews;
 class ContextMenu;
 class CurrentItem;
-class GridMode;
-class ListMode;
-class OverlayScrollBar;
+class ItemChecks;
 class ScanDataModel;
-class QAbstractItemView;
+class SortChoice;
 class ThumbnailRequests;
 struct FilterCondition;
 
@@ -47,7 +44,7 @@ public:
     void setViewMode(int mode);
     /// 1 started, 4 finished, 5 stop the animation.
     void setScanState(int state);
-    bool scanFinished() const { return m_scanFinished; }
+    bool scanFinished() const;
     void setScanFinished(bool finished);
     void setSearchMode(bool searchMode);
     void reset();
@@ -92,45 +89,25 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void createViews();
+    void createParts();
+    void connectParts();
     void connectViews();
-    void connectModes();
-    void connectThumbnails();
     void loadStyleSheet();
 
-    PageChoice::Situation situation() const;
-    void showHeaders();
-    void repaintViews();
-
-    void giveToModel(TreeItemData *root);
     void locate(int row);
-
-    void onCheckChanged(const QModelIndex &index, Qt::CheckState state);
-    void onThumbnailArrived(qint64 fileId);
     void openItem(TreeItemData *item, const QString &source);
     void goToLocation(TreeItemData *item);
-    void applySort(HeaderViewSortType type);
-    void checkAll(Qt::CheckState state);
-    void toggleSelectedChecks();
-    bool handleKey(int key);
-    QAbstractItemView *viewInUse() const;
+    void onSortChosen(HeaderViewSortType type);
 
     std::unique_ptr<Ui::SDCardContentDataWidgetClass> ui;
     ScanDataModel *m_model = nullptr;
-    GridMode *m_grid = nullptr;
-    ListMode *m_list = nullptr;
-    OverlayScrollBar *m_overlay = nullptr;
     ContentPages *m_pages = nullptr;
+    ContentViews *m_views = nullptr;
     CheckAll *m_checkAll = nullptr;
+    ItemChecks *m_checks = nullptr;
+    SortChoice *m_sort = nullptr;
     CurrentItem *m_current = nullptr;
     ContextMenu *m_menu = nullptr;
     ThumbnailRequests *m_thumbnails = nullptr;
-    FilterCondition *m_filter = nullptr;
     QPointer<TreeItemData> m_root;
-    ViewMemory m_gridMemory;
-    ViewMemory m_tableMemory;
-    int m_viewMode = 0;
-    const int m_side;
-    bool m_searchMode = false;
-    bool m_scanFinished = false;
 };

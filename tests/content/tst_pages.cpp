@@ -1,3 +1,4 @@
+#include "content/pagechoice.h"
 #include "content/sdcardcontentdatawidget.h"
 #include "platform/item/filtercondition.h"
 #include "support/recordtree.h"

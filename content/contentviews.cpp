@@ -1,0 +1,170 @@
+#include "content/contentviews.h"
+
+#include "content/gridmode.h"
+#include "content/listmode.h"
+#include "content/overlayscrollbar.h"
+#include "content/scantableview.h"
+#include "content/viewkeys.h"
+#include "delegates/listdelegate.h"
+#include "detail/itemdetailview.h"
+#include "model/scandatamodel.h"
+#include "ui_sdcardcontentdatawidget.h"
+
+#include <QScrollBar>
+
+ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel *model,
+                           QWidget *parent)
+    : QObject(parent)
+    , m_form(form)
+    , m_model(model)
+    , m_grid(new GridMode(form.listView, model, this))
+    , m_list(new ListMode(model, form.frame_4))
+    , m_overlay(new OverlayScrollBar(form.listView, parent))
+{
+    // The select-all control stands where the check boxes of the cards do.
+    form.headerViewHorizontalLayout->removeWidget(form.iconModeHederView);
+    form.headerViewHorizontalLayout->addWidget(form.iconModeHederView, 1);
+    form.horizontalLayout_4->insertWidget(1, m_list->table(), 1);
+    form.itemDetailFrameVLayout->addWidget(m_list->pane());
+    form.itemDetailframe->hide();
+    form.vlineframe->hide();
+    form.listModeHeaderView->hide();
+    form.iconModeHederView->hide();
+
+    QWidget::setTabOrder(form.allCheckButton, form.iconModeHederView);
+    QWidget::setTabOrder(form.iconModeHederView, form.listView);
+    QWidget::setTabOrder(form.listView, m_list->table());
+    QWidget::setTabOrder(m_list->table(), m_list->pane());
+    relay(m_grid);
+    relay(m_list);
+    connectKeys();
+    const QScrollBar *bar = form.listView->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, this, [this](int minimum, int maximum) {
+        m_list->delegate()->setGridCanScroll(maximum > minimum);
+    });
+}
+
+void ContentViews::connectKeys()
+{
+    const auto *keys = new ViewKeys({m_grid->view(), m_list->table()}, this);
+    connect(keys, &ViewKeys::toggleWanted, this, &ContentViews::toggleWanted);
+    connect(keys, &ViewKeys::menuWanted, this, &ContentViews::menuWanted);
+    connect(keys, &ViewKeys::openWanted, this, [this] {
+        emit openRequested(m_model->itemAt(inUse()->currentIndex()),
+                           QStringLiteral("double_click"));
+    });
+}
+
+template <typename View>
+void ContentViews::relay(const View *view)
+{
+    connect(view, &View::checkChanged, this,
+            [this](const QModelIndex &index, Qt::CheckState state) {
+                if (TreeItemData *item = m_model->itemAt(index))
+                    emit itemChecked(item, state);
+            });
+    connect(view, &View::openRequested, this, &ContentViews::openRequested);
+    connect(view, &View::tooltipWanted, this, &ContentViews::tooltipWanted);
+    connect(view, &View::thumbnailMissing, this, &ContentViews::thumbnailMissing);
+    connect(view, &View::contextMenuWanted, this, &ContentViews::contextMenuWanted);
+}
+
+void ContentViews::setMode(int mode, const QModelIndex &current)
+{
+    const bool grid = mode == GridOnly;
+    const bool pane = mode == ListWithPane;
+    QAbstractItemView *before = inUse();
+    m_mode = mode;
+    m_form.headerViewFrame->setVisible(grid);
+    m_form.listView->setVisible(grid);
+    m_list->table()->setVisible(!grid);
+    m_form.spaceframe->setVisible(pane);
+    m_form.vlineframe->setVisible(pane);
+    m_form.itemDetailframe->setVisible(pane);
+    m_list->setPaneShown(pane);
+    m_list->fitColumns();
+    if (before != inUse()) {
+        m_grid->forgetMultiSelection();
+        ViewMemory::copySelection(*before, *inUse(), *m_model);
+        inUse()->scrollTo(current);
+    }
+    showHeaders();
+    placeOverlay();
+}
+
+QAbstractItemView *ContentViews::inUse() const
+{
+    if (m_mode == GridOnly)
+        return m_grid->view();
+    return m_list->table();
+}
+
+QList<TreeItemData *> ContentViews::selectedItems() const
+{
+    const QModelIndexList indexes = m_mode == GridOnly
+        ? m_grid->selectedIndexes()
+        : m_list->table()->selectionModel()->selectedRows();
+    QList<TreeItemData *> items;
+    items.reserve(indexes.size());
+    for (const QModelIndex &index : indexes) {
+        if (TreeItemData *item = m_model->itemAt(index))
+            items.append(item);
+    }
+    return items;
+}
+
+void ContentViews::openTree(TreeItemData *root, bool shownAlready)
+{
+    const bool grid = m_mode == GridOnly;
+    // Only the view in use: the other takes its selection over when it is shown.
+    ViewMemory &memory = grid ? m_gridMemory : m_tableMemory;
+    if (shownAlready)
+        memory.capture(*inUse(), *m_model,
+                       grid ? m_grid->view()->visibleRows().first
+                            : m_list->table()->visibleRows().first);
+    m_grid->rememberAnchor();
+    m_model->openFolder(root);
+    if (shownAlready) {
+        memory.restore(*inUse(), *m_model);
+        m_grid->restoreAnchor();
+    } else {
+        inUse()->scrollToTop();
+    }
+}
+
+void ContentViews::setAssessmentFinished(bool finished)
+{
+    m_grid->setAssessmentFinished(finished);
+    m_list->setAssessmentFinished(finished);
+}
+
+void ContentViews::setSearchKeyword(const QString &keyword)
+{
+    m_grid->setSearchKeyword(keyword);
+    m_list->setSearchKeyword(keyword);
+}
+
+void ContentViews::showThumbnail(qint64 fileId)
+{
+    m_grid->showThumbnail(fileId);
+    m_list->showThumbnail(fileId);
+}
+
+void ContentViews::showHeaders()
+{
+    // The table brings its own header: the container for one stays empty.
+    const bool rows = m_model->rowCount() > 0;
+    m_form.iconModeHederView->setVisible(rows && m_mode == GridOnly);
+    m_form.listModeHeaderView->setVisible(rows && m_mode != GridOnly);
+}
+
+void ContentViews::repaint()
+{
+    m_grid->view()->viewport()->update();
+    m_list->table()->viewport()->update();
+}
+
+void ContentViews::placeOverlay()
+{
+    m_overlay->sync();
+}

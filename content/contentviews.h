@@ -1,0 +1,79 @@
+#pragma once
+
+#include "content/viewmemory.h"
+
+#include <QObject>
+
+class GridMode;
+class ListMode;
+class OverlayScrollBar;
+class QAbstractItemView;
+class ScanDataModel;
+class ThumbnailGrid;
+class TreeItemData;
+
+namespace Ui {
+class SDCardContentDataWidgetClass;
+}
+
+/// The two views of a content area over its one model, grid and list: which of them is in use, the
+/// frames, headers and scroll bar that come and go with it, and the keys that mean the same in
+/// both. The form is the content area's. GUI thread.
+class ContentViews : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Mode { GridOnly = 0, ListWithPane = 1, ListOnly = 2 };
+
+    ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel *model, QWidget *parent);
+
+    GridMode *grid() const { return m_grid; }
+    ListMode *list() const { return m_list; }
+
+    int mode() const { return m_mode; }
+    static bool isKnown(int mode) { return mode >= GridOnly && mode <= ListOnly; }
+    /// The view that comes into use takes the selection over and shows \a current.
+    void setMode(int mode, const QModelIndex &current);
+    /// The view on screen.
+    QAbstractItemView *inUse() const;
+
+    /// By rows; in the grid the last multi-selection where the view has one item at most.
+    QList<TreeItemData *> selectedItems() const;
+    /// Gives the tree to the model. Of a tree that is shown already the view in use keeps
+    /// selection and scroll position; another starts at its top.
+    void openTree(TreeItemData *root, bool shownAlready);
+
+    void setAssessmentFinished(bool finished);
+    void setSearchKeyword(const QString &keyword);
+    void showThumbnail(qint64 fileId);
+    void showHeaders();
+    void repaint();
+    /// The grid has another place, size or page.
+    void placeOverlay();
+
+signals:
+    // Of whichever view the user is in.
+    void itemChecked(TreeItemData *item, Qt::CheckState state);
+    void openRequested(TreeItemData *item, const QString &source);
+    void tooltipWanted(const QString &text);
+    void thumbnailMissing(TreeItemData *item);
+    void contextMenuWanted(const QModelIndex &index);
+    // By key.
+    void toggleWanted();
+    void menuWanted();
+
+private:
+    template <typename View>
+    void relay(const View *view);
+    void connectKeys();
+
+    Ui::SDCardContentDataWidgetClass &m_form;
+    ScanDataModel *m_model;
+    GridMode *m_grid;
+    ListMode *m_list;
+    OverlayScrollBar *m_overlay;
+    ViewMemory m_gridMemory;
+    ViewMemory m_tableMemory;
+    int m_mode = GridOnly;
+};

@@ -1,0 +1,35 @@
+#include "content/viewkeys.h"
+
+#include <QAbstractItemView>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+
+ViewKeys::ViewKeys(const QVector<QAbstractItemView *> &views, QObject *parent)
+    : QObject(parent)
+{
+    for (QAbstractItemView *view : views)
+        view->installEventFilter(this);
+}
+
+bool ViewKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent *>(event)->key()) {
+        case Qt::Key_Space:
+            emit toggleWanted();
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            emit openWanted();
+            return true;
+        default:
+            break;
+        }
+    } else if (event->type() == QEvent::ContextMenu
+               && static_cast<QContextMenuEvent *>(event)->reason()
+                   == QContextMenuEvent::Keyboard) {
+        emit menuWanted();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
