@@ -14,3 +14,14 @@ function(scan_translations target)
     file(MAKE_DIRECTORY "${QUARVO_BIN_DIR}/translations")
     add_custom_target(${target} ALL DEPENDS ${outputs})
 endfunction()
+
+# update-texts: brings every catalogue up to date with the sources, for a translator to go on from.
+# By hand only: it writes into the source tree.
+function(scan_update_texts target folder)
+    file(GLOB catalogues "${folder}/*.ts")
+    add_custom_target(${target}
+        COMMAND Qt5::lupdate -silent -no-obsolete -locations none -source-language en
+                ${ARGN} -ts ${catalogues}
+        WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
+        COMMENT "Updating the catalogues" VERBATIM)
+endfunction()

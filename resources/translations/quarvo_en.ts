@@ -2,8 +2,152 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en">
 <context>
+    <name>CommonFunction</name>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>Email</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Database</translation>
+    </message>
+    <message>
+        <source>Webfiles</source>
+        <translation>Webfiles</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Archive</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Others</translation>
+    </message>
+    <message>
+        <source>Unsaved files</source>
+        <translation>Unsaved files</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Game</translation>
+    </message>
+    <message>
+        <source>Recycle Bin</source>
+        <translation>Recycle Bin</translation>
+    </message>
+    <message>
+        <source>File lost location</source>
+        <translation>File lost location</translation>
+    </message>
+</context>
+<context>
+    <name>ElidedLabel</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderView</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Date modified</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Location</translation>
+    </message>
+</context>
+<context>
+    <name>HowToFindPicture</name>
+    <message>
+        <source>SD card</source>
+        <translation>SD card</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>Deleted files</source>
+        <translation>Deleted files</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>Search by name</translation>
+    </message>
+</context>
+<context>
+    <name>ItemDetailViewClass</name>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+</context>
+<context>
     <name>QuarvoTRS</name>
-    <!-- Names, columns and facts -->
+    <message>
+        <source>reconstructed_files_label</source>
+        <extracomment>The place of files that were found by their contents and have lost their names</extracomment>
+        <translation>Files without names</translation>
+    </message>
+    <message>
+        <source>time_nav_root_all_time</source>
+        <extracomment>All files, arranged by date</extracomment>
+        <translation>Any time</translation>
+    </message>
+    <message>
+        <source>time_nav_root_unknown_time</source>
+        <translation>Unknown time</translation>
+    </message>
+    <message>
+        <source>SizeUnit_Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>SizeUnit_KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_TB</source>
+        <translation>TB</translation>
+    </message>
     <message>
         <source>name</source>
         <translation>Name</translation>
@@ -22,10 +166,12 @@
     </message>
     <message>
         <source>path</source>
+        <extracomment>The folder that a file lay in; header of a column and title of a row</extracomment>
         <translation>Location</translation>
     </message>
     <message>
         <source>folder</source>
+        <extracomment>The type of a folder, where a file has its extension</extracomment>
         <translation>Folder</translation>
     </message>
     <message>
@@ -34,10 +180,12 @@
     </message>
     <message>
         <source>filter_bar_widget_existing_files</source>
+        <extracomment>A status: the file is still on the card</extracomment>
         <translation>Existing file</translation>
     </message>
     <message>
         <source>filter_bar_widget_delete_files</source>
+        <extracomment>A status: the file was deleted</extracomment>
         <translation>Deleted file</translation>
     </message>
     <message>
@@ -54,6 +202,7 @@
     </message>
     <message>
         <source>model</source>
+        <extracomment>Of a camera</extracomment>
         <translation>Camera model</translation>
     </message>
     <message>
@@ -82,64 +231,58 @@
     </message>
     <message>
         <source>f_number</source>
+        <extracomment>Of a lens</extracomment>
         <translation>Aperture</translation>
     </message>
     <message>
         <source>view_in_path</source>
+        <extracomment>Tooltip of the mark that leads to the file&apos;s folder</extracomment>
         <translation>Show in its folder</translation>
     </message>
-    <!-- Choosing and acting -->
     <message>
         <source>select_all</source>
         <translation>Select all</translation>
     </message>
     <message>
         <source>preview</source>
+        <extracomment>A button and a menu entry</extracomment>
         <translation>Preview</translation>
     </message>
     <message>
         <source>recover</source>
+        <extracomment>A menu entry</extracomment>
         <translation>Recover</translation>
     </message>
     <message>
         <source>got_it</source>
+        <extracomment>Closes an explanation</extracomment>
         <translation>Got it</translation>
     </message>
-    <!-- Recoverability -->
     <message>
         <source>recoverability_label</source>
+        <extracomment>Stands before a level in a tooltip</extracomment>
         <translation>Recoverability</translation>
     </message>
     <message>
         <source>recoverability_label_list</source>
+        <extracomment>Title of a row</extracomment>
         <translation>Recoverability</translation>
     </message>
     <message>
         <source>recoverability_high</source>
+        <extracomment>A level, in a small label on a card</extracomment>
         <translation>High</translation>
     </message>
     <message>
         <source>recoverability_medium</source>
+        <extracomment>A level, in a small label on a card</extracomment>
         <translation>Medium</translation>
     </message>
     <message>
         <source>recoverability_assessing</source>
+        <extracomment>The level is not known yet, in a small label on a card</extracomment>
         <translation>Assessing</translation>
     </message>
-    <!-- Places -->
-    <message>
-        <source>reconstructed_files_label</source>
-        <translation>Files without names</translation>
-    </message>
-    <message>
-        <source>time_nav_root_all_time</source>
-        <translation>Any time</translation>
-    </message>
-    <message>
-        <source>time_nav_root_unknown_time</source>
-        <translation>Unknown time</translation>
-    </message>
-    <!-- Pages -->
     <message>
         <source>scanning</source>
         <translation>Scanning</translation>
@@ -154,7 +297,7 @@
     </message>
     <message>
         <source>scandataview_file_not_found_hint</source>
-        <translation>No files of this kind could be found. Please check that the right disk is being scanned.</translation>
+        <translation>Sorry, no files of this kind were found. Please check that the right disk is selected for scanning.</translation>
     </message>
     <message>
         <source>ai_tags_loading_title</source>
@@ -178,14 +321,17 @@
     </message>
     <message>
         <source>missing_original_filenames</source>
-        <translation>1. Some files have lost their original names. Please look for them under &lt;a href=&quot;#&quot; style=&quot;text-decoration: none; color: #0091FF;&quot;&gt;files without names&lt;/a&gt;.</translation>
+        <extracomment>Keep the number and the link; the link&apos;s words are those of reconstructed_files_label</extracomment>
+        <translation>1. Some files have lost their original names. Please look for them among the &lt;a href=&quot;#&quot;&gt;files without names&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>scandataview_search_hint_wait_scan</source>
+        <extracomment>Keep the number</extracomment>
         <translation>2. Wait until the scan has finished, then search again.</translation>
     </message>
     <message>
         <source>scandataview_search_hint_use_filter</source>
+        <extracomment>Keep the number</extracomment>
         <translation>3. Use the filter to narrow down your files.</translation>
     </message>
     <message>
@@ -194,7 +340,7 @@
     </message>
     <message>
         <source>ai_search_empty_desc</source>
-        <translation>The search found nothing in the current scan results that matches your description.</translation>
+        <translation>Nothing in the current scan results matches your description.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
@@ -208,7 +354,6 @@
         <source>ai_search_empty_tip3</source>
         <translation>You can also narrow the results with the filter or search by name.</translation>
     </message>
-    <!-- How to find files that lost their names -->
     <message>
         <source>how_to_find_in_reconstructed</source>
         <translation>How to find files without names</translation>
@@ -229,7 +374,6 @@
         <source>search_dialog_text3</source>
         <translation>Preview the files to find the ones you lost.</translation>
     </message>
-    <!-- Scenes -->
     <message>
         <source>ai_tags_title</source>
         <translation>Scenes</translation>
@@ -338,49 +482,44 @@
         <source>ai_tags_chat_screenshot</source>
         <translation>Chat screenshot</translation>
     </message>
-    <!-- Units -->
-    <message>
-        <source>SizeUnit_Bytes</source>
-        <translation>Bytes</translation>
-    </message>
-    <message>
-        <source>SizeUnit_KB</source>
-        <translation>KB</translation>
-    </message>
-    <message>
-        <source>SizeUnit_MB</source>
-        <translation>MB</translation>
-    </message>
-    <message>
-        <source>SizeUnit_GB</source>
-        <translation>GB</translation>
-    </message>
-    <message>
-        <source>SizeUnit_TB</source>
-        <translation>TB</translation>
-    </message>
 </context>
 <context>
-    <name>HowToFindPicture</name>
-    <!-- Captions in the drawn window of the how-to-find dialog. Short: a caption may be about twice
-         as wide as the English one, "Search by name" half as wide again. The window also shows
-         reconstructed_files_label, select_all, preview and recover, and the categories Photo, Video,
-         Audio and Document. -->
+    <name>SDCardContentDataWidgetClass</name>
     <message>
-        <source>SD card</source>
-        <translation>SD card</translation>
+        <source>Select All</source>
+        <translation>Select all</translation>
     </message>
     <message>
-        <source>All files</source>
-        <translation>All files</translation>
+        <source>Scanning</source>
+        <translation>Scanning</translation>
     </message>
     <message>
-        <source>Deleted files</source>
-        <translation>Deleted files</translation>
+        <source>Please wait while we quickly locate your files.</source>
+        <translation>Please wait while we quickly locate your files.</translation>
     </message>
     <message>
-        <source>Search by name</source>
-        <translation>Search by name</translation>
+        <source>File Not Found</source>
+        <translation>No files found</translation>
+    </message>
+    <message>
+        <source>Sorry, the file type could not be found. Please check if the correct disk is selected for scanning.</source>
+        <translation>Sorry, no files of this kind were found. Please check that the right disk is selected for scanning.</translation>
+    </message>
+    <message>
+        <source>Loading Files...</source>
+        <translation>Loading files…</translation>
+    </message>
+    <message>
+        <source>This may take a moment.</source>
+        <translation>This may take a moment.</translation>
+    </message>
+    <message>
+        <source>Nothing matches this filter...</source>
+        <translation>Nothing matches this filter</translation>
+    </message>
+    <message>
+        <source>We found files in the scan, but none match the filters currently applied.</source>
+        <translation>The scan found files, but none of them matches the filters that are set.</translation>
     </message>
 </context>
 </TS>

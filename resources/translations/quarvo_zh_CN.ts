@@ -1,0 +1,525 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>CommonFunction</name>
+    <message>
+        <source>Photo</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音频</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>电子邮件</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>数据库</translation>
+    </message>
+    <message>
+        <source>Webfiles</source>
+        <translation>网页文件</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>压缩文件</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>Unsaved files</source>
+        <translation>未保存的文件</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>游戏</translation>
+    </message>
+    <message>
+        <source>Recycle Bin</source>
+        <translation>回收站</translation>
+    </message>
+    <message>
+        <source>File lost location</source>
+        <translation>丢失的位置</translation>
+    </message>
+</context>
+<context>
+    <name>ElidedLabel</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderView</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>修改日期</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>位置</translation>
+    </message>
+</context>
+<context>
+    <name>HowToFindPicture</name>
+    <message>
+        <source>SD card</source>
+        <translation>SD 卡</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>Deleted files</source>
+        <translation>已删除文件</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>按名称搜索</translation>
+    </message>
+</context>
+<context>
+    <name>ItemDetailViewClass</name>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+</context>
+<context>
+    <name>QuarvoTRS</name>
+    <message>
+        <source>reconstructed_files_label</source>
+        <extracomment>The place of files that were found by their contents and have lost their names</extracomment>
+        <translation>无名称文件</translation>
+    </message>
+    <message>
+        <source>time_nav_root_all_time</source>
+        <extracomment>All files, arranged by date</extracomment>
+        <translation>所有时间</translation>
+    </message>
+    <message>
+        <source>time_nav_root_unknown_time</source>
+        <translation>未知时间</translation>
+    </message>
+    <message>
+        <source>SizeUnit_Bytes</source>
+        <translation>字节</translation>
+    </message>
+    <message>
+        <source>SizeUnit_KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_TB</source>
+        <translation>TB</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>date_modified</source>
+        <translation>修改日期</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <extracomment>The folder that a file lay in; header of a column and title of a row</extracomment>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <extracomment>The type of a folder, where a file has its extension</extracomment>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>file_status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>filter_bar_widget_existing_files</source>
+        <extracomment>A status: the file is still on the card</extracomment>
+        <translation>现有文件</translation>
+    </message>
+    <message>
+        <source>filter_bar_widget_delete_files</source>
+        <extracomment>A status: the file was deleted</extracomment>
+        <translation>已删除文件</translation>
+    </message>
+    <message>
+        <source>resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>iso_speed</source>
+        <translation>ISO 感光度</translation>
+    </message>
+    <message>
+        <source>camera_brand</source>
+        <translation>相机品牌</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <extracomment>Of a camera</extracomment>
+        <translation>相机型号</translation>
+    </message>
+    <message>
+        <source>white_balance</source>
+        <translation>白平衡</translation>
+    </message>
+    <message>
+        <source>exposure_time</source>
+        <translation>曝光时间</translation>
+    </message>
+    <message>
+        <source>focal_length</source>
+        <translation>焦距</translation>
+    </message>
+    <message>
+        <source>software</source>
+        <translation>软件</translation>
+    </message>
+    <message>
+        <source>frame_rate</source>
+        <translation>帧率</translation>
+    </message>
+    <message>
+        <source>bit_rate</source>
+        <translation>比特率</translation>
+    </message>
+    <message>
+        <source>f_number</source>
+        <extracomment>Of a lens</extracomment>
+        <translation>光圈</translation>
+    </message>
+    <message>
+        <source>view_in_path</source>
+        <extracomment>Tooltip of the mark that leads to the file&apos;s folder</extracomment>
+        <translation>在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>select_all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <extracomment>A button and a menu entry</extracomment>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>recover</source>
+        <extracomment>A menu entry</extracomment>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>got_it</source>
+        <extracomment>Closes an explanation</extracomment>
+        <translation>知道了</translation>
+    </message>
+    <message>
+        <source>recoverability_label</source>
+        <extracomment>Stands before a level in a tooltip</extracomment>
+        <translation>可恢复性</translation>
+    </message>
+    <message>
+        <source>recoverability_label_list</source>
+        <extracomment>Title of a row</extracomment>
+        <translation>可恢复性</translation>
+    </message>
+    <message>
+        <source>recoverability_high</source>
+        <extracomment>A level, in a small label on a card</extracomment>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>recoverability_medium</source>
+        <extracomment>A level, in a small label on a card</extracomment>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>recoverability_assessing</source>
+        <extracomment>The level is not known yet, in a small label on a card</extracomment>
+        <translation>评估中</translation>
+    </message>
+    <message>
+        <source>scanning</source>
+        <translation>正在扫描</translation>
+    </message>
+    <message>
+        <source>scandataview_scanning_hint</source>
+        <translation>正在快速查找您的文件，请稍候。</translation>
+    </message>
+    <message>
+        <source>file_not_found</source>
+        <translation>未找到文件</translation>
+    </message>
+    <message>
+        <source>scandataview_file_not_found_hint</source>
+        <translation>未找到此类文件。请检查是否选择了正确的磁盘进行扫描。</translation>
+    </message>
+    <message>
+        <source>ai_tags_loading_title</source>
+        <translation>正在加载文件…</translation>
+    </message>
+    <message>
+        <source>ai_tags_loading_desc</source>
+        <translation>这可能需要一点时间。</translation>
+    </message>
+    <message>
+        <source>filter_empty_title</source>
+        <translation>没有符合筛选条件的文件</translation>
+    </message>
+    <message>
+        <source>filter_empty_desc</source>
+        <translation>扫描已找到文件，但没有文件符合当前的筛选条件。</translation>
+    </message>
+    <message>
+        <source>scandataview_search_no_result</source>
+        <translation>抱歉，未找到文件</translation>
+    </message>
+    <message>
+        <source>missing_original_filenames</source>
+        <extracomment>Keep the number and the link; the link&apos;s words are those of reconstructed_files_label</extracomment>
+        <translation>1. 部分文件丢失了原始名称，请在&lt;a href=&quot;#&quot;&gt;无名称文件&lt;/a&gt;中查找。</translation>
+    </message>
+    <message>
+        <source>scandataview_search_hint_wait_scan</source>
+        <extracomment>Keep the number</extracomment>
+        <translation>2. 请等待扫描完成后再次搜索。</translation>
+    </message>
+    <message>
+        <source>scandataview_search_hint_use_filter</source>
+        <extracomment>Keep the number</extracomment>
+        <translation>3. 使用筛选功能缩小查找范围。</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_title</source>
+        <translation>抱歉，未找到结果</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_desc</source>
+        <translation>当前扫描结果中没有与您的描述相符的文件。</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip1</source>
+        <translation>请尝试其他描述，例如文件类型、日期或大小。</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip2</source>
+        <translation>如果扫描仍在进行，请等待找到更多文件。</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip3</source>
+        <translation>您也可以使用筛选功能或按名称搜索来缩小结果范围。</translation>
+    </message>
+    <message>
+        <source>how_to_find_in_reconstructed</source>
+        <translation>如何查找无名称文件</translation>
+    </message>
+    <message>
+        <source>reconstructed_tip_intro</source>
+        <translation>部分文件丢失了名称，无法按原名称搜索。您可以这样查找：</translation>
+    </message>
+    <message>
+        <source>click_reconstructed</source>
+        <translation>打开“无名称文件”。</translation>
+    </message>
+    <message>
+        <source>search_dialog_text2</source>
+        <translation>选择要恢复的文件类型。</translation>
+    </message>
+    <message>
+        <source>search_dialog_text3</source>
+        <translation>预览文件，找到丢失的文件。</translation>
+    </message>
+    <message>
+        <source>ai_tags_title</source>
+        <translation>场景</translation>
+    </message>
+    <message>
+        <source>ai_tags_landscape</source>
+        <translation>风景</translation>
+    </message>
+    <message>
+        <source>ai_tags_beach</source>
+        <translation>海滩</translation>
+    </message>
+    <message>
+        <source>ai_tags_cityscape</source>
+        <translation>城市风光</translation>
+    </message>
+    <message>
+        <source>ai_tags_hotel</source>
+        <translation>酒店</translation>
+    </message>
+    <message>
+        <source>ai_tags_aerial</source>
+        <translation>航拍</translation>
+    </message>
+    <message>
+        <source>ai_tags_children</source>
+        <translation>儿童</translation>
+    </message>
+    <message>
+        <source>ai_tags_pet</source>
+        <translation>宠物</translation>
+    </message>
+    <message>
+        <source>ai_tags_birthday</source>
+        <translation>生日</translation>
+    </message>
+    <message>
+        <source>ai_tags_dinner</source>
+        <translation>聚餐</translation>
+    </message>
+    <message>
+        <source>ai_tags_performance</source>
+        <translation>演出</translation>
+    </message>
+    <message>
+        <source>ai_tags_exhibition</source>
+        <translation>展览</translation>
+    </message>
+    <message>
+        <source>ai_tags_sports</source>
+        <translation>运动</translation>
+    </message>
+    <message>
+        <source>ai_tags_graduation</source>
+        <translation>毕业</translation>
+    </message>
+    <message>
+        <source>ai_tags_wedding_dress</source>
+        <translation>婚纱</translation>
+    </message>
+    <message>
+        <source>ai_tags_bouquet</source>
+        <translation>花束</translation>
+    </message>
+    <message>
+        <source>ai_tags_food</source>
+        <translation>美食</translation>
+    </message>
+    <message>
+        <source>ai_tags_meeting_room</source>
+        <translation>会议室</translation>
+    </message>
+    <message>
+        <source>ai_tags_presentation</source>
+        <translation>演示文稿</translation>
+    </message>
+    <message>
+        <source>ai_tags_whiteboard</source>
+        <translation>白板</translation>
+    </message>
+    <message>
+        <source>ai_tags_product</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>ai_tags_selfie</source>
+        <translation>自拍</translation>
+    </message>
+    <message>
+        <source>ai_tags_group_photo</source>
+        <translation>合影</translation>
+    </message>
+    <message>
+        <source>ai_tags_id_photo</source>
+        <translation>证件照</translation>
+    </message>
+    <message>
+        <source>ai_tags_paper_document</source>
+        <translation>纸质文档</translation>
+    </message>
+    <message>
+        <source>ai_tags_identity_document</source>
+        <translation>证件</translation>
+    </message>
+    <message>
+        <source>ai_tags_chat_screenshot</source>
+        <translation>聊天截图</translation>
+    </message>
+</context>
+<context>
+    <name>SDCardContentDataWidgetClass</name>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>正在扫描</translation>
+    </message>
+    <message>
+        <source>Please wait while we quickly locate your files.</source>
+        <translation>正在快速查找您的文件，请稍候。</translation>
+    </message>
+    <message>
+        <source>File Not Found</source>
+        <translation>未找到文件</translation>
+    </message>
+    <message>
+        <source>Sorry, the file type could not be found. Please check if the correct disk is selected for scanning.</source>
+        <translation>未找到此类文件。请检查是否选择了正确的磁盘进行扫描。</translation>
+    </message>
+    <message>
+        <source>Loading Files...</source>
+        <translation>正在加载文件…</translation>
+    </message>
+    <message>
+        <source>This may take a moment.</source>
+        <translation>这可能需要一点时间。</translation>
+    </message>
+    <message>
+        <source>Nothing matches this filter...</source>
+        <translation>没有符合筛选条件的文件</translation>
+    </message>
+    <message>
+        <source>We found files in the scan, but none match the filters currently applied.</source>
+        <translation>扫描已找到文件，但没有文件符合当前的筛选条件。</translation>
+    </message>
+</context>
+</TS>

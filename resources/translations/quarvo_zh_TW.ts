@@ -1,0 +1,525 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="en">
+<context>
+    <name>CommonFunction</name>
+    <message>
+        <source>Photo</source>
+        <translation>相片</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音訊</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>電子郵件</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>資料庫</translation>
+    </message>
+    <message>
+        <source>Webfiles</source>
+        <translation>網頁檔案</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>壓縮檔</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>Unsaved files</source>
+        <translation>未儲存的檔案</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>遊戲</translation>
+    </message>
+    <message>
+        <source>Recycle Bin</source>
+        <translation>資源回收筒</translation>
+    </message>
+    <message>
+        <source>File lost location</source>
+        <translation>遺失的位置</translation>
+    </message>
+</context>
+<context>
+    <name>ElidedLabel</name>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderView</name>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>類型</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>修改日期</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>位置</translation>
+    </message>
+</context>
+<context>
+    <name>HowToFindPicture</name>
+    <message>
+        <source>SD card</source>
+        <translation>SD 卡</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有檔案</translation>
+    </message>
+    <message>
+        <source>Deleted files</source>
+        <translation>已刪除的檔案</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>依名稱搜尋</translation>
+    </message>
+</context>
+<context>
+    <name>ItemDetailViewClass</name>
+    <message>
+        <source>Open</source>
+        <translation>開啟</translation>
+    </message>
+</context>
+<context>
+    <name>QuarvoTRS</name>
+    <message>
+        <source>reconstructed_files_label</source>
+        <extracomment>The place of files that were found by their contents and have lost their names</extracomment>
+        <translation>無名稱檔案</translation>
+    </message>
+    <message>
+        <source>time_nav_root_all_time</source>
+        <extracomment>All files, arranged by date</extracomment>
+        <translation>所有時間</translation>
+    </message>
+    <message>
+        <source>time_nav_root_unknown_time</source>
+        <translation>未知時間</translation>
+    </message>
+    <message>
+        <source>SizeUnit_Bytes</source>
+        <translation>位元組</translation>
+    </message>
+    <message>
+        <source>SizeUnit_KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>SizeUnit_TB</source>
+        <translation>TB</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>類型</translation>
+    </message>
+    <message>
+        <source>date_modified</source>
+        <translation>修改日期</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <extracomment>The folder that a file lay in; header of a column and title of a row</extracomment>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <extracomment>The type of a folder, where a file has its extension</extracomment>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>file_status</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>filter_bar_widget_existing_files</source>
+        <extracomment>A status: the file is still on the card</extracomment>
+        <translation>現有檔案</translation>
+    </message>
+    <message>
+        <source>filter_bar_widget_delete_files</source>
+        <extracomment>A status: the file was deleted</extracomment>
+        <translation>已刪除的檔案</translation>
+    </message>
+    <message>
+        <source>resolution</source>
+        <translation>解析度</translation>
+    </message>
+    <message>
+        <source>iso_speed</source>
+        <translation>ISO 感光度</translation>
+    </message>
+    <message>
+        <source>camera_brand</source>
+        <translation>相機品牌</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <extracomment>Of a camera</extracomment>
+        <translation>相機型號</translation>
+    </message>
+    <message>
+        <source>white_balance</source>
+        <translation>白平衡</translation>
+    </message>
+    <message>
+        <source>exposure_time</source>
+        <translation>曝光時間</translation>
+    </message>
+    <message>
+        <source>focal_length</source>
+        <translation>焦距</translation>
+    </message>
+    <message>
+        <source>software</source>
+        <translation>軟體</translation>
+    </message>
+    <message>
+        <source>frame_rate</source>
+        <translation>畫面播放速率</translation>
+    </message>
+    <message>
+        <source>bit_rate</source>
+        <translation>位元速率</translation>
+    </message>
+    <message>
+        <source>f_number</source>
+        <extracomment>Of a lens</extracomment>
+        <translation>光圈</translation>
+    </message>
+    <message>
+        <source>view_in_path</source>
+        <extracomment>Tooltip of the mark that leads to the file&apos;s folder</extracomment>
+        <translation>在資料夾中顯示</translation>
+    </message>
+    <message>
+        <source>select_all</source>
+        <translation>全選</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <extracomment>A button and a menu entry</extracomment>
+        <translation>預覽</translation>
+    </message>
+    <message>
+        <source>recover</source>
+        <extracomment>A menu entry</extracomment>
+        <translation>還原</translation>
+    </message>
+    <message>
+        <source>got_it</source>
+        <extracomment>Closes an explanation</extracomment>
+        <translation>知道了</translation>
+    </message>
+    <message>
+        <source>recoverability_label</source>
+        <extracomment>Stands before a level in a tooltip</extracomment>
+        <translation>可還原性</translation>
+    </message>
+    <message>
+        <source>recoverability_label_list</source>
+        <extracomment>Title of a row</extracomment>
+        <translation>可還原性</translation>
+    </message>
+    <message>
+        <source>recoverability_high</source>
+        <extracomment>A level, in a small label on a card</extracomment>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>recoverability_medium</source>
+        <extracomment>A level, in a small label on a card</extracomment>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>recoverability_assessing</source>
+        <extracomment>The level is not known yet, in a small label on a card</extracomment>
+        <translation>評估中</translation>
+    </message>
+    <message>
+        <source>scanning</source>
+        <translation>正在掃描</translation>
+    </message>
+    <message>
+        <source>scandataview_scanning_hint</source>
+        <translation>正在快速尋找您的檔案，請稍候。</translation>
+    </message>
+    <message>
+        <source>file_not_found</source>
+        <translation>找不到檔案</translation>
+    </message>
+    <message>
+        <source>scandataview_file_not_found_hint</source>
+        <translation>找不到此類檔案。請檢查是否選擇了正確的磁碟進行掃描。</translation>
+    </message>
+    <message>
+        <source>ai_tags_loading_title</source>
+        <translation>正在載入檔案…</translation>
+    </message>
+    <message>
+        <source>ai_tags_loading_desc</source>
+        <translation>這可能需要一點時間。</translation>
+    </message>
+    <message>
+        <source>filter_empty_title</source>
+        <translation>沒有符合篩選條件的檔案</translation>
+    </message>
+    <message>
+        <source>filter_empty_desc</source>
+        <translation>掃描已找到檔案，但沒有檔案符合目前的篩選條件。</translation>
+    </message>
+    <message>
+        <source>scandataview_search_no_result</source>
+        <translation>抱歉，找不到檔案</translation>
+    </message>
+    <message>
+        <source>missing_original_filenames</source>
+        <extracomment>Keep the number and the link; the link&apos;s words are those of reconstructed_files_label</extracomment>
+        <translation>1. 部分檔案遺失了原始名稱，請在&lt;a href=&quot;#&quot;&gt;無名稱檔案&lt;/a&gt;中尋找。</translation>
+    </message>
+    <message>
+        <source>scandataview_search_hint_wait_scan</source>
+        <extracomment>Keep the number</extracomment>
+        <translation>2. 請等待掃描完成後再次搜尋。</translation>
+    </message>
+    <message>
+        <source>scandataview_search_hint_use_filter</source>
+        <extracomment>Keep the number</extracomment>
+        <translation>3. 使用篩選功能縮小尋找範圍。</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_title</source>
+        <translation>抱歉，找不到結果</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_desc</source>
+        <translation>目前的掃描結果中沒有與您的描述相符的檔案。</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip1</source>
+        <translation>請嘗試其他描述，例如檔案類型、日期或大小。</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip2</source>
+        <translation>如果掃描仍在進行，請等待找到更多檔案。</translation>
+    </message>
+    <message>
+        <source>ai_search_empty_tip3</source>
+        <translation>您也可以使用篩選功能或依名稱搜尋來縮小結果範圍。</translation>
+    </message>
+    <message>
+        <source>how_to_find_in_reconstructed</source>
+        <translation>如何尋找無名稱檔案</translation>
+    </message>
+    <message>
+        <source>reconstructed_tip_intro</source>
+        <translation>部分檔案遺失了名稱，無法依原名稱搜尋。您可以這樣尋找：</translation>
+    </message>
+    <message>
+        <source>click_reconstructed</source>
+        <translation>開啟「無名稱檔案」。</translation>
+    </message>
+    <message>
+        <source>search_dialog_text2</source>
+        <translation>選擇要還原的檔案類型。</translation>
+    </message>
+    <message>
+        <source>search_dialog_text3</source>
+        <translation>預覽檔案，找到遺失的檔案。</translation>
+    </message>
+    <message>
+        <source>ai_tags_title</source>
+        <translation>場景</translation>
+    </message>
+    <message>
+        <source>ai_tags_landscape</source>
+        <translation>風景</translation>
+    </message>
+    <message>
+        <source>ai_tags_beach</source>
+        <translation>海灘</translation>
+    </message>
+    <message>
+        <source>ai_tags_cityscape</source>
+        <translation>城市風光</translation>
+    </message>
+    <message>
+        <source>ai_tags_hotel</source>
+        <translation>飯店</translation>
+    </message>
+    <message>
+        <source>ai_tags_aerial</source>
+        <translation>空拍</translation>
+    </message>
+    <message>
+        <source>ai_tags_children</source>
+        <translation>兒童</translation>
+    </message>
+    <message>
+        <source>ai_tags_pet</source>
+        <translation>寵物</translation>
+    </message>
+    <message>
+        <source>ai_tags_birthday</source>
+        <translation>生日</translation>
+    </message>
+    <message>
+        <source>ai_tags_dinner</source>
+        <translation>聚餐</translation>
+    </message>
+    <message>
+        <source>ai_tags_performance</source>
+        <translation>表演</translation>
+    </message>
+    <message>
+        <source>ai_tags_exhibition</source>
+        <translation>展覽</translation>
+    </message>
+    <message>
+        <source>ai_tags_sports</source>
+        <translation>運動</translation>
+    </message>
+    <message>
+        <source>ai_tags_graduation</source>
+        <translation>畢業</translation>
+    </message>
+    <message>
+        <source>ai_tags_wedding_dress</source>
+        <translation>婚紗</translation>
+    </message>
+    <message>
+        <source>ai_tags_bouquet</source>
+        <translation>花束</translation>
+    </message>
+    <message>
+        <source>ai_tags_food</source>
+        <translation>美食</translation>
+    </message>
+    <message>
+        <source>ai_tags_meeting_room</source>
+        <translation>會議室</translation>
+    </message>
+    <message>
+        <source>ai_tags_presentation</source>
+        <translation>簡報</translation>
+    </message>
+    <message>
+        <source>ai_tags_whiteboard</source>
+        <translation>白板</translation>
+    </message>
+    <message>
+        <source>ai_tags_product</source>
+        <translation>產品</translation>
+    </message>
+    <message>
+        <source>ai_tags_selfie</source>
+        <translation>自拍</translation>
+    </message>
+    <message>
+        <source>ai_tags_group_photo</source>
+        <translation>合照</translation>
+    </message>
+    <message>
+        <source>ai_tags_id_photo</source>
+        <translation>證件照</translation>
+    </message>
+    <message>
+        <source>ai_tags_paper_document</source>
+        <translation>紙本文件</translation>
+    </message>
+    <message>
+        <source>ai_tags_identity_document</source>
+        <translation>身分證件</translation>
+    </message>
+    <message>
+        <source>ai_tags_chat_screenshot</source>
+        <translation>聊天截圖</translation>
+    </message>
+</context>
+<context>
+    <name>SDCardContentDataWidgetClass</name>
+    <message>
+        <source>Select All</source>
+        <translation>全選</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>正在掃描</translation>
+    </message>
+    <message>
+        <source>Please wait while we quickly locate your files.</source>
+        <translation>正在快速尋找您的檔案，請稍候。</translation>
+    </message>
+    <message>
+        <source>File Not Found</source>
+        <translation>找不到檔案</translation>
+    </message>
+    <message>
+        <source>Sorry, the file type could not be found. Please check if the correct disk is selected for scanning.</source>
+        <translation>找不到此類檔案。請檢查是否選擇了正確的磁碟進行掃描。</translation>
+    </message>
+    <message>
+        <source>Loading Files...</source>
+        <translation>正在載入檔案…</translation>
+    </message>
+    <message>
+        <source>This may take a moment.</source>
+        <translation>這可能需要一點時間。</translation>
+    </message>
+    <message>
+        <source>Nothing matches this filter...</source>
+        <translation>沒有符合篩選條件的檔案</translation>
+    </message>
+    <message>
+        <source>We found files in the scan, but none match the filters currently applied.</source>
+        <translation>掃描已找到檔案，但沒有檔案符合目前的篩選條件。</translation>
+    </message>
+</context>
+</TS>
