@@ -1,6 +1,7 @@
 #include "host/app/automation.h"
 #include "host/app/commandline.h"
 #include "host/app/contentplugin.h"
+#include "host/app/hostsettings.h"
 #include "host/app/languages.h"
 #include "host/app/session.h"
 #include "host/media/thumbnailfiles.h"
@@ -86,8 +87,10 @@ int main(int argc, char *argv[])
     }
     Session session(plugin);
     MainWindow window(plugin, session);
-    const Language *language = Languages::find(wishes.language.isEmpty() ? QStringLiteral("English")
+    const Language *language = Languages::find(wishes.language.isEmpty() ? HostSettings::language()
                                                                          : wishes.language);
+    if (!language)
+        language = Languages::ofSystem();
     if (!Languages::apply(*language))
         tell(QStringLiteral("there are no texts in %1").arg(QLatin1String(language->name)));
     if (wishes.theme >= 0)
@@ -100,10 +103,9 @@ int main(int argc, char *argv[])
     window.setViewMode(wishes.viewMode);
     const QString source = wishes.source.isEmpty() ? sampleCard() : wishes.source;
     if (source.isEmpty()) {
-        const QString missing = QStringLiteral(
-            "The sample card has not been made. Open a folder, a disk image or a device.");
-        window.tellFailure(missing);
-        tell(missing);
+        window.tellMissingSample();
+        tell(QStringLiteral("the sample card has not been made; name a folder, a disk image or a "
+                            "device"));
         if (wishes.quit)
             return Failure;
     } else {

@@ -1,14 +1,18 @@
-# scan_translations(TARGET LANGUAGE...): translations/quarvo_LANGUAGE.ts becomes a .qm beside the
-# programs, where the host looks for it.
+# scan_translations(TARGET [PREFIX NAME] LANGUAGE...): translations/NAME_LANGUAGE.ts becomes a .qm
+# beside the programs, where the host looks for it. The plug-in's texts begin with "quarvo".
 function(scan_translations target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "PREFIX" "")
+    if(NOT arg_PREFIX)
+        set(arg_PREFIX quarvo)
+    endif()
     set(outputs "")
-    foreach(language IN LISTS ARGN)
-        set(source "${CMAKE_CURRENT_SOURCE_DIR}/translations/quarvo_${language}.ts")
-        set(output "${QUARVO_BIN_DIR}/translations/quarvo_${language}.qm")
+    foreach(language IN LISTS arg_UNPARSED_ARGUMENTS)
+        set(source "${CMAKE_CURRENT_SOURCE_DIR}/translations/${arg_PREFIX}_${language}.ts")
+        set(output "${QUARVO_BIN_DIR}/translations/${arg_PREFIX}_${language}.qm")
         add_custom_command(OUTPUT "${output}"
             COMMAND Qt5::lrelease -silent "${source}" -qm "${output}"
             DEPENDS "${source}"
-            COMMENT "Compiling the texts: ${language}" VERBATIM)
+            COMMENT "Compiling the texts: ${arg_PREFIX}, ${language}" VERBATIM)
         list(APPEND outputs "${output}")
     endforeach()
     file(MAKE_DIRECTORY "${QUARVO_BIN_DIR}/translations")

@@ -1,5 +1,7 @@
 #include "host/media/mediahelper.h"
 
+#include "host/media/protocol/mediafailure.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QStandardPaths>
@@ -10,10 +12,10 @@ constexpr int PollMs = 50;
 constexpr int FarewellMs = 500;
 constexpr int StartAgainMs = 10000;
 
-QString tr(const char *text)
+struct HelperTexts
 {
-    return QCoreApplication::translate("MediaHelper", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MediaHelper)
+};
 
 } // namespace
 
@@ -25,8 +27,9 @@ QString MediaSetup::installedProgram()
 
 QString MediaSetup::missingMessage()
 {
-    return tr("The program quarvo-media is not beside this one: there are no thumbnails and no "
-              "metadata.");
+    return HelperTexts::tr(
+        "The program quarvo-media is not beside this one: there are no thumbnails and no "
+        "metadata.");
 }
 
 MediaHelper::MediaHelper(const MediaSetup &setup)
@@ -72,11 +75,12 @@ bool MediaHelper::start(const std::atomic<bool> &abandoned, QString *error)
         MediaFrame::Kind kind = MediaFrame::Failure;
         QByteArray payload;
         if (!m_process->waitForStarted(m_setup.workMs)) {
-            m_startError = tr("The program %1 cannot be started: %2")
+            m_startError = HelperTexts::tr("The program %1 cannot be started: %2")
                                .arg(m_setup.program, m_process->errorString());
         } else if (receive(abandoned, &kind, &payload) != Frame || kind != MediaFrame::Hello
                    || !MediaFrame::isHello(payload)) {
-            m_startError = tr("The program %1 does not answer as it should.").arg(m_setup.program);
+            m_startError = HelperTexts::tr("The program %1 does not answer as it should.")
+                               .arg(m_setup.program);
         }
     }
     if (m_startError.isEmpty())
@@ -122,10 +126,9 @@ MediaHelper::Outcome MediaHelper::ask(const MediaRequest &request, QIODevice &fi
         case Unwanted:
             return kill(Abandoned, answer, QString());
         case Late:
-            return kill(Killed, answer,
-                        tr("it took longer than %1 seconds").arg(m_setup.workMs / 1000.0));
+            return kill(Killed, answer, HelperTexts::tr("it took too long"));
         case Lost:
-            return kill(Killed, answer, tr("the decoder crashed"));
+            return kill(Killed, answer, HelperTexts::tr("the decoder crashed"));
         }
         bool valid = true;
         switch (kind) {
@@ -139,14 +142,14 @@ MediaHelper::Outcome MediaHelper::ask(const MediaRequest &request, QIODevice &fi
             valid = answer->decodeMetadata(payload);
             break;
         case MediaFrame::Failure:
-            answer->error = MediaFrame::decodeText(payload);
+            answer->error = MediaFailure::sentence(MediaFrame::decodeText(payload));
             break;
         default:
             valid = false;
         }
         if (!valid) {
             *answer = MediaAnswer();
-            return kill(Killed, answer, tr("the decoder lost its way"));
+            return kill(Killed, answer, HelperTexts::tr("the decoder lost its way"));
         }
         if (kind != MediaFrame::Read)
             return Answered;

@@ -9,10 +9,10 @@ namespace {
 
 constexpr int MaxKills = 2;
 
-QString tr(const char *text)
+struct PoolTexts
 {
-    return QCoreApplication::translate("MediaPool", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MediaPool)
+};
 
 } // namespace
 
@@ -153,7 +153,7 @@ void MediaPool::serve(MediaHelper &helper, const TaskPointer &task)
         damaged = m_kills.value(task->item.id) >= MaxKills;
     }
     if (damaged) {
-        answer.error = tr("The file is damaged.");
+        answer.error = PoolTexts::tr("The file is damaged.");
     } else if (const auto file = task->source->openFile(task->item, &answer.error)) {
         outcome = helper.ask(task->request, *file, task->abandoned, &answer);
     }
@@ -168,7 +168,7 @@ bool MediaPool::isSettled(MediaHelper::Outcome outcome, const TaskPointer &task,
         return true;
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (++m_kills[task->item.id] >= MaxKills) {
-        answer->error = tr("The file is damaged: %1.").arg(answer->error);
+        answer->error = PoolTexts::tr("The file is damaged: %1.").arg(answer->error);
         return true;
     }
     if (!task->abandoned && !m_stopping)

@@ -1,10 +1,12 @@
 #include "host/recovery/filerecovery.h"
 
-#include <QCoreApplication>
+#include "host/recovery/recoverytexts.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 
 #include <chrono>
 #include <filesystem>
@@ -13,11 +15,6 @@ namespace {
 
 constexpr qint64 ChunkBytes = 1 << 20;
 constexpr qint64 FullBelow = 64 * 1024; // with less room than this not even small files fit
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Recovery", text);
-}
 
 void setFolderTime(const QString &folder, qint64 seconds)
 {
@@ -118,13 +115,15 @@ bool FileRecovery::isPointless(qint64 size, QString *reason)
         return false;
     const QString folder = QDir::toNativeSeparators(m_tree.root());
     if (room < FullBelow) {
-        m_report.stopReason = tr("There is no room left at %1.").arg(folder);
+        m_report.stopReason = RecoveryTexts::tr("There is no room left at %1.").arg(folder);
         *reason = m_report.stopReason;
     } else {
-        *reason = tr("There is not enough room at %1: the file needs %2 bytes, %3 are free.")
-                      .arg(folder)
-                      .arg(size)
-                      .arg(room);
+        const QLocale locale;
+        *reason = RecoveryTexts::tr(
+                      "There is not enough room at %1: the file needs %2, %3 are free.")
+                      .arg(folder,
+                           locale.formattedDataSize(size, 1, QLocale::DataSizeTraditionalFormat),
+                           locale.formattedDataSize(room, 1, QLocale::DataSizeTraditionalFormat));
     }
     return true;
 }
@@ -141,7 +140,7 @@ FileRecovery::Outcome FileRecovery::recoverFile(const FoundItem &item, QString *
     }
     QFile to(folder + QStringLiteral("/.quarvo-%1.part").arg(item.id));
     if (!to.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        *reason = tr("The file cannot be created: %1.").arg(to.errorString());
+        *reason = RecoveryTexts::tr("The file cannot be created: %1.").arg(to.errorString());
         m_tree.isWritable(&m_report.stopReason);
         return Failed;
     }
@@ -175,11 +174,13 @@ FileRecovery::Outcome FileRecovery::copy(QIODevice &from, QFile &to, const Found
         const qint64 got = from.read(chunk.data(), qMin<qint64>(chunk.size(), item.size - done));
         if (got <= 0) {
             *reason = got < 0 ? from.errorString()
-                              : tr("The contents end at byte %1 of %2.").arg(done).arg(item.size);
+                              : RecoveryTexts::tr("The contents end at byte %L1 of %L2.")
+                                    .arg(done)
+                                    .arg(item.size);
             return Failed;
         }
         if (to.write(chunk.constData(), got) != got) {
-            *reason = tr("Writing failed: %1.").arg(to.errorString());
+            *reason = RecoveryTexts::tr("Writing failed: %1.").arg(to.errorString());
             return Failed;
         }
         hash.addData(chunk.constData(), int(got));
@@ -188,7 +189,7 @@ FileRecovery::Outcome FileRecovery::copy(QIODevice &from, QFile &to, const Found
         m_tell(m_progress);
     }
     if (!to.flush()) {
-        *reason = tr("Writing failed: %1.").arg(to.errorString());
+        *reason = RecoveryTexts::tr("Writing failed: %1.").arg(to.errorString());
         return Failed;
     }
     if (item.modifiedTime > 0)

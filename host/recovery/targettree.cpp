@@ -1,8 +1,8 @@
 #include "host/recovery/targettree.h"
 
+#include "host/recovery/recoverytexts.h"
 #include "host/recovery/safename.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,11 +11,6 @@ namespace {
 
 constexpr int MaxNumber = 1000000;
 constexpr int ProbeBytes = 4096;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Recovery", text);
-}
 
 bool isTaken(const QFileInfo &info)
 {
@@ -34,11 +29,11 @@ bool TargetTree::prepare(QString *error)
     const QString shown = QDir::toNativeSeparators(m_root);
     const QFileInfo info(m_root);
     if (info.exists() && !info.isDir()) {
-        *error = tr("%1 is not a folder.").arg(shown);
+        *error = RecoveryTexts::tr("%1 is not a folder.").arg(shown);
         return false;
     }
     if (!QDir().mkpath(m_root)) {
-        *error = tr("The folder %1 cannot be created.").arg(shown);
+        *error = RecoveryTexts::tr("The folder %1 cannot be created.").arg(shown);
         return false;
     }
     return isWritable(error);
@@ -51,7 +46,8 @@ bool TargetTree::isWritable(QString *error) const
     for (int i = 0; i < MaxNumber && !probe.isOpen(); ++i) {
         probe.setFileName(m_root + QStringLiteral("/.quarvo-probe-%1").arg(i));
         if (!probe.open(QIODevice::WriteOnly | QIODevice::NewOnly) && !isTaken(QFileInfo(probe))) {
-            *error = tr("Nothing can be written to %1: %2.").arg(shown, probe.errorString());
+            *error = RecoveryTexts::tr("Nothing can be written to %1: %2.")
+                         .arg(shown, probe.errorString());
             return false;
         }
     }
@@ -60,7 +56,7 @@ bool TargetTree::isWritable(QString *error) const
     probe.close();
     probe.remove();
     if (!written)
-        *error = tr("Nothing can be written to %1: %2.").arg(shown, cause);
+        *error = RecoveryTexts::tr("Nothing can be written to %1: %2.").arg(shown, cause);
     return written;
 }
 
@@ -87,8 +83,8 @@ QString TargetTree::folderFor(const QString &cardPath, QString *error)
             if ((info.isDir() && !info.isSymLink()) || QDir().mkdir(candidate)) {
                 made = candidate;
             } else if (!isTaken(QFileInfo(candidate))) {
-                *error =
-                    tr("The folder %1 cannot be created.").arg(QDir::toNativeSeparators(candidate));
+                *error = RecoveryTexts::tr("The folder %1 cannot be created.")
+                             .arg(QDir::toNativeSeparators(candidate));
                 return QString();
             }
         }
@@ -114,11 +110,11 @@ QString TargetTree::settle(const QString &temporary, const QString &folder, cons
             return path;
         }
         if (!isTaken(QFileInfo(path))) {
-            *error = tr("The file %1 cannot be created: %2.")
+            *error = RecoveryTexts::tr("The file %1 cannot be created: %2.")
                          .arg(QDir::toNativeSeparators(path), file.errorString());
             return QString();
         }
     }
-    *error = tr("Too many files have the name %1.").arg(safe);
+    *error = RecoveryTexts::tr("Too many files have the name %1.").arg(safe);
     return QString();
 }

@@ -1,8 +1,8 @@
 #include "host/scan/card.h"
 
 #include "host/scan/clusterclaims.h"
+#include "host/scan/scantexts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -13,11 +13,6 @@
 namespace {
 
 constexpr unsigned SectorSize = 512;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ScanSource", text);
-}
 
 /// Also of a block device, whose size a directory entry does not tell.
 qint64 sizeOf(const std::filesystem::path &path)
@@ -55,17 +50,18 @@ ssize_t Card::Medium::read(TSK_IMG_INFO *info, TSK_OFF_T offset, char *buffer, s
         return ssize_t(-1);
     };
     if (self->cancel && *self->cancel)
-        return fail(tr("cancelled"));
+        return fail(ScanTexts::tr("cancelled"));
     if (self->watcher)
         self->watcher(offset);
     if (offset < 0 || offset >= info->size)
-        return fail(tr("a read past the end"));
+        return fail(ScanTexts::tr("a read past the end"));
     if (!self->file.seek(offset))
         return fail(self->file.errorString());
     const qint64 want = qMin<qint64>(qint64(length), info->size - offset);
     const qint64 got = self->file.read(buffer, want);
     if (got < want) // it has become shorter, or it is gone
-        return fail(got < 0 ? self->file.errorString() : tr("the medium ends too early"));
+        return fail(got < 0 ? self->file.errorString()
+                            : ScanTexts::tr("the medium ends too early"));
     return ssize_t(got);
 }
 
@@ -78,26 +74,26 @@ std::unique_ptr<Card> Card::open(const QString &path, QString *error)
     const auto status = std::filesystem::status(native, failure);
     if (!std::filesystem::is_regular_file(status) && !std::filesystem::is_block_file(status)) {
         // A pipe or a character device would make the reader wait for ever.
-        *error = tr("%1 is neither a folder nor a disk image nor a disk.").arg(shown);
+        *error = ScanTexts::tr("%1 is neither a folder nor a disk image nor a disk.").arg(shown);
         return nullptr;
     }
     auto medium = std::make_unique<Medium>();
     medium->file.setFileName(path);
     if (!medium->file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        *error = tr("%1 cannot be read: %2.").arg(shown, medium->file.errorString());
+        *error = ScanTexts::tr("%1 cannot be read: %2.").arg(shown, medium->file.errorString());
         return nullptr;
     }
     const qint64 size = sizeOf(native);
     if (size < qint64(SectorSize)) {
-        *error = size == 0 ? tr("%1 is empty.").arg(shown)
-                           : tr("%1 is too small to be a disk image.").arg(shown);
+        *error = size == 0 ? ScanTexts::tr("%1 is empty.").arg(shown)
+                           : ScanTexts::tr("%1 is too small to be a disk image.").arg(shown);
         return nullptr;
     }
     medium->opened = tsk_img_open_external(&medium->info, size, SectorSize, &Medium::read,
                                            &Medium::close, &Medium::describe)
         != nullptr;
     if (!medium->opened) {
-        *error = tr("%1 cannot be read.").arg(shown);
+        *error = ScanTexts::tr("%1 cannot be read.").arg(shown);
         return nullptr;
     }
     return std::unique_ptr<Card>(new Card(std::move(medium)));

@@ -2,6 +2,7 @@
 
 #include "host/scan/clusterclaims.h"
 #include "host/scan/deletedcontents.h"
+#include "host/scan/scantexts.h"
 #include "host/scan/volumefinder.h"
 
 CardFile::CardFile(std::shared_ptr<CardPool> pool, std::unique_ptr<Card> card)
@@ -37,18 +38,18 @@ bool CardFile::find(const FoundItem &item, QString *error)
         ? m_card->fileSystem(volumes[size_t(item.volume)])
         : nullptr;
     if (!fs) {
-        *error = tr("The card cannot be read any more.");
+        *error = ScanTexts::tr("The card cannot be read any more.");
         return false;
     }
     m_file = tsk_fs_file_open_meta(fs, nullptr, item.address);
     if (!m_file || !m_file->meta) {
         const QString cause = m_card->readError();
-        *error = cause.isEmpty() ? tr("The file's record cannot be read.")
-                                 : tr("The card cannot be read: %1.").arg(cause);
+        *error = cause.isEmpty() ? ScanTexts::tr("The file's record cannot be read.")
+                                 : ScanTexts::tr("The card cannot be read: %1.").arg(cause);
         return false;
     }
     if (item.folder || item.sequence != m_file->meta->seq || item.size != m_file->meta->size) {
-        *error = tr("The file's record has changed since the scan.");
+        *error = ScanTexts::tr("The file's record has changed since the scan.");
         return false;
     }
     m_size = item.size;
@@ -71,8 +72,10 @@ qint64 CardFile::readData(char *data, qint64 length)
     if (got <= 0 || !cause.isEmpty()) {
         setErrorString(
             cause.isEmpty()
-                ? tr("The contents end at byte %1 of %2.").arg(offset).arg(m_size)
-                : tr("The card cannot be read at byte %1 of the file: %2.").arg(offset).arg(cause));
+                ? ScanTexts::tr("The contents end at byte %L1 of %L2.").arg(offset).arg(m_size)
+                : ScanTexts::tr("The card cannot be read at byte %L1 of the file: %2.")
+                      .arg(offset)
+                      .arg(cause));
         return -1;
     }
     return got;

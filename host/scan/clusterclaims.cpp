@@ -1,17 +1,11 @@
 #include "host/scan/clusterclaims.h"
 
 #include "host/scan/fatentries.h"
-
-#include <QCoreApplication>
+#include "host/scan/scantexts.h"
 
 #include <algorithm>
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ScanSource", text);
-}
 
 constexpr TSK_DADDR_T ClusterMask = 0x0fffffff; // the rest of the number is reserved on FAT32
 
@@ -75,7 +69,7 @@ bool ClusterClaims::belongTo(TSK_FS_FILE *file, const TSK_FS_ATTR *contents, QSt
     if (!isWrittenAround(file, contents, error))
         return false;
     if (!isOnlyClaim(file, contents)) {
-        *error = tr(
+        *error = ScanTexts::tr(
             "Another deleted file was in the same place; which of the two is still there is "
             "not known.");
         return false;
@@ -114,7 +108,8 @@ bool ClusterClaims::isOnlyClaim(TSK_FS_FILE *file, const TSK_FS_ATTR *contents)
 
 bool ClusterClaims::isWrittenAround(TSK_FS_FILE *file, const TSK_FS_ATTR *contents, QString *error)
 {
-    const QString overwritten = tr("A part of the contents has been overwritten by another file.");
+    const QString overwritten = ScanTexts::tr(
+        "A part of the contents has been overwritten by another file.");
     const qint64 created = createdAt(file->meta);
     for (const TSK_FS_ATTR_RUN *run = contents->nrd.run; run && run->next; run = run->next) {
         TSK_DADDR_T sector = run->addr + run->len;
@@ -133,7 +128,8 @@ bool ClusterClaims::isWrittenAround(TSK_FS_FILE *file, const TSK_FS_ATTR *conten
                 const QString name = nameOf(file->fs_info, owner->address);
                 *error = name.isEmpty()
                     ? overwritten
-                    : tr("A part of the contents has been overwritten by the newer file %1.")
+                    : ScanTexts::tr(
+                          "A part of the contents has been overwritten by the newer file %1.")
                           .arg(name);
                 return false;
             }

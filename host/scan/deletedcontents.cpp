@@ -1,32 +1,26 @@
 #include "host/scan/deletedcontents.h"
 
 #include "host/scan/clusterclaims.h"
+#include "host/scan/scantexts.h"
 #include "host/scan/volumefinder.h"
-
-#include <QCoreApplication>
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ScanSource", text);
-}
-
 QString overwritten()
 {
-    return tr("A part of the contents has been overwritten by another file.");
+    return ScanTexts::tr("A part of the contents has been overwritten by another file.");
 }
 
 QString brokenList()
 {
-    return tr("The list of the file's places on the card is broken.");
+    return ScanTexts::tr("The list of the file's places on the card is broken.");
 }
 
 /// One stretch of the contents is on the medium and, of a deleted file, still free.
 bool isSound(TSK_FS_INFO *fs, const TSK_FS_ATTR_RUN &run, bool deleted, QString *error)
 {
     if (run.addr > fs->last_block_act || run.len > fs->last_block_act + 1 - run.addr) {
-        *error = tr("The contents lie past the end of the card.");
+        *error = ScanTexts::tr("The contents lie past the end of the card.");
         return false;
     }
     for (TSK_DADDR_T block = run.addr; deleted && block < run.addr + run.len; ++block) {
@@ -53,13 +47,14 @@ bool checkContents(TSK_FS_FILE *file, bool deleted, ClusterClaims *claims, QStri
         else if (isFatFamily(fs))
             *error = overwritten(); // its first place is taken
         else
-            *error = tr("The card no longer says where the contents are.");
+            *error = ScanTexts::tr("The card no longer says where the contents are.");
         return false;
     }
     if (contents->flags & TSK_FS_ATTR_RES)
         return true; // held in the record itself
     if (size == 0 && deleted) {
-        *error = tr("The card no longer says how long the file was and where its contents are.");
+        *error = ScanTexts::tr(
+            "The card no longer says how long the file was and where its contents are.");
         return false;
     }
 

@@ -1,9 +1,9 @@
 #include "host/scan/foldersource.h"
 
 #include "host/scan/scanids.h"
+#include "host/scan/scantexts.h"
 #include "host/scan/warnings.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
@@ -18,11 +18,6 @@ namespace {
 
 constexpr int BatchSize = 1024;
 constexpr int BatchMs = 50;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ScanSource", text);
-}
 
 QString toText(const fs::path &path)
 {
@@ -56,7 +51,7 @@ protected:
         m_stream.seekg(pos());
         m_stream.read(data, length);
         if (m_stream.bad()) {
-            setErrorString(tr("The file could not be read."));
+            setErrorString(ScanTexts::tr("The file could not be read."));
             return -1;
         }
         return m_stream.gcount();
@@ -76,7 +71,7 @@ std::unique_ptr<ScanSource> FolderSource::open(const QString &path, QString *err
     const fs::path native = fs::u8path(QFileInfo(path).absoluteFilePath().toStdString());
     fs::directory_iterator probe(native, failure);
     if (failure) {
-        *error = tr("The folder %1 cannot be read: %2.")
+        *error = ScanTexts::tr("The folder %1 cannot be read: %2.")
                      .arg(QDir::toNativeSeparators(path),
                           QString::fromStdString(failure.message()));
         return nullptr;
@@ -156,7 +151,7 @@ ScanOutcome FolderSource::scan(const Sink &sink, const std::atomic<bool> &cancel
         }
         if (failure) {
             warnings.add(
-                tr("The folder %1 could not be read whole: %2.")
+                ScanTexts::tr("The folder %1 could not be read whole: %2.")
                     .arg(toText(folder.native), QString::fromStdString(failure.message())));
         }
     }
@@ -166,7 +161,8 @@ ScanOutcome FolderSource::scan(const Sink &sink, const std::atomic<bool> &cancel
     outcome.warnings = warnings.lines();
     outcome.skipped = warnings.count();
     if (!cancel && !QFileInfo::exists(m_path))
-        outcome.error = tr("%1 went away during the scan.").arg(QDir::toNativeSeparators(m_path));
+        outcome.error =
+            ScanTexts::tr("%1 went away during the scan.").arg(QDir::toNativeSeparators(m_path));
     return outcome;
 }
 
@@ -187,19 +183,19 @@ std::unique_ptr<QIODevice> FolderSource::openFile(const FoundItem &item, QString
     std::error_code failure;
     // Not a link that has taken the place of the file since the scan, and nothing that blocks.
     if (!fs::is_regular_file(fs::symlink_status(path, failure))) {
-        *error = tr("The file is no longer there.");
+        *error = ScanTexts::tr("The file is no longer there.");
         return nullptr;
     }
     if (!survivesAsText(path)) {
         auto odd = std::make_unique<OddNameFile>(path);
         if (odd->isOpen())
             return odd;
-        *error = tr("The file cannot be opened.");
+        *error = ScanTexts::tr("The file cannot be opened.");
         return nullptr;
     }
     auto file = std::make_unique<QFile>(toText(path));
     if (!file->open(QIODevice::ReadOnly)) {
-        *error = tr("The file cannot be opened: %1.").arg(file->errorString());
+        *error = ScanTexts::tr("The file cannot be opened: %1.").arg(file->errorString());
         return nullptr;
     }
     return file;

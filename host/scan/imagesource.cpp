@@ -3,18 +3,11 @@
 #include "host/scan/card.h"
 #include "host/scan/cardfile.h"
 #include "host/scan/clusterclaims.h"
+#include "host/scan/scantexts.h"
 #include "host/scan/volumefinder.h"
 #include "host/scan/volumewalker.h"
 
-#include <QCoreApplication>
 #include <QDir>
-
-namespace {
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ScanSource", text);
-}
-} // namespace
 
 std::unique_ptr<ScanSource> ImageSource::open(const QString &path, QString *error)
 {
@@ -26,8 +19,9 @@ std::unique_ptr<ScanSource> ImageSource::open(const QString &path, QString *erro
         const QString cause = card->readError();
         const QString shown = QDir::toNativeSeparators(path);
         *error = cause.isEmpty()
-            ? tr("%1 holds no file system that can be read (FAT, exFAT, NTFS or ext).").arg(shown)
-            : tr("%1 cannot be read: %2.").arg(shown, cause);
+            ? ScanTexts::tr("%1 holds no file system that can be read (FAT, exFAT, NTFS or ext).")
+                  .arg(shown)
+            : ScanTexts::tr("%1 cannot be read: %2.").arg(shown, cause);
         return nullptr;
     }
     std::vector<CardVolume> places;
@@ -51,7 +45,7 @@ ImageSource::~ImageSource() = default;
 
 QString ImageSource::orphansName()
 {
-    return tr("Deleted files without a folder");
+    return ScanTexts::tr("Deleted files without a folder");
 }
 
 ScanOutcome ImageSource::scan(const Sink &sink, const std::atomic<bool> &cancel,
@@ -69,15 +63,16 @@ ScanOutcome ImageSource::scan(const Sink &sink, const std::atomic<bool> &cancel,
     for (size_t i = 0; i < volumes.size() && !cancel; ++i) {
         TSK_FS_INFO *fs = card->fileSystem(volumes[i]);
         if (!fs) {
-            warnings.add(tr("Volume %1 could not be opened.").arg(i + 1));
+            warnings.add(ScanTexts::tr("Volume %1 could not be opened.").arg(i + 1));
             continue;
         }
         if (card->size() - volumes[i].offset < m_volumes.at(int(i)).bytes)
-            warnings.add(tr("The card ends before its file system does; files may be cut off."));
+            warnings.add(
+                ScanTexts::tr("The card ends before its file system does; files may be cut off."));
         m_pool->claims(int(i)).clear();
         VolumeWalker walker(fs, int(i), ids, sink, cancel, warnings, m_pool->claims(int(i)));
         if (!walker.walkFolders() && !cancel)
-            outcome.error = tr("The card's top folder cannot be read.");
+            outcome.error = ScanTexts::tr("The card's top folder cannot be read.");
         // The search for orphans goes through the whole volume, and takes nearly all the time.
         double reached = 0;
         card->setWatcher([&](qint64 offset) {
@@ -94,7 +89,7 @@ ScanOutcome ImageSource::scan(const Sink &sink, const std::atomic<bool> &cancel,
     }
     const QString cause = card->readError();
     if (!cancel && !cause.isEmpty())
-        outcome.error = tr("The card could not be read everywhere: %1.").arg(cause);
+        outcome.error = ScanTexts::tr("The card could not be read everywhere: %1.").arg(cause);
     outcome.cancelled = cancel;
     outcome.warnings = warnings.lines();
     outcome.skipped = warnings.count();

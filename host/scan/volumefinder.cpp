@@ -1,13 +1,8 @@
 #include "host/scan/volumefinder.h"
 
-#include <QCoreApplication>
+#include "host/scan/scantexts.h"
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ScanSource", text);
-}
 
 // The library knows more kinds; those would only see ghosts in random bytes.
 constexpr TSK_FS_TYPE_ENUM BootSectorTypes[] = {TSK_FS_TYPE_NTFS_DETECT, TSK_FS_TYPE_FAT_DETECT};
@@ -140,8 +135,9 @@ QVector<FoundVolume> findVolumes(Card &card)
     }
     for (int i = 0; found.size() > 1 && i < found.size(); ++i) {
         VolumeInfo &info = found[i].info;
-        info.root = info.label.isEmpty() ? tr("Volume %1").arg(i + 1)
-                                         : tr("Volume %1 (%2)").arg(i + 1).arg(info.label);
+        info.root = info.label.isEmpty()
+            ? ScanTexts::tr("Volume %1").arg(i + 1)
+            : ScanTexts::tr("Volume %1 (%2)").arg(i + 1).arg(info.label);
     }
     return found;
 }

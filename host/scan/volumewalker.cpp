@@ -2,9 +2,8 @@
 
 #include "host/scan/clusterclaims.h"
 #include "host/scan/fatentries.h"
+#include "host/scan/scantexts.h"
 #include "host/scan/volumefinder.h"
-
-#include <QCoreApplication>
 
 #include <cstring>
 
@@ -14,11 +13,6 @@ constexpr int BatchSize = 1024;
 constexpr int BatchMs = 50;
 constexpr int MaxDepth = 200; // deeper is a fault of the medium, not somebody's folders
 constexpr TSK_INUM_T FirstNtfsUserRecord = 24;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ScanSource", text);
-}
 
 bool isFolderType(const TSK_FS_NAME *name, const TSK_FS_META *meta)
 {
@@ -95,7 +89,7 @@ bool VolumeWalker::list(const Folder &folder)
     if (!dir) {
         // Of a deleted folder it is no fault that nothing is left.
         if (!m_cancel && !folder.deleted)
-            m_warnings.add(tr("The folder /%1 could not be read.").arg(folder.path));
+            m_warnings.add(ScanTexts::tr("The folder /%1 could not be read.").arg(folder.path));
         return false;
     }
     const size_t count = tsk_fs_dir_getsize(dir);
@@ -205,7 +199,8 @@ void VolumeWalker::take(TSK_FS_FILE *file, const Folder &folder)
     if (!item.folder || m_walked.contains(item.address))
         return;
     if (folder.depth >= MaxDepth) {
-        m_warnings.add(tr("The folder /%1 lies too deep and was not read.").arg(item.fullPath()));
+        m_warnings.add(
+            ScanTexts::tr("The folder /%1 lies too deep and was not read.").arg(item.fullPath()));
         return;
     }
     m_walked.insert(item.address);

@@ -68,15 +68,15 @@ void BottomBar::setProgress(const ScanProgress &progress, bool scanning)
     m_bar->setRange(0, progress.fraction < 0 ? 0 : ProgressSteps);
     m_bar->setValue(int(progress.fraction * ProgressSteps));
 
-    const QString counts = Texts::files(int(progress.files)) + QStringLiteral(", ")
-        + Texts::folders(int(progress.folders));
-    m_counts->setText(counts);
+    m_counts->setText(
+        tr("%1, %2", "files and folders")
+            .arg(Texts::files(int(progress.files)), Texts::folders(int(progress.folders))));
     QStringList details;
     if (scanning) {
-        details += tr("%1 items a second").arg(Texts::number(qint64(progress.itemsPerSecond)));
+        details += tr("%Ln item(s) a second", nullptr, int(progress.itemsPerSecond));
     } else if (progress.files > 0) {
         details += Texts::size(progress.bytes);
-        details += tr("%1 of them deleted").arg(Texts::number(progress.deleted));
+        details += tr("%Ln deleted", nullptr, int(progress.deleted));
     }
     m_detail->setText(details.join(QStringLiteral(" · ")));
     m_detail->setVisible(!details.isEmpty());
@@ -88,10 +88,10 @@ void BottomBar::setChecked(int files, qint64 bytes, int hidden)
     m_bytes = bytes;
     m_hidden = hidden;
     m_recover->setEnabled(files > 0);
-    m_checked->setText(files > 0 ? tr("%1 chosen").arg(Texts::files(files)) : QString());
-    QString detail = files > 0 ? Texts::size(bytes) : tr("Nothing chosen");
+    m_checked->setText(files > 0 ? tr("%Ln file(s) checked", nullptr, files) : QString());
+    QString detail = files > 0 ? Texts::size(bytes) : tr("Nothing checked");
     if (hidden > 0)
-        detail += QStringLiteral(" · ") + tr("%1 hidden by the filter").arg(Texts::number(hidden));
+        detail += QStringLiteral(" · ") + tr("%Ln hidden by the filter", nullptr, hidden);
     m_checkedDetail->setText(detail);
     m_checked->setVisible(files > 0);
 }

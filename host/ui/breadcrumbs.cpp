@@ -111,7 +111,7 @@ void Breadcrumbs::rebuild()
     m_up->setToolTip(m_keyword.isEmpty() ? tr("Up") : tr("End the search"));
     m_up->setAccessibleName(m_up->toolTip());
     if (!m_keyword.isEmpty()) {
-        addCrumb(tr("“%1” in names: %2").arg(m_keyword, Texts::number(m_matches)), true)
+        addCrumb(tr("“%1” found in %Ln name(s)", nullptr, m_matches).arg(m_keyword), true)
             ->setEnabled(true);
         fit();
         return;

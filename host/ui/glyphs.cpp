@@ -154,6 +154,13 @@ QPainterPath outlineOf(Glyph glyph)
         addLines(path, {{5.75, 8}, {10, 12.25}, {14.25, 8}});
         addLines(path, {{3, 13}, {3, 16.5}, {17, 16.5}, {17, 13}});
         break;
+    case Glyph::CheckMany:
+        path.addRoundedRect(2.5, 6.5, 11, 11, 2, 2);
+        addLines(path, {{5.25, 12}, {7.25, 14}, {11, 9.75}});
+        addLines(path, {{6.5, 2.75}, {15.5, 2.75}});
+        path.cubicTo(16.5, 2.75, 17.25, 3.5, 17.25, 4.5);
+        path.lineTo(17.25, 13.5);
+        break;
     case Glyph::Warning:
         addLines(path, {{10, 3}, {18, 16.75}, {2, 16.75}}, true);
         addLines(path, {{10, 8}, {10, 12}});

@@ -1,5 +1,7 @@
 #include "host/ui/mainwindow.h"
 
+#include "host/app/hostsettings.h"
+#include "host/app/languages.h"
 #include "host/scan/filecategory.h"
 #include "host/ui/bottombar.h"
 #include "host/ui/breadcrumbs.h"
@@ -97,6 +99,7 @@ void MainWindow::connectBars()
     connect(m_topBar, &TopBar::viewModePicked, &m_session, &Session::setViewMode);
     connect(m_topBar, &TopBar::themeToggled, this,
             [this] { setTheme(m_theme.isDark ? LightTheme : DarkTheme); });
+    connect(m_topBar, &TopBar::languagePicked, this, &MainWindow::switchLanguage);
     connect(m_filters, &FilterBar::changed, this,
             [this] { m_session.setFilter(m_filters->condition()); });
     connect(m_side, &SidePanel::picked, &m_session, &Session::show);
@@ -210,17 +213,34 @@ void MainWindow::tellOutcome(const ScanOutcome &outcome)
     if (!outcome.error.isEmpty())
         tellFailure(outcome.error);
     else if (outcome.cancelled)
-        m_banner->tell(MessageBanner::Hint, tr("The scan was stopped. What it found is shown."));
-    else if (outcome.skipped > 0)
         m_banner->tell(MessageBanner::Hint,
-                       tr("%1 things could not be read, first: %2")
-                           .arg(outcome.skipped)
-                           .arg(outcome.warnings.value(0)));
+                       [] { return tr("The scan was stopped. What it found is shown."); });
+    else if (outcome.skipped > 0)
+        m_banner->tell(MessageBanner::Hint, [outcome] {
+            return tr("%Ln thing(s) could not be read, the first: %1", nullptr, outcome.skipped)
+                .arg(outcome.warnings.value(0));
+        });
 }
 
 void MainWindow::tellFailure(const QString &text)
 {
     m_banner->tell(MessageBanner::Failure, text);
+}
+
+void MainWindow::tellMissingSample()
+{
+    m_banner->tell(MessageBanner::Failure, [] {
+        return tr("The sample card has not been made. Open a folder, a disk image or a device.");
+    });
+}
+
+void MainWindow::switchLanguage(const QString &name)
+{
+    const Language *language = Languages::find(name);
+    if (!language)
+        return;
+    Languages::apply(*language);
+    HostSettings::setLanguage(name);
 }
 
 void MainWindow::chooseFolder()
@@ -242,7 +262,7 @@ void MainWindow::chooseImage()
 void MainWindow::chooseTarget(const QVector<FoundItem> &items)
 {
     if (items.isEmpty()) {
-        m_banner->tell(MessageBanner::Hint, tr("Nothing is chosen."));
+        m_banner->tell(MessageBanner::Hint, [] { return tr("There is nothing to recover."); });
         return;
     }
     const QString home = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
@@ -259,7 +279,7 @@ void MainWindow::recover(const QVector<FoundItem> &items, const QString &target)
     connect(dialog, &RecoveryDialog::recovered, this, [this, target](const RecoveryReport &report) {
         const bool whole = report.failed.isEmpty() && report.stopReason.isEmpty();
         m_banner->tell(whole ? MessageBanner::Success : MessageBanner::Failure,
-                       RecoveryDialog::summaryOf(report, target));
+                       [report, target] { return RecoveryDialog::summaryOf(report, target); });
         emit recovered(report);
     });
     dialog->open();

@@ -32,6 +32,7 @@ public:
     /// Recovers \a items into \a target and shows how it goes; recovered() follows.
     void recover(const QVector<FoundItem> &items, const QString &target);
     void tellFailure(const QString &text);
+    void tellMissingSample();
 
 signals:
     void recovered(const RecoveryReport &report);
@@ -45,6 +46,7 @@ private:
     void connectBars();
     void connectSession();
     void addShortcuts();
+    void switchLanguage(const QString &name);
     void chooseFolder();
     void chooseImage();
     void chooseTarget(const QVector<FoundItem> &items);

@@ -3,6 +3,7 @@
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -10,12 +11,14 @@
 
 namespace {
 constexpr int IconSide = 20;
-}
+constexpr int OfferMs = 8000;
+} // namespace
 
 MessageBanner::MessageBanner(QWidget *parent)
     : QFrame(parent)
     , m_icon(new QLabel(this))
     , m_text(new QLabel(this))
+    , m_act(new QToolButton(this))
     , m_close(new QToolButton(this))
 {
     setObjectName(QStringLiteral("banner"));
@@ -24,23 +27,74 @@ MessageBanner::MessageBanner(QWidget *parent)
     row->setSpacing(10);
     row->addWidget(m_icon);
     row->addWidget(m_text, 1);
+    row->addWidget(m_act);
     row->addWidget(m_close);
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText); // names on a card are not ours to interpret
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_act->setObjectName(QStringLiteral("bannerAction"));
     m_close->setProperty("iconOnly", true);
-    m_close->setAccessibleName(tr("Close"));
+    m_leave.setSingleShot(true);
+    m_leave.setInterval(OfferMs);
     connect(m_close, &QToolButton::clicked, this, &QWidget::hide);
+    connect(m_act, &QToolButton::clicked, this, [this] {
+        const std::function<void()> action = m_action; // it may put another message here
+        hide();
+        if (action)
+            action();
+    });
+    connect(&m_leave, &QTimer::timeout, this, [this] {
+        if (underMouse() || m_act->hasFocus() || m_close->hasFocus())
+            m_leave.start();
+        else
+            hide();
+    });
     hide();
+}
+
+void MessageBanner::tell(Kind kind, const Words &words)
+{
+    m_kind = kind;
+    m_words = words;
+    m_action = nullptr;
+    m_leave.stop();
+    m_act->hide();
+    retranslate();
+    refreshIcon();
+    show();
 }
 
 void MessageBanner::tell(Kind kind, const QString &text)
 {
-    m_kind = kind;
-    m_text->setText(text);
-    setAccessibleName(text);
-    refreshIcon();
-    show();
+    tell(kind, [text] { return text; });
+}
+
+void MessageBanner::offer(const Words &words, const Words &title,
+                          const std::function<void()> &action)
+{
+    tell(Hint, words);
+    m_title = title;
+    m_action = action;
+    m_act->show();
+    retranslate();
+    m_leave.start();
+}
+
+void MessageBanner::retranslate()
+{
+    m_close->setToolTip(tr("Close"));
+    m_close->setAccessibleName(tr("Close"));
+    m_text->setText(m_words ? m_words() : QString());
+    setAccessibleName(m_text->text());
+    m_act->setText(m_action ? m_title() : QString());
+    m_act->setAccessibleName(m_act->text());
+}
+
+void MessageBanner::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
 }
 
 void MessageBanner::setTheme(const HostTheme &theme)

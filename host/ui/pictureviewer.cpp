@@ -17,6 +17,7 @@ constexpr int ButtonSide = 40;
 constexpr int IconSide = 24;
 const QColor Ground(20, 22, 30);
 const QColor Words(255, 255, 255, 200);
+const QColor FaintWords(255, 255, 255, 60);
 } // namespace
 
 PictureViewer::PictureViewer(std::shared_ptr<const ScanSource> source, QWidget *parent)
@@ -28,18 +29,16 @@ PictureViewer::PictureViewer(std::shared_ptr<const ScanSource> source, QWidget *
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_OpaquePaintEvent);
     resize(QGuiApplication::primaryScreen()->availableSize() * 3 / 4);
-    const auto prepare = [this](QToolButton *button, Glyph glyph, const QString &name, int by) {
-        button->setIcon(glyphIcon(glyph, Words, QColor(255, 255, 255, 60)));
+    const auto prepare = [this](QToolButton *button, int by) {
         button->setIconSize({IconSide, IconSide});
         button->setFixedSize(ButtonSide, ButtonSide);
         button->setAutoRaise(true);
         button->setFocusPolicy(Qt::NoFocus);
-        button->setAccessibleName(name);
-        button->setToolTip(name);
         connect(button, &QToolButton::clicked, this, [this, by] { step(by); });
     };
-    prepare(m_previous, Glyph::Left, tr("Previous picture"), -1);
-    prepare(m_next, Glyph::Right, tr("Next picture"), 1);
+    prepare(m_previous, -1);
+    prepare(m_next, 1);
+    retranslate();
 }
 
 PictureViewer::~PictureViewer()
@@ -134,9 +133,11 @@ void PictureViewer::keyPressEvent(QKeyEvent *event)
 {
     switch (event->key()) {
     case Qt::Key_Left:
-        step(-1);
+        step(isRightToLeft() ? 1 : -1);
         break;
     case Qt::Key_Right:
+        step(isRightToLeft() ? -1 : 1);
+        break;
     case Qt::Key_Space:
         step(1);
         break;
@@ -148,6 +149,24 @@ void PictureViewer::keyPressEvent(QKeyEvent *event)
     }
 }
 
+void PictureViewer::retranslate()
+{
+    m_previous->setToolTip(tr("Previous picture"));
+    m_previous->setAccessibleName(m_previous->toolTip());
+    m_next->setToolTip(tr("Next picture"));
+    m_next->setAccessibleName(m_next->toolTip());
+    update();
+}
+
+void PictureViewer::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    if (event->type() == QEvent::LayoutDirectionChange)
+        placeButtons();
+}
+
 void PictureViewer::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
@@ -157,6 +176,10 @@ void PictureViewer::resizeEvent(QResizeEvent *event)
 void PictureViewer::placeButtons()
 {
     const int y = (height() - CaptionHeight - ButtonSide) / 2;
-    m_previous->move(Margin / 2, y);
-    m_next->move(width() - ButtonSide - Margin / 2, y);
+    QToolButton *const left = isRightToLeft() ? m_next : m_previous;
+    QToolButton *const right = isRightToLeft() ? m_previous : m_next;
+    left->move(Margin / 2, y);
+    left->setIcon(glyphIcon(Glyph::Left, Words, FaintWords));
+    right->move(width() - ButtonSide - Margin / 2, y);
+    right->setIcon(glyphIcon(Glyph::Right, Words, FaintWords));
 }

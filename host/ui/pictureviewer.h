@@ -24,12 +24,14 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void step(int by);
     void load();
     void take(int request, const MediaAnswer &answer);
     void placeButtons();
+    void retranslate();
 
     std::shared_ptr<const ScanSource> m_source;
     QVector<FoundItem> m_pictures;

@@ -6,6 +6,7 @@
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -20,6 +21,12 @@ constexpr int ContentWidth = 440;
 constexpr int FailureListHeight = 150;
 constexpr int ProgressSteps = 1000;
 constexpr int IconSide = 28;
+
+bool isWhole(const RecoveryReport &report)
+{
+    return report.failed.isEmpty() && !report.cancelled && report.stopReason.isEmpty();
+}
+
 } // namespace
 
 RecoveryDialog::RecoveryDialog(std::shared_ptr<const ScanSource> source, const HostTheme &theme,
@@ -31,12 +38,11 @@ RecoveryDialog::RecoveryDialog(std::shared_ptr<const ScanSource> source, const H
     , m_detail(new QLabel(this))
     , m_bar(new QProgressBar(this))
     , m_failures(new QListWidget(this))
-    , m_openTarget(new QPushButton(tr("Open folder"), this))
-    , m_close(new QPushButton(tr("Cancel"), this))
+    , m_openTarget(new QPushButton(this))
+    , m_close(new QPushButton(this))
     , m_good(theme.good)
     , m_bad(theme.bad)
 {
-    setWindowTitle(tr("Recovery"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     theme.applyTo(this);
     m_title->setObjectName(QStringLiteral("emphasis"));
@@ -46,12 +52,10 @@ RecoveryDialog::RecoveryDialog(std::shared_ptr<const ScanSource> source, const H
     m_detail->setWordWrap(true);
     m_bar->setTextVisible(false);
     m_bar->setRange(0, ProgressSteps);
-    m_bar->setAccessibleName(tr("Progress of the recovery"));
     m_icon->setFixedSize(IconSide, IconSide);
     m_icon->setPixmap(glyphIcon(Glyph::Recover, theme.accentText)
                           .pixmap(window()->windowHandle(), m_icon->size()));
     m_failures->setFixedHeight(FailureListHeight);
-    m_failures->setAccessibleName(tr("Files that could not be recovered"));
     m_failures->setWordWrap(true);
     m_failures->hide();
     m_openTarget->hide();
@@ -88,8 +92,8 @@ RecoveryDialog::RecoveryDialog(std::shared_ptr<const ScanSource> source, const H
 void RecoveryDialog::start(const QVector<FoundItem> &items, const QString &target)
 {
     m_target = target;
-    m_title->setText(tr("Recovering to %1").arg(QDir::toNativeSeparators(target)));
-    m_detail->setText(Texts::files(items.size()));
+    m_files = items.size();
+    retranslate();
     m_job.start(items, target);
 }
 
@@ -103,14 +107,15 @@ void RecoveryDialog::reject()
 
 void RecoveryDialog::showProgress(const RecoveryProgress &progress)
 {
+    m_progress = progress;
     if (progress.bytesTotal > 0)
         m_bar->setValue(
             int(double(progress.bytesDone) / double(progress.bytesTotal) * ProgressSteps));
-    const QString counts = tr("%1 of %2 · %3 of %4")
-                               .arg(Texts::number(progress.filesDone),
-                                    Texts::files(progress.filesTotal),
-                                    Texts::size(progress.bytesDone),
-                                    Texts::size(progress.bytesTotal));
+    const QString counts =
+        tr("%1 of %Ln file(s)", nullptr, progress.filesTotal).arg(Texts::number(progress.filesDone))
+        + QStringLiteral(" · ")
+        + tr("%1 of %2", "bytes done, bytes in all")
+              .arg(Texts::size(progress.bytesDone), Texts::size(progress.bytesTotal));
     m_detail->setText(
         counts + QLatin1Char('\n')
         + m_detail->fontMetrics().elidedText(progress.current, Qt::ElideMiddle, m_detail->width()));
@@ -120,32 +125,58 @@ QString RecoveryDialog::summaryOf(const RecoveryReport &report, const QString &t
 {
     if (report.recovered.isEmpty() && !report.stopReason.isEmpty())
         return report.stopReason;
-    QString text = tr("%1 recovered to %2.")
-                       .arg(Texts::files(report.recovered.size()),
-                            QDir::toNativeSeparators(target));
+    QString text = tr("%Ln file(s) recovered to %1.", nullptr, report.recovered.size())
+                       .arg(QDir::toNativeSeparators(target));
     if (!report.failed.isEmpty())
         text += QLatin1Char(' ')
-            + tr("%1 could not be recovered.").arg(Texts::files(report.failed.size()));
+            + tr("%Ln file(s) could not be recovered.", nullptr, report.failed.size());
     if (!report.stopReason.isEmpty())
         text += QLatin1Char(' ') + report.stopReason;
     return text;
 }
 
+void RecoveryDialog::retranslate()
+{
+    setWindowTitle(tr("Recovery"));
+    m_bar->setAccessibleName(tr("Progress of the recovery"));
+    m_failures->setAccessibleName(tr("Files that could not be recovered"));
+    m_openTarget->setText(tr("Open folder"));
+    m_close->setText(m_isDone ? tr("Done") : tr("Cancel"));
+    if (m_isDone) {
+        m_title->setText(m_report.cancelled      ? tr("Recovery cancelled")
+                             : isWhole(m_report) ? tr("Recovery complete")
+                                                 : tr("Some files could not be recovered"));
+        m_detail->setText(summaryOf(m_report, m_target) + QLatin1Char('\n')
+                          + Texts::size(m_report.bytes));
+        return;
+    }
+    m_title->setText(tr("Recovering to %1").arg(QDir::toNativeSeparators(m_target)));
+    if (m_progress.filesTotal > 0)
+        showProgress(m_progress);
+    else
+        m_detail->setText(Texts::files(m_files));
+}
+
+void RecoveryDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
 void RecoveryDialog::showReport(const RecoveryReport &report)
 {
-    const bool whole = report.failed.isEmpty() && !report.cancelled && report.stopReason.isEmpty();
+    m_report = report;
+    m_isDone = true;
     m_bar->hide();
-    m_title->setText(report.cancelled ? tr("Recovery cancelled")
-                         : whole      ? tr("Recovery complete")
-                                      : tr("Some files could not be recovered"));
-    m_detail->setText(summaryOf(report, m_target) + QLatin1Char('\n') + Texts::size(report.bytes));
+    const bool whole = isWhole(report);
     m_icon->setPixmap(glyphIcon(whole ? Glyph::Done : Glyph::Warning, whole ? m_good : m_bad)
                           .pixmap(window()->windowHandle(), m_icon->size()));
     for (const FailedFile &file : report.failed)
         m_failures->addItem(file.path + QLatin1Char('\n') + file.reason);
     m_failures->setVisible(!report.failed.isEmpty());
     m_openTarget->setVisible(!report.recovered.isEmpty());
-    m_close->setText(tr("Done"));
+    retranslate();
     m_close->setProperty("primary", true);
     m_close->style()->unpolish(m_close);
     m_close->style()->polish(m_close);

@@ -29,13 +29,19 @@ signals:
 
 protected:
     void reject() override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void showProgress(const RecoveryProgress &progress);
     void showReport(const RecoveryReport &report);
+    void retranslate();
 
     RecoveryJob m_job;
     QString m_target;
+    int m_files = 0;
+    RecoveryProgress m_progress;
+    RecoveryReport m_report;
+    bool m_isDone = false;
     QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_detail;

@@ -15,12 +15,10 @@ QString Texts::number(qint64 number)
 
 QString Texts::files(int count)
 {
-    return count == 1 ? QCoreApplication::translate("Texts", "1 file")
-                      : QCoreApplication::translate("Texts", "%1 files").arg(number(count));
+    return QCoreApplication::translate("Texts", "%Ln file(s)", nullptr, count);
 }
 
 QString Texts::folders(int count)
 {
-    return count == 1 ? QCoreApplication::translate("Texts", "1 folder")
-                      : QCoreApplication::translate("Texts", "%1 folders").arg(number(count));
+    return QCoreApplication::translate("Texts", "%Ln folder(s)", nullptr, count);
 }

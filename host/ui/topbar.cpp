@@ -1,9 +1,11 @@
 #include "host/ui/topbar.h"
 
+#include "host/app/languages.h"
 #include "host/ui/hosttheme.h"
 #include "host/ui/segments.h"
 #include "plugin/sdcardscancontentplugininterface.h"
 
+#include <QActionGroup>
 #include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -27,6 +29,8 @@ TopBar::TopBar(QWidget *parent)
     , m_menu(new QMenu(this))
     , m_search(new QLineEdit(this))
     , m_views(new Segments(this))
+    , m_language(new QToolButton(this))
+    , m_languages(new QActionGroup(this))
     , m_theme(new QToolButton(this))
 {
     setObjectName(QStringLiteral("topBar"));
@@ -38,6 +42,7 @@ TopBar::TopBar(QWidget *parent)
     row->addWidget(m_search, 3);
     row->addStretch(1);
     row->addWidget(m_views);
+    row->addWidget(m_language);
     row->addWidget(m_theme);
 
     m_source->setObjectName(QStringLiteral("emphasis"));
@@ -65,6 +70,11 @@ TopBar::TopBar(QWidget *parent)
     m_views->setChosen(Plugin::GridView);
     connect(m_views, &Segments::picked, this, &TopBar::viewModePicked);
 
+    m_language->setProperty("iconOnly", true);
+    m_language->setIconSize({IconSide, IconSide});
+    m_language->setPopupMode(QToolButton::InstantPopup);
+    buildLanguageMenu();
+
     m_theme->setProperty("iconOnly", true);
     m_theme->setIconSize({IconSide, IconSide});
     connect(m_theme, &QToolButton::clicked, this, &TopBar::themeToggled);
@@ -90,8 +100,28 @@ void TopBar::buildSourceMenu()
     connect(m_stop, &QAction::triggered, this, &TopBar::stopRequested);
 }
 
+void TopBar::buildLanguageMenu()
+{
+    auto *menu = new QMenu(m_language);
+    for (const Language &language : Languages::all()) {
+        QAction *action = menu->addAction(QString::fromUtf8(language.nativeName));
+        action->setCheckable(true);
+        action->setData(QString::fromLatin1(language.name));
+        m_languages->addAction(action);
+    }
+    m_language->setMenu(menu);
+    connect(m_languages, &QActionGroup::triggered, this,
+            [this](const QAction *action) { emit languagePicked(action->data().toString()); });
+}
+
 void TopBar::retranslate()
 {
+    const QList<QAction *> languages = m_languages->actions();
+    for (QAction *action : languages)
+        action->setChecked(Languages::current()
+                           && action->data() == QLatin1String(Languages::current()->name));
+    m_language->setToolTip(tr("Language"));
+    m_language->setAccessibleName(tr("Language"));
     m_openFolder->setText(tr("Open folder…"));
     m_openImage->setText(tr("Open disk image…"));
     m_rescan->setText(tr("Scan again"));
@@ -158,6 +188,7 @@ void TopBar::setTheme(const HostTheme &theme)
     m_views->setTheme(theme);
     m_source->setIcon(glyphIcon(Glyph::Disk, theme.accentText));
     m_searchIcon->setIcon(glyphIcon(Glyph::Search, theme.faintText));
+    m_language->setIcon(glyphIcon(Glyph::Web, theme.icon));
     m_theme->setIcon(glyphIcon(theme.isDark ? Glyph::Sun : Glyph::Moon, theme.icon));
     m_openFolder->setIcon(glyphIcon(Glyph::OpenFolder, theme.icon, theme.offText));
     m_openImage->setIcon(glyphIcon(Glyph::Disk, theme.icon, theme.offText));

@@ -4,13 +4,14 @@
 #include <QTimer>
 
 class QAction;
+class QActionGroup;
 class QLineEdit;
 class QMenu;
 class QToolButton;
 class Segments;
 struct HostTheme;
 
-/// What is scanned, the search box, how results are shown and the theme.
+/// What is scanned, the search box, how results are shown, the language and the theme.
 class TopBar : public QFrame
 {
     Q_OBJECT
@@ -34,6 +35,7 @@ signals:
     void keywordChanged(const QString &keyword); ///< once typing pauses
     void viewModePicked(int mode);
     void themeToggled();
+    void languagePicked(const QString &name);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -41,6 +43,7 @@ protected:
 
 private:
     void buildSourceMenu();
+    void buildLanguageMenu();
     void retranslate();
     void elideSource();
 
@@ -53,6 +56,8 @@ private:
     QLineEdit *m_search;
     QAction *m_searchIcon = nullptr;
     Segments *m_views;
+    QToolButton *m_language;
+    QActionGroup *m_languages;
     QToolButton *m_theme;
     QTimer m_typing;
     QString m_path;

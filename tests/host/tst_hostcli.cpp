@@ -77,6 +77,8 @@ TestHostCli::Result TestHostCli::run(QStringList arguments, bool offscreen)
 {
     QProcess host;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", m_folder->filePath("settings")); // not the user's own
+    environment.insert("LC_ALL", "C.UTF-8");
     if (!offscreen) {
         for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
             environment.remove(QLatin1String(name));

@@ -6,6 +6,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -305,7 +306,7 @@ void TestRecoveryFiles::shortContentsFail()
     m_source->items.last().size = 1001;
     const RecoveryReport report = recover(target());
     QCOMPARE(report.failed.size(), 1);
-    QVERIFY(report.failed.first().reason.contains(QStringLiteral("1000")));
+    QVERIFY(report.failed.first().reason.contains(QLocale().toString(1000)));
     QCOMPARE(everythingIn(target()), QStringList());
 }
 

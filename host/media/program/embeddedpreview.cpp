@@ -2,9 +2,9 @@
 
 #include "host/media/program/exivfile.h"
 #include "host/media/program/pictureloader.h"
+#include "host/media/protocol/mediafailure.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QImageReader>
 #include <QSet>
 #include <QTransform>
@@ -85,7 +85,7 @@ bool EmbeddedPreview::isRaw(const QString &extension)
 
 QImage EmbeddedPreview::load(QIODevice &file, const QSize &cover, QString *error)
 {
-    *error = QCoreApplication::translate("EmbeddedPreview", "There is no preview in the file.");
+    *error = MediaFailure::pack(QT_TRANSLATE_NOOP("Media", "There is no preview in the file."));
     try {
         const auto photo = ExivFile::readPhoto(file);
         const int orientation = orientationOf(photo->exifData());

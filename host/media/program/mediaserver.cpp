@@ -7,17 +7,11 @@
 #include "host/media/program/videofile.h"
 #include "host/media/program/videoframe.h"
 #include "host/media/program/videometadata.h"
-
-#include <QCoreApplication>
+#include "host/media/protocol/mediafailure.h"
 
 #include <new>
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MediaServer", text);
-}
 
 QImage loadPhoto(const MediaRequest &request, QIODevice &file, QString *error)
 {
@@ -60,7 +54,8 @@ void MediaServer::serve(const MediaRequest &request)
     } catch (const std::bad_alloc &) {
         answer = MediaAnswer();
         payload.clear();
-        answer.error = tr("There is not enough memory for this file.");
+        answer.error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "There is not enough memory for this file."));
     }
     if (!payload.isEmpty()) {
         m_pipe.send(request.task == MediaRequest::Picture ? MediaFrame::Picture
@@ -71,7 +66,8 @@ void MediaServer::serve(const MediaRequest &request)
     if (!file.failure().isEmpty())
         answer.error = file.failure();
     if (answer.error.isEmpty())
-        answer.error = tr("The picture is too large to be handed over.");
+        answer.error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "The picture is too large to be handed over."));
     m_pipe.send(MediaFrame::Failure, MediaFrame::encodeText(answer.error));
 }
 

@@ -3,8 +3,8 @@
 #include "host/media/program/exivfile.h"
 #include "host/media/program/mediatexts.h"
 #include "host/media/program/scenewords.h"
+#include "host/media/protocol/mediafailure.h"
 
-#include <QCoreApplication>
 #include <QImageReader>
 #include <QTextCodec>
 
@@ -180,7 +180,7 @@ MediaAnswer photoMetadata(QIODevice &file)
     }
     addResolution(size, sideways, &answer);
     if (answer.metaData.isEmpty() && answer.scenes.isEmpty())
-        answer.error = QCoreApplication::translate("PhotoMetadata",
-                                                   "There is no metadata in the file.");
+        answer.error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "There is no metadata in the file."));
     return answer;
 }

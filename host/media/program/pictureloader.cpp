@@ -1,8 +1,8 @@
 #include "host/media/program/pictureloader.h"
 
+#include "host/media/protocol/mediafailure.h"
 #include "platform/system/system.h"
 
-#include <QCoreApplication>
 #include <QImageReader>
 
 #include <algorithm>
@@ -14,16 +14,16 @@ constexpr int BytesPerPixel = 4;
 constexpr int MaxStretch =
     8; // of a long strip, so that its thumbnail does not become a large picture
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Picture", text);
-}
-
 /// Text and vectors: their size says nothing about the work that they make.
 bool isTrusted(const QByteArray &format)
 {
     return !format.isEmpty() && !format.startsWith("svg") && format != "pdf" && format != "xpm"
         && format != "xbm";
+}
+
+QStringList sidesOf(const QSize &size)
+{
+    return {QString::number(size.width()), QString::number(size.height())};
 }
 
 QSize covering(const QSize &picture, const QSize &cover)
@@ -45,24 +45,27 @@ QImage loadPicture(QIODevice &device, const QSize &cover, QString *error)
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     if (!isTrusted(reader.format())) {
-        *error = tr("The picture is broken or of an unknown kind.");
+        *error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "The picture is broken or of an unknown kind."));
         return QImage();
     }
     const QSize size = reader.size();
     if (size.isEmpty()) {
-        *error = tr("The picture does not say how large it is.");
+        *error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "The picture does not say how large it is."));
         return QImage();
     }
     const qint64 pixels = qint64(size.width()) * size.height();
     if (pixels > MaxPixels) {
-        *error = tr("The picture is too large: %1 × %2.").arg(size.width()).arg(size.height());
+        *error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "The picture is too large: %1 × %2."), sidesOf(size));
         return QImage();
     }
     const quint64 memoryLeft = System::availablePhysicalMemory();
     if (memoryLeft > 0 && quint64(pixels) * BytesPerPixel > memoryLeft / 2) {
-        *error = tr("There is not enough memory for a picture of %1 × %2.")
-                     .arg(size.width())
-                     .arg(size.height());
+        *error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "There is not enough memory for a picture of %1 × %2."),
+            sidesOf(size));
         return QImage();
     }
     if (!cover.isEmpty()) {

@@ -1,6 +1,6 @@
 #include "host/media/program/videofile.h"
 
-#include <QCoreApplication>
+#include "host/media/protocol/mediafailure.h"
 
 extern "C" {
 #include <libavformat/avformat.h>
@@ -20,11 +20,6 @@ constexpr int MaxStreams = 100;
 // Containers that hold their contents themselves: a play list would name other files.
 constexpr char Containers[] =
     "mov,mp4,matroska,webm,avi,mpegts,mpeg,mpegvideo,asf,flv,mxf,ogg,rm,dv,m4v,h264,hevc,ivf,nut";
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("VideoFile", text);
-}
 
 QString reason(int code)
 {
@@ -81,19 +76,20 @@ bool VideoFile::open(const QString &extension, QString *error)
         return false;
     const int result = avformat_find_stream_info(m_context, nullptr);
     if (result < 0) {
-        *error = tr("The video is broken: %1.").arg(reason(result));
+        *error = MediaFailure::pack(QT_TRANSLATE_NOOP("Media", "The video is broken: %1."),
+                                    {reason(result)});
         return false;
     }
     const int index = av_find_best_stream(m_context, AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
     if (index < 0) {
-        *error = tr("There is no picture in the file.");
+        *error = MediaFailure::pack(QT_TRANSLATE_NOOP("Media", "There is no picture in the file."));
         return false;
     }
     m_stream = m_context->streams[index];
     const qint64 width = m_stream->codecpar->width;
     const qint64 height = m_stream->codecpar->height;
     if (width <= 0 || height <= 0 || width * height > MaxPixels) {
-        *error = tr("The video is broken.");
+        *error = MediaFailure::pack(QT_TRANSLATE_NOOP("Media", "The video is broken."));
         return false;
     }
     return true;
@@ -117,7 +113,9 @@ bool VideoFile::openHead(const QString &extension, QString *error)
     const int result = avformat_open_input(&m_context, name.constData(), nullptr, &options);
     av_dict_free(&options);
     if (result < 0)
-        *error = tr("The video is broken or of an unknown kind: %1.").arg(reason(result));
+        *error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "The video is broken or of an unknown kind: %1."),
+            {reason(result)});
     return result >= 0;
 }
 

@@ -1,8 +1,7 @@
 #include "host/media/program/videoframe.h"
 
 #include "host/media/program/videofile.h"
-
-#include <QCoreApplication>
+#include "host/media/protocol/mediafailure.h"
 
 #include <libffmpegthumbnailer/videothumbnailerc.h>
 
@@ -74,6 +73,7 @@ QImage loadVideoFrame(QIODevice &file, const QString &extension, const QSize &co
     if (!image.isNull())
         error->clear();
     else if (error->isEmpty())
-        *error = QCoreApplication::translate("VideoFrame", "No frame of the video can be decoded.");
+        *error = MediaFailure::pack(
+            QT_TRANSLATE_NOOP("Media", "No frame of the video can be decoded."));
     return image;
 }
