@@ -4,6 +4,7 @@
 #include "common/thememanager.h"
 #include "common/zvlangmanager.h"
 #include "platform/system/system.h"
+#include "thumbnails/highdpipixmapsmanager.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,7 @@ QFrame *makeFrame(const char *name, int side, QPointer<SDCardContentDataWidget> 
     layout->setSpacing(0);
     *content = new SDCardContentDataWidget(side, frame);
     layout->addWidget(content->data());
+    HighDpiPixmapsManager::instance()->preloadAfterFirstPaint(frame);
     return frame;
 }
 

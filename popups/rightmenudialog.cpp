@@ -9,6 +9,7 @@
 #include "popups/menuaccessible.h"
 #include "popups/menuplacement.h"
 #include "popups/rightmenuframe.h"
+#include "thumbnails/highdpipixmapsmanager.h"
 #include "ui_rightmenudialog.h"
 
 #include <QCursor>
@@ -171,8 +172,10 @@ void RightMenuDialog::showShadow()
                           ui->frame->height() + Around.top() + Around.bottom());
         DropShadowManager(m_shadowRatio).paint(&shadow, whole, ShadowDarkness, ShadowTopShare);
     });
-    attempt("RightMenuDialog::doChangLanguage HighDpiPixmapsManager error",
-            [&] { ui->labelDropShadow->setPixmap(shadow); });
+    attempt("RightMenuDialog::doChangLanguage HighDpiPixmapsManager error", [&] {
+        HighDpiPixmapsManager::instance()->setLabelPixmap(ui->labelDropShadow, shadow,
+                                                          m_shadowRatio);
+    });
 }
 
 void RightMenuDialog::updateTheme()

@@ -8,7 +8,7 @@ to build|build-essential cmake ninja-build pkg-config
 the windows and their tools|qtbase5-dev qttools5-dev qttools5-dev-tools
 to read WebP, TIFF and more|qt5-image-formats-plugins
 to play the animations|librlottie-dev
-to render the pictures|librsvg2-bin
+to render the pictures|librsvg2-bin pngquant
 to read file systems|libtsk-dev
 to read and write a photo's metadata|libexiv2-dev
 to read and write videos|libavformat-dev libavcodec-dev libavutil-dev libswscale-dev
