@@ -28,6 +28,7 @@ ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel
     form.itemDetailFrameVLayout->addWidget(m_list->pane());
     form.itemDetailframe->hide();
     form.vlineframe->hide();
+    form.spaceframe->hide(); // it belongs to the pane, and the cards would jump when it goes
     form.listModeHeaderView->hide();
     form.iconModeHederView->hide();
 

@@ -25,7 +25,7 @@ ChipInfoItem::~ChipInfoItem() = default;
 
 void ChipInfoItem::setTitle(const QString &title)
 {
-    ui->labTitle->setText(title);
+    ui->labTitle->setFullText(title);
 }
 
 void ChipInfoItem::setChips(const QStringList &texts)

@@ -87,6 +87,7 @@ ItemDetailView::ItemDetailView(QWidget *parent)
             emit signalPathClicked(m_item);
     });
     loadStyleSheet();
+    mirror();
     retranslate();
 }
 
@@ -255,6 +256,21 @@ void ItemDetailView::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        mirror();
+}
+
+void ItemDetailView::mirror()
+{
+    // margins are the only thing about a layout that does not turn round by itself
+    if (isRightToLeft() == m_mirrored)
+        return;
+    m_mirrored = isRightToLeft();
+    for (QLayout *part : {layout(), ui->frameIcon->layout(), ui->frameName->layout(),
+                          ui->frameOpen->layout(), ui->scrollAreaWidgetContents->layout()}) {
+        const QMargins margins = part->contentsMargins();
+        part->setContentsMargins(margins.right(), margins.top(), margins.left(), margins.bottom());
+    }
 }
 
 void ItemDetailView::updateTheme()

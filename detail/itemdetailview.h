@@ -52,6 +52,7 @@ protected:
 
 private:
     void loadStyleSheet();
+    void mirror();
     void fillPicture();
     void fillFacts();
     void fillTags();
@@ -70,4 +71,5 @@ private:
     ChipInfoItem *m_tags;
     QVector<DataInfoItem *> m_metadataRows; ///< kept and used again
     bool m_assessmentFinished = false;
+    bool m_mirrored = false;
 };

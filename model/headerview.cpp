@@ -167,8 +167,11 @@ void HeaderView::layOut()
     set(ui->sizeSpacer, spacing + (m_large ? SizeSpacerGrowth : 0));
     set(ui->typeSpacer, spacing);
     set(ui->dateSpacer, spacing);
-    ui->headerLayout->setContentsMargins(LeftMargin, 0,
-                                         ui->rightEndWidget->isHidden() ? 0 : RightMargin, 0);
+    // margins are the only thing about a layout that does not turn round by itself
+    const int atEnd = ui->rightEndWidget->isHidden() ? 0 : RightMargin;
+    const bool mirrored = isRightToLeft();
+    ui->headerLayout->setContentsMargins(mirrored ? atEnd : LeftMargin, 0,
+                                         mirrored ? LeftMargin : atEnd, 0);
     ui->headerLayout->invalidate();
 }
 
@@ -178,6 +181,7 @@ void HeaderView::mirror()
     for (QPushButton *button : m_sortButtons)
         button->setProperty(MirroredProperty, isRightToLeft());
     showSort();
+    layOut();
 }
 
 void HeaderView::changeEvent(QEvent *event)

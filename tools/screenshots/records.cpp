@@ -19,8 +19,7 @@ enum Category {
     Other = 0
 };
 
-/// What a camera of today takes, before it is scaled to the size of a card.
-constexpr int PaintedHeight = 126;
+constexpr int PaintedHeight = 166; // what a host makes, which serves the pane too
 
 struct Shot
 {

@@ -137,7 +137,6 @@ void Stage::send(QEvent::Type type, const QPoint &place, Qt::MouseButton button,
                  Qt::KeyboardModifiers modifiers)
 {
     QWidget *target = items()->viewport();
-    QCursor::setPos(target->mapToGlobal(place));
     const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
     QMouseEvent event(type, place, target->mapToGlobal(place), button, held, modifiers);
     QApplication::sendEvent(target, &event);
@@ -162,6 +161,8 @@ void Stage::click(int row, Qt::KeyboardModifiers modifiers)
 void Stage::openMenu(int row)
 {
     const QPoint place = placeOf(row, 0);
+    QCursor::setPos(items()->viewport()->mapToGlobal(place)); // it opens there
+    send(QEvent::MouseMove, place, Qt::NoButton);
     send(QEvent::MouseButtonPress, place, Qt::RightButton);
     send(QEvent::MouseButtonRelease, place, Qt::RightButton);
     settle(0);

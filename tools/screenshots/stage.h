@@ -27,6 +27,9 @@ public:
     /// Nothing on either side, no filter, the scan side in front.
     void clear();
     SDCardScanContentPluginInterface *view() const { return m_view; }
+    QWidget &window() { return m_window; }
+    /// The grid or the table, whichever is seen; null on a page without results.
+    QAbstractItemView *items() const;
     Records &records() { return *m_records; }
     FilterCondition &filter() { return m_filter; }
     void showScan(TreeItemData *root, int viewMode);
@@ -49,7 +52,6 @@ private slots:
 
 private:
     QFrame *front() const;
-    QAbstractItemView *items() const;
     QPoint placeOf(int row, int column) const;
     void send(QEvent::Type type, const QPoint &place, Qt::MouseButton button,
               Qt::KeyboardModifiers modifiers = Qt::NoModifier);
