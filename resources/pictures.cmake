@@ -8,16 +8,21 @@ execute_process(COMMAND "${RSVG_CONVERT}" --version OUTPUT_VARIABLE rsvg_version
 if(NOT rsvg_version MATCHES "([0-9]+\\.[0-9]+)" OR CMAKE_MATCH_1 VERSION_LESS 2.54)
     message(FATAL_ERROR "rsvg-convert 2.54 or newer is needed to draw the pictures; '${RSVG_CONVERT}' is older")
 endif()
+find_program(PNGQUANT pngquant)
+if(NOT PNGQUANT)
+    message(FATAL_ERROR "pngquant is missing; it packs large pictures and the sprite sheets (Debian package pngquant)")
+endif()
 
 set(picture_folder "${CMAKE_CURRENT_BINARY_DIR}/rendered")
 set(picture_css "${CMAKE_CURRENT_BINARY_DIR}/css")
 set(picture_files "") # what has been declared so far, relative to picture_folder
 
-# scan_picture(MASTER NAME [THEME light|dark] [SIZE side] [MARGIN pixels])
+# scan_picture(MASTER NAME [THEME light|dark] [SIZE side] [MARGIN pixels] [PACKED])
 # art/MASTER.svg becomes ":/NAME.png" and ":/NAME@2x.png": in the master's own size, or drawn SIZE
-# wide and high with MARGIN free pixels around it.
+# wide and high with MARGIN free pixels around it. A master that the build has made is given
+# whole. PACKED is for large pictures of flat colours: 256 of them, a third of the size.
 function(scan_picture master name)
-    cmake_parse_arguments(arg "" "THEME;SIZE;MARGIN" "" ${ARGN})
+    cmake_parse_arguments(arg "PACKED" "THEME;SIZE;MARGIN" "" ${ARGN})
     if(NOT arg_THEME)
         set(arg_THEME light)
     endif()
@@ -25,6 +30,9 @@ function(scan_picture master name)
         set(arg_MARGIN 0)
     endif()
     set(source "${CMAKE_CURRENT_SOURCE_DIR}/art/${master}.svg")
+    if(IS_ABSOLUTE "${master}")
+        set(source "${master}")
+    endif()
     set(commands "")
     set(outputs "")
     foreach(scale 1 2)
@@ -47,6 +55,10 @@ function(scan_picture master name)
         list(APPEND outputs "${picture_folder}/${file}")
         list(APPEND commands COMMAND "${RSVG_CONVERT}" ${size} "--stylesheet=${css}"
              -o "${picture_folder}/${file}" "${source}")
+        if(arg_PACKED)
+            list(APPEND commands COMMAND "${PNGQUANT}" --force --strip --speed 3
+                 --output "${picture_folder}/${file}" 256 "${picture_folder}/${file}")
+        endif()
         list(APPEND picture_files "${file}")
     endforeach()
     get_filename_component(folder "${picture_folder}/${name}" DIRECTORY)

@@ -1,10 +1,6 @@
 # Draws the frames of our Lottie files into sprite sheets, with at most 256 colours each: a quarter
 # of the memory once they are cut.
 
-find_program(PNGQUANT pngquant)
-if(NOT PNGQUANT)
-    message(FATAL_ERROR "pngquant is missing; it packs the sprite sheets (Debian package pngquant)")
-endif()
 find_path(RLOTTIE_INCLUDE_DIR rlottie.h REQUIRED)
 find_library(RLOTTIE_LIBRARY rlottie REQUIRED)
 

@@ -14,6 +14,10 @@ const char *const s_fileKinds[] = {"Default", "Audio",    "Video",      "CameraV
                                    "Email",   "Database", "Photo",      "Raw",         "Web",
                                    "Archive", "Folder"};
 
+/// As the picture of the how-to-find dialog is called in each.
+const char *const s_languages[] = {"AR", "DE", "EN", "ES", "FR",  "ID", "IND", "IT",
+                                   "JP", "KO", "NL", "PT", "RUS", "SE", "TCH", "THA"};
+
 QImage loaded(const QString &base, int scale)
 {
     const QString path = base + (scale == 2 ? QStringLiteral("@2x.png") : QStringLiteral(".png"));
@@ -105,6 +109,11 @@ void TestPictures::exists_data()
     // asked for without the slash that every other picture has
     add(QStringLiteral(":Images/image200_No scan_white"), 200, 200);
     add(QStringLiteral(":Images/image142_Search"), 142, 142);
+    for (const QString &folder : {QStringLiteral(":Images/"), QStringLiteral(":Images/Dark/")})
+        for (const char *language : s_languages)
+            add(folder + QLatin1String("unsourcefiles/image_SDCardUnsourcedFiles_Win-")
+                    + QLatin1String(language),
+                744, 288);
     for (const char *kind : s_fileKinds) {
         add(s_light + QLatin1String("icon32/icon32_File_") + QLatin1String(kind), 32, 32);
         add(s_light + QLatin1String("icon64_File_") + QLatin1String(kind), 64, 64);

@@ -1,0 +1,87 @@
+# The picture of the how-to-find dialog: one drawn window, with the captions of each language.
+
+# scan_text(RESULT CATALOGUE CONTEXT KEY): what a .ts file says, still escaped for XML, as the
+# picture wants it; nothing when it does not say anything.
+function(scan_text result catalogue context key)
+    set(${result} "" PARENT_SCOPE)
+    set(rest "${catalogue}")
+    foreach(mark "<name>${context}</name>" "<source>${key}</source>")
+        string(FIND "${rest}" "${mark}" start)
+        if(start EQUAL -1)
+            return()
+        endif()
+        string(SUBSTRING "${rest}" ${start} -1 rest)
+        # the context, then the message: what follows belongs to others
+        if(mark MATCHES "^<name>")
+            string(FIND "${rest}" "</context>" end)
+        else()
+            string(FIND "${rest}" "</message>" end)
+        endif()
+        string(SUBSTRING "${rest}" 0 ${end} rest)
+    endforeach()
+    if(rest MATCHES "<translation>([^<]+)</translation>")
+        set(${result} "${CMAKE_MATCH_1}" PARENT_SCOPE)
+    endif()
+endfunction()
+
+# scan_how_to_find_picture(SUFFIX LANGUAGE FAMILIES [MIRRORED])
+function(scan_how_to_find_picture suffix language families)
+    set(flip "")
+    set(mirror "")
+    set(direction ltr)
+    if("MIRRORED" IN_LIST ARGN)
+        set(flip "scale(-1 1)")
+        set(mirror "translate(744 0) scale(-1 1)")
+        set(direction rtl)
+    endif()
+
+    set(catalogue "")
+    set(file "${CMAKE_CURRENT_SOURCE_DIR}/translations/quarvo_${language}.ts")
+    if(EXISTS "${file}")
+        file(READ "${file}" catalogue)
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
+    endif()
+    foreach(caption
+            "card|HowToFindPicture|SD card" "all|HowToFindPicture|All files"
+            "deleted|HowToFindPicture|Deleted files" "search|HowToFindPicture|Search by name"
+            "unnamed|QuarvoTRS|reconstructed_files_label" "select|QuarvoTRS|select_all"
+            "preview|QuarvoTRS|preview" "recover|QuarvoTRS|recover"
+            "photo|CommonFunction|Photo" "video|CommonFunction|Video"
+            "audio|CommonFunction|Audio" "document|CommonFunction|Document")
+        string(REPLACE "|" ";" parts "${caption}")
+        list(GET parts 0 name)
+        list(GET parts 1 context)
+        list(GET parts 2 key)
+        scan_text(text "${catalogue}" "${context}" "${key}")
+        if(text STREQUAL "")
+            scan_text(text "${english_catalogue}" "${context}" "${key}")
+        endif()
+        if(text STREQUAL "") # a text that is its own key
+            set(text "${key}")
+        endif()
+        set(caption_${name} "${text}")
+    endforeach()
+
+    string(REPLACE "_" "-" language "${language}")
+    set(master "${CMAKE_CURRENT_BINARY_DIR}/howtofind/${suffix}.svg")
+    configure_file(art/howtofind/window.svg "${master}" @ONLY)
+    set(name "unsourcefiles/image_SDCardUnsourcedFiles_Win-${suffix}")
+    scan_picture("${master}" "Images/${name}" PACKED)
+    scan_picture("${master}" "Images/Dark/${name}" THEME dark PACKED)
+    set(picture_files "${picture_files}" PARENT_SCOPE)
+endfunction()
+
+file(READ "${CMAKE_CURRENT_SOURCE_DIR}/translations/quarvo_en.ts" english_catalogue)
+set(latin "Open Sans, Noto Sans, Segoe UI, sans-serif")
+foreach(entry EN:en DE:de ES:es FR:fr IT:it NL:nl PT:pt RUS:ru SE:sv ID:id)
+    string(REPLACE ":" ";" entry "${entry}")
+    list(GET entry 0 suffix)
+    list(GET entry 1 language)
+    scan_how_to_find_picture(${suffix} ${language} "${latin}")
+endforeach()
+scan_how_to_find_picture(AR ar "Noto Sans Arabic, ${latin}" MIRRORED)
+scan_how_to_find_picture(IND hi "Noto Sans Devanagari, Nirmala UI, ${latin}")
+scan_how_to_find_picture(THA th "Noto Sans Thai, Leelawadee UI, ${latin}")
+scan_how_to_find_picture(JP ja "Open Sans, Noto Sans CJK JP, Yu Gothic UI, ${latin}")
+scan_how_to_find_picture(KO ko "Open Sans, Noto Sans CJK KR, Malgun Gothic, ${latin}")
+scan_how_to_find_picture(TCH zh_TW "Open Sans, Noto Sans CJK TC, Microsoft JhengHei UI, ${latin}")
