@@ -4,6 +4,7 @@
 #include "content/listmode.h"
 #include "content/overlayscrollbar.h"
 #include "content/scantableview.h"
+#include "content/thumbnailgrid.h"
 #include "content/viewkeys.h"
 #include "delegates/listdelegate.h"
 #include "detail/itemdetailview.h"
@@ -74,7 +75,7 @@ void ContentViews::setMode(int mode, const QModelIndex &current)
 {
     const bool grid = mode == GridOnly;
     const bool pane = mode == ListWithPane;
-    QAbstractItemView *before = inUse();
+    ViewPlace &before = placeInUse();
     m_mode = mode;
     m_form.headerViewFrame->setVisible(grid);
     m_form.listView->setVisible(grid);
@@ -84,9 +85,11 @@ void ContentViews::setMode(int mode, const QModelIndex &current)
     m_form.itemDetailframe->setVisible(pane);
     m_list->setPaneShown(pane);
     m_list->fitColumns();
-    if (before != inUse()) {
+    if (&before != &placeInUse()) {
         m_grid->forgetMultiSelection();
-        ViewMemory::copySelection(*before, *inUse(), *m_model);
+        inUse()->selectionModel()->setCurrentIndex(current.sibling(current.row(), 0),
+                                                   QItemSelectionModel::NoUpdate);
+        ViewMemory::copySelection(before, placeInUse(), *m_model);
         inUse()->scrollTo(current);
     }
     showHeaders();
@@ -114,23 +117,21 @@ QList<TreeItemData *> ContentViews::selectedItems() const
     return items;
 }
 
-void ContentViews::openTree(TreeItemData *root, bool shownAlready)
+ViewPlace &ContentViews::placeInUse() const
 {
-    const bool grid = m_mode == GridOnly;
-    // Only the view in use: the other takes its selection over when it is shown.
-    ViewMemory &memory = grid ? m_gridMemory : m_tableMemory;
-    if (shownAlready)
-        memory.capture(*inUse(), *m_model,
-                       grid ? m_grid->view()->visibleRows().first
-                            : m_list->table()->visibleRows().first);
-    m_grid->rememberAnchor();
-    m_model->openFolder(root);
-    if (shownAlready) {
-        memory.restore(*inUse(), *m_model);
-        m_grid->restoreAnchor();
-    } else {
-        inUse()->scrollToTop();
-    }
+    if (m_mode == GridOnly)
+        return *m_grid->view();
+    return *m_list->table();
+}
+
+void ContentViews::remember()
+{
+    memory().capture(placeInUse(), *m_model);
+}
+
+void ContentViews::recall()
+{
+    memory().restore(placeInUse(), *m_model);
 }
 
 void ContentViews::setAssessmentFinished(bool finished)

@@ -9,8 +9,8 @@ class ListMode;
 class OverlayScrollBar;
 class QAbstractItemView;
 class ScanDataModel;
-class ThumbnailGrid;
 class TreeItemData;
+class ViewPlace;
 
 namespace Ui {
 class SDCardContentDataWidgetClass;
@@ -40,9 +40,10 @@ public:
 
     /// By rows; in the grid the last multi-selection where the view has one item at most.
     QList<TreeItemData *> selectedItems() const;
-    /// Gives the tree to the model. Of a tree that is shown already the view in use keeps
-    /// selection and scroll position; another starts at its top.
-    void openTree(TreeItemData *root, bool shownAlready);
+    /// Around a reset of the model with a tree that is shown already: in the view in use all that
+    /// belongs to an item stays with it. Recall after the current item has been put back.
+    void remember();
+    void recall();
 
     void setAssessmentFinished(bool finished);
     void setSearchKeyword(const QString &keyword);
@@ -67,6 +68,9 @@ private:
     template <typename View>
     void relay(const View *view);
     void connectKeys();
+    ViewPlace &placeInUse() const;
+    /// Of the view in use; the other takes its selection over when it is shown.
+    ViewMemory &memory() { return m_mode == GridOnly ? m_gridMemory : m_tableMemory; }
 
     Ui::SDCardContentDataWidgetClass &m_form;
     ScanDataModel *m_model;

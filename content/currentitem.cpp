@@ -13,6 +13,10 @@ CurrentItem::CurrentItem(ScanDataModel *model, const QVector<QAbstractItemView *
     , m_model(model)
     , m_views(views)
 {
+    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        if (m_index.isValid()) // a sort may have moved it
+            m_row = m_index.row();
+    });
     for (const QAbstractItemView *view : views) {
         connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
                 [this](const QModelIndex &current) {
@@ -39,33 +43,43 @@ void CurrentItem::save(const QModelIndex &index)
         emit changed(item);
 }
 
-void CurrentItem::restore(const TreeItemData &root)
+int CurrentItem::rowIn(const TreeItemData &root) const
 {
+    const int last = m_model->rowCount() - 1;
     int row = 0;
-    if (belongsTo(root) && m_item) {
-        row = m_model->itemAt(m_row) == m_item ? m_row : m_model->rowOf(m_item);
-        if (row < 0)
-            row = std::min(m_row, m_model->rowCount() - 1);
+    if (belongsTo(root) && m_row >= 0) {
+        row = m_item && m_model->itemAt(m_row) != m_item ? m_model->rowOf(m_item) : m_row;
+        row = std::min(row < 0 ? m_row : row, last);
     }
-    m_rootKey = root.secondaryId;
-    makeCurrent(row);
+    // past the dead ones, or else before them
+    int alive = row;
+    while (alive <= last && !m_model->itemAt(alive))
+        ++alive;
+    while (alive > last || (alive >= 0 && !m_model->itemAt(alive)))
+        --alive;
+    return alive;
 }
 
-void CurrentItem::makeCurrent(int row)
+void CurrentItem::restore(const TreeItemData &root)
 {
-    const QModelIndex index = m_model->index(row, 0);
+    const QModelIndex index = m_model->index(rowIn(root), 0);
+    m_rootKey = root.secondaryId;
+    m_restored = index;
     if (!index.isValid())
         return;
-    {
-        const QScopedValueRollback<bool> restoring(m_restoring, true);
-        for (QAbstractItemView *view : qAsConst(m_views)) {
-            const bool autoScroll = view->hasAutoScroll();
-            view->setAutoScroll(false);
-            view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-            view->setAutoScroll(autoScroll);
-        }
+    const QScopedValueRollback<bool> restoring(m_restoring, true);
+    for (QAbstractItemView *view : qAsConst(m_views)) {
+        const bool autoScroll = view->hasAutoScroll();
+        view->setAutoScroll(false);
+        view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        view->setAutoScroll(autoScroll);
     }
-    save(index);
+}
+
+void CurrentItem::announce()
+{
+    if (m_restored.isValid())
+        save(m_restored);
 }
 
 void CurrentItem::forget()

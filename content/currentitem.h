@@ -27,8 +27,10 @@ public:
 
     void save(const QModelIndex &index);
     /// The model has been filled from \a root: the item of before is made current again, its
-    /// neighbour when it has left, or the first item of another tree. Nothing scrolls.
+    /// neighbour when it has left, or the first item of another tree. Nothing scrolls, and nobody
+    /// hears of it before announce().
     void restore(const TreeItemData &root);
+    void announce();
     /// Always announces null.
     void forget();
 
@@ -39,11 +41,12 @@ signals:
     void saved(const QModelIndex &index);
 
 private:
-    void makeCurrent(int row);
+    int rowIn(const TreeItemData &root) const;
 
     ScanDataModel *m_model;
     QVector<QAbstractItemView *> m_views;
     QPersistentModelIndex m_index;
+    QPersistentModelIndex m_restored;
     QPointer<TreeItemData> m_item;
     int m_row = -1;
     qint64 m_rootKey = 0;

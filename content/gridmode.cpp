@@ -31,6 +31,7 @@ GridMode::GridMode(ThumbnailGrid *view, ScanDataModel *model, QObject *parent)
 
     connect(view, &QListView::pressed, this, &GridMode::onPressed);
     connect(view, &ThumbnailGrid::signalMutilSelectEvent, this, &GridMode::onMultiSelectEvent);
+    connect(view, &ThumbnailGrid::fewSelected, this, &GridMode::forgetMultiSelection);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &GridMode::onSelectionChanged);
     connectCards();
@@ -87,24 +88,10 @@ QModelIndexList GridMode::selectedIndexes() const
 
 void GridMode::forgetMultiSelection()
 {
-    m_delegate->clearMarkedIndexes();
-}
-
-void GridMode::rememberAnchor()
-{
-    const QModelIndex anchor = m_view->selectionAnchor();
-    m_anchorRow = anchor.row();
-    m_anchorItem = m_model->itemAt(anchor);
-}
-
-void GridMode::restoreAnchor()
-{
-    if (!m_anchorItem)
+    if (m_delegate->markedIndexes().isEmpty())
         return;
-    const int row = m_anchorRow < m_model->unchangedPrefix() ? m_anchorRow
-                                                             : m_model->rowOf(m_anchorItem);
-    if (row >= 0)
-        m_view->setSelectionAnchor(m_model->index(row, 0));
+    m_delegate->clearMarkedIndexes();
+    m_view->viewport()->update();
 }
 
 void GridMode::onPressed(const QModelIndex &index)

@@ -4,7 +4,6 @@
 
 #include <QItemSelection>
 #include <QObject>
-#include <QPointer>
 
 class IconDelegate;
 class ScanDataModel;
@@ -29,9 +28,6 @@ public:
     /// What is selected; the cards of the last multi-selection where the view has one at most.
     QModelIndexList selectedIndexes() const;
     void forgetMultiSelection();
-    /// Around a reset of the model: the item that a selection with Shift starts from stays it.
-    void rememberAnchor();
-    void restoreAnchor();
 
 signals:
     void checkChanged(const QModelIndex &index, Qt::CheckState state);
@@ -50,6 +46,4 @@ private:
     ThumbnailGrid *m_view;
     ScanDataModel *m_model;
     IconDelegate *m_delegate;
-    QPointer<TreeItemData> m_anchorItem;
-    int m_anchorRow = -1;
 };

@@ -1,6 +1,6 @@
 #include "content/rubberband.h"
 
-#include <QApplication>
+#include <QtGlobal>
 
 namespace {
 constexpr int SlowestStep = 2;
@@ -30,7 +30,7 @@ bool RubberBand::moveTo(const QPoint &viewportPos, const QPoint &offset, const Q
     m_end = QPoint(qBound(viewport.left(), viewportPos.x(), viewport.right()),
                    qBound(viewport.top(), viewportPos.y(), viewport.bottom()));
     const int moved = (viewportPos + offset - m_origin).manhattanLength();
-    if (m_state == State::Armed && moved >= QApplication::startDragDistance())
+    if (m_state == State::Armed && moved >= m_distance)
         m_state = State::Active;
     return isActive();
 }

@@ -8,6 +8,12 @@
 class RubberBand
 {
 public:
+    /// Active once the pointer has gone \a distance pixels, sideways and down together.
+    explicit RubberBand(int distance)
+        : m_distance(distance)
+    {
+    }
+
     void arm(const QPoint &viewportPos, const QPoint &offset);
     void disarm();
 
@@ -19,6 +25,8 @@ public:
     bool moveTo(const QPoint &viewportPos, const QPoint &offset, const QRect &viewport);
     /// The content under the pointer has been scrolled to \a offset; the band reaches on.
     void setOffset(const QPoint &offset) { m_offset = offset; }
+    /// The content that it started at has been moved.
+    void moveOrigin(const QPoint &by) { m_origin += by; }
 
     /// In viewport coordinates: from the press to the pointer, not normalised.
     QRect span() const { return {m_origin - m_offset, m_end}; }
@@ -30,6 +38,7 @@ public:
 private:
     enum class State { Off, Armed, Active };
 
+    int m_distance;
     State m_state = State::Off;
     QPoint m_origin;
     QPoint m_offset;

@@ -1,9 +1,13 @@
 #include "content/scantableview.h"
 
+#include "content/gridnavigation.h"
+
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRubberBand>
+#include <QScrollBar>
+#include <QStyle>
 
 namespace {
 
@@ -18,7 +22,7 @@ constexpr qreal OutlineRadius = 8;
 } // namespace
 
 ScanTableView::ScanTableView(QWidget *parent)
-    : QTableView(parent)
+    : HandView(DragDistance, parent)
     , m_rubberBand(new QRubberBand(QRubberBand::Rectangle, viewport()))
 {
     setShowGrid(false);
@@ -31,6 +35,7 @@ ScanTableView::ScanTableView(QWidget *parent)
     verticalHeader()->hide();
     setVerticalScrollMode(ScrollPerPixel);
     setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false); // Tab leads on to the pane
     m_rubberBand->hide();
 }
 
@@ -45,7 +50,7 @@ void ScanTableView::setRowHeight(int pixels)
 
 QPair<int, int> ScanTableView::visibleRows() const
 {
-    const int rows = model() ? model()->rowCount() : 0;
+    const int rows = rowCount();
     const int first = rowAt(0);
     if (rows == 0 || first < 0)
         return {0, -1};
@@ -70,7 +75,7 @@ void ScanTableView::repaintRow(int row)
 
 void ScanTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
-    QTableView::currentChanged(current, previous);
+    HandView::currentChanged(current, previous);
     for (const QModelIndex &index : {current, previous}) {
         if (index.isValid())
             repaintRow(index.row());
@@ -114,65 +119,142 @@ void ScanTableView::setHoverCell(int row, int column)
     }
 }
 
-void ScanTableView::mousePressEvent(QMouseEvent *event)
+// Rows -------------------------------------------------------------------------------------------
+
+QModelIndex ScanTableView::indexOf(int row) const
 {
-    if (event->button() == Qt::LeftButton) {
-        m_pressPoint = event->pos();
-        m_dragging = false;
-        m_rubberBand->setGeometry(QRect(m_pressPoint, QSize()));
-    }
-    QTableView::mousePressEvent(event);
+    return row >= 0 && model() ? model()->index(row, 0) : QModelIndex();
 }
+
+QItemSelection ScanTableView::rowsBetween(int top, int bottom) const
+{
+    // Rows are of one height and follow each other: no walk over a million.
+    const int rows = rowCount();
+    if (rows == 0 || bottom < rowViewportPosition(0))
+        return {};
+    const int above = rowAt(top);
+    const int below = rowAt(bottom);
+    QItemSelection found;
+    const int first = above >= 0 ? above : (top < rowViewportPosition(0) ? 0 : rows);
+    addRows(&found, first, below >= 0 ? below : rows - 1);
+    return found;
+}
+
+QModelIndex ScanTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    using GridNavigation::Step;
+    const QModelIndex current = currentIndex();
+    GridGeometry rows; // a grid of one column
+    rows.rowCount = rowCount();
+    rows.cell = QSize(1, qMax(1, verticalHeader()->defaultSectionSize()));
+    if (rows.isEmpty())
+        return current;
+    if (!current.isValid())
+        return enterable(0, 1, rows.rowCount);
+    Step step = Step::Down;
+    switch (action) {
+    case MoveLeft:
+    case MoveRight:
+        horizontalScrollBar()->triggerAction(action == MoveRight
+                                                 ? QAbstractSlider::SliderSingleStepAdd
+                                                 : QAbstractSlider::SliderSingleStepSub);
+        return current;
+    case MoveUp:
+    case MovePrevious:
+        step = Step::Up;
+        break;
+    case MoveDown:
+    case MoveNext:
+        break;
+    case MovePageUp:
+        step = Step::PageUp;
+        break;
+    case MovePageDown:
+        step = Step::PageDown;
+        break;
+    case MoveHome:
+        step = Step::Home;
+        break;
+    case MoveEnd:
+        step = Step::End;
+        break;
+    default:
+        return HandView::moveCursor(action, modifiers);
+    }
+    const int page = qMax(1, viewport()->height() / rows.lineHeight() - 1);
+    const int row = GridNavigation::target(rows, current.row(), step, page);
+    return row == current.row()
+        ? current
+        : enterable(row, GridNavigation::direction(rows, step), rows.rowCount);
+}
+
+void ScanTableView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command)
+{
+    const int anchor = rowAt(rect.top());
+    const int end = rowAt(rect.bottom());
+    if (!selectionModel() || !isEnabled(indexOf(anchor)) || !isEnabled(indexOf(end)))
+        return;
+    QItemSelection rows;
+    addRows(&rows, qMin(anchor, end), qMax(anchor, end));
+    noteAnchor(indexOf(anchor));
+    selectionModel()->select(rows, command);
+}
+
+void ScanTableView::selectAll()
+{
+    QItemSelection rows;
+    addRows(&rows, 0, rowCount() - 1);
+    if (selectionModel())
+        selectionModel()->select(rows,
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+// Mouse ------------------------------------------------------------------------------------------
 
 void ScanTableView::mouseMoveEvent(QMouseEvent *event)
 {
     const QModelIndex index = indexAt(event->pos());
     setHoverCell(index.row(), index.column());
-    if (event->buttons() & Qt::LeftButton) {
-        if (!m_dragging && (event->pos() - m_pressPoint).manhattanLength() >= DragDistance) {
-            m_dragging = true;
-            m_rubberBand->show();
-        }
-        if (m_dragging)
-            m_rubberBand->setGeometry(QRect(m_pressPoint, event->pos()).normalized());
-    }
-    QTableView::mouseMoveEvent(event);
+    HandView::mouseMoveEvent(event);
 }
 
-void ScanTableView::mouseReleaseEvent(QMouseEvent *event)
+QItemSelection ScanTableView::itemsIn(const QRect &band) const
 {
-    if (event->button() == Qt::LeftButton && m_dragging) {
-        m_rubberBand->hide();
-        m_dragging = false;
-        const QRect band = QRect(m_pressPoint, event->pos()).normalized();
-        if (!band.isEmpty() && model())
-            selectRowsIn(band);
-    }
-    QTableView::mouseReleaseEvent(event);
+    return rowsBetween(band.top(), band.bottom());
 }
 
-void ScanTableView::selectRowsIn(const QRect &band)
+QItemSelectionModel::SelectionFlags ScanTableView::bandCommand(Qt::KeyboardModifiers) const
 {
-    // The band has to touch the first column. Rows are of one height and follow each other, so the
-    // touched ones are a range: no walk over a million.
-    const int rows = model()->rowCount();
+    return QItemSelectionModel::Select;
+}
+
+void ScanTableView::showBand()
+{
+    if (band().isActive()) {
+        // of a band that has been scrolled far away only the sides are seen
+        const int beyond = m_rubberBand->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 1;
+        m_rubberBand->setGeometry(band().rect().intersected(
+            viewport()->rect().adjusted(-beyond, -beyond, beyond, beyond)));
+    }
+    m_rubberBand->setVisible(band().isActive());
+}
+
+void ScanTableView::bandReleased(const QPoint &pos)
+{
+    // Here the band ends where the pointer is, even outside, and has to touch the first column.
+    const QRect reach = QRect(band().span().topLeft(), pos).normalized();
     const int left = columnViewportPosition(0);
-    if (rows == 0 || band.right() < left || band.left() >= left + columnWidth(0))
+    if (!selectionModel() || reach.isEmpty() || reach.right() < left
+        || reach.left() >= left + columnWidth(0))
         return;
-    const int above = rowAt(band.top());
-    const int below = rowAt(band.bottom());
-    int first = above >= 0 ? above : (band.top() < rowViewportPosition(0) ? 0 : rows);
-    int last = below >= 0 ? below : (band.bottom() < rowViewportPosition(0) ? -1 : rows - 1);
-    // A range with a dead record at its end would select nothing.
-    while (first <= last && !model()->index(first, 0).isValid())
-        ++first;
-    while (first <= last && !model()->index(last, 0).isValid())
-        --last;
-    if (first > last)
-        return;
-    const QItemSelection selection(model()->index(first, 0),
-                                   model()->index(last, model()->columnCount() - 1));
-    selectionModel()->select(selection, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    selectionModel()->select(rowsBetween(reach.top(), reach.bottom()),
+                             QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void ScanTableView::scrollContentsBy(int dx, int dy)
+{
+    HandView::scrollContentsBy(dx, dy);
+    scrollBand();
 }
 
 void ScanTableView::leaveEvent(QEvent *event)

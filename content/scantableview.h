@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QTableView>
+#include "content/handview.h"
 
 class QRubberBand;
 
 /// The table of the list modes: rows with a hovered cell for the delegate to paint, and a rubber
-/// band that adds whole rows to the selection.
-class ScanTableView : public QTableView
+/// band that adds whole rows to the selection. The cursor goes from row to row; its column means
+/// nothing.
+class ScanTableView : public HandView<QTableView>
 {
     Q_OBJECT
 
@@ -21,14 +22,23 @@ public:
     /// Every row is this high.
     void setRowHeight(int pixels);
     /// First and last row of which any part is in the viewport; an empty range when none is.
-    QPair<int, int> visibleRows() const;
+    QPair<int, int> visibleRows() const override;
     /// Repaints the rows in the viewport whose \a role has the value \a id.
     void repaintMatching(int role, qint64 id);
 
+    void selectAll() override;
+
 protected:
-    void mousePressEvent(QMouseEvent *event) override;
+    QModelIndex indexOf(int row) const override;
+    QItemSelection itemsIn(const QRect &band) const override;
+    QItemSelectionModel::SelectionFlags bandCommand(Qt::KeyboardModifiers modifiers) const override;
+    void showBand() override;
+    void bandReleased(const QPoint &pos) override;
+
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
+    void scrollContentsBy(int dx, int dy) override;
     void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
@@ -37,11 +47,10 @@ private:
     void repaintRow(int row);
     void paintCurrentRow();
     void setHoverCell(int row, int column);
-    void selectRowsIn(const QRect &band);
+    int rowCount() const { return model() ? model()->rowCount() : 0; }
+    QItemSelection rowsBetween(int top, int bottom) const;
 
     int m_hoverRow = -1;
     int m_hoverColumn = -1;
-    bool m_dragging = false;
-    QPoint m_pressPoint;
     QRubberBand *m_rubberBand;
 };

@@ -265,12 +265,24 @@ void SDCardContentDataWidget::updateData(TreeItemData *root, const QString &keyw
         const Page page = m_pages->pageForTree(root);
         if (page == Page::Results || m_pages->isSearchSide())
             setCheckAllState(root->checkState);
-        m_views->openTree(root, m_current->belongsTo(*root) && m_model->rowCount() > 0);
+        const int update = ++m_updates;
+        const bool shownAlready = m_current->belongsTo(*root) && m_model->rowCount() > 0;
+        if (shownAlready)
+            m_views->remember();
+        m_model->openFolder(root);
+        m_current->restore(*root);
+        if (shownAlready)
+            m_views->recall();
+        else
+            m_views->inUse()->scrollToTop();
+        // Scrolling may ask for more, and the host may answer at once.
+        if (update != m_updates || !guardedRoot)
+            return;
         m_pages->show(page);
         m_views->showHeaders();
 
         if (m_model->rowCount() > 0)
-            m_current->restore(*root);
+            m_current->announce();
         else
             m_current->forget();
     });

@@ -110,4 +110,5 @@ private:
     ContextMenu *m_menu = nullptr;
     ThumbnailRequests *m_thumbnails = nullptr;
     QPointer<TreeItemData> m_root;
+    int m_updates = 0; ///< a slot of the host may update while an update is under way
 };

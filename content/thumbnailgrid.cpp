@@ -4,11 +4,9 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyle>
-#include <QTimerEvent>
 
 #include <limits>
 
@@ -18,7 +16,7 @@ constexpr int MostPixels = std::numeric_limits<int>::max() / 2;
 } // namespace
 
 ThumbnailGrid::ThumbnailGrid(QWidget *parent)
-    : QListView(parent)
+    : HandView(QApplication::startDragDistance(), parent)
 {
     setViewMode(IconMode);
     setMovement(Static); // else icon mode drags items instead of drawing a rubber band
@@ -88,11 +86,6 @@ QModelIndex ThumbnailGrid::indexOf(int row) const
     return row >= 0 && model() ? model()->index(row, modelColumn(), rootIndex()) : QModelIndex();
 }
 
-bool ThumbnailGrid::isEnabled(const QModelIndex &index) const
-{
-    return index.isValid() && (model()->flags(index) & Qt::ItemIsEnabled);
-}
-
 QPair<int, int> ThumbnailGrid::visibleRows() const
 {
     layOutIfDue();
@@ -154,7 +147,7 @@ void ThumbnailGrid::setModel(QAbstractItemModel *newModel)
 {
     if (model())
         disconnect(model(), &QAbstractItemModel::rowsRemoved, this, nullptr);
-    QListView::setModel(newModel);
+    HandView::setModel(newModel);
     if (newModel)
         connect(newModel, &QAbstractItemModel::rowsRemoved, this,
                 [this] { scheduleDelayedItemsLayout(); });
@@ -214,10 +207,9 @@ void ThumbnailGrid::scrollContentsBy(int dx, int dy)
         rememberTop();
     if (m_pointerInside)
         setHover(m_pointer);
-    if (m_band.isActive()) {
-        m_band.setOffset(offset());
+    if (hasBand())
         viewport()->update();
-    }
+    scrollBand();
 }
 
 void ThumbnailGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
@@ -308,25 +300,7 @@ QModelIndex ThumbnailGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers
         if (row == current.row())
             return current;
     }
-    for (; row >= 0 && row < grid.rowCount; row += onward) {
-        const QModelIndex index = indexOf(row);
-        if (isEnabled(index))
-            return index;
-    }
-    return current;
-}
-
-void ThumbnailGrid::addRun(QItemSelection *selection, GridGeometry::Run run) const
-{
-    // a range needs two valid ends, and a row whose record is gone has no index
-    QModelIndex first = indexOf(run.first);
-    while (!first.isValid() && run.first < run.last)
-        first = indexOf(++run.first);
-    QModelIndex last = indexOf(run.last);
-    while (!last.isValid() && run.first < run.last)
-        last = indexOf(--run.last);
-    if (first.isValid() && last.isValid())
-        selection->append(QItemSelectionRange(first, last));
+    return enterable(row, onward, grid.rowCount);
 }
 
 void ThumbnailGrid::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command)
@@ -341,32 +315,26 @@ void ThumbnailGrid::setSelection(const QRect &rect, QItemSelectionModel::Selecti
     if (state() == DragSelectingState && rect.size() != QSize(1, 1)) {
         const QRect area(QPoint(qMin(from.x(), to.x()), qMin(from.y(), to.y())),
                          QPoint(qMax(from.x(), to.x()), qMax(from.y(), to.y())));
-        const QVector<GridGeometry::Run> runs = grid.runsIn(area);
-        for (const GridGeometry::Run &run : runs)
-            addRun(&selection, run);
+        selection = itemsIn(area.translated(-offset()));
     } else {
         const int anchor = grid.rowAt(from);
         const int end = grid.rowAt(to);
         if (isEnabled(indexOf(anchor)) && isEnabled(indexOf(end)))
-            addRun(&selection, {qMin(anchor, end), qMax(anchor, end)});
+            addRows(&selection, qMin(anchor, end), qMax(anchor, end));
         if (anchor >= 0)
-            m_anchor = indexOf(anchor);
+            noteAnchor(indexOf(anchor));
     }
     selectionModel()->select(selection, command);
 }
 
-QItemSelectionModel::SelectionFlags ThumbnailGrid::selectionCommand(const QModelIndex &index,
-                                                                    const QEvent *event) const
+QItemSelection ThumbnailGrid::itemsIn(const QRect &band) const
 {
-    if (m_movingAnchor)
-        return QItemSelectionModel::NoUpdate;
-    const QItemSelectionModel::SelectionFlags command = QListView::selectionCommand(index, event);
-    const bool byKey = event && event->type() == QEvent::KeyPress;
-    constexpr Qt::KeyboardModifiers both = Qt::ControlModifier | Qt::ShiftModifier;
-    if (byKey && command == QItemSelectionModel::NoUpdate
-        && (static_cast<const QKeyEvent *>(event)->modifiers() & both) == both)
-        return QItemSelectionModel::SelectCurrent; // the stock view only moves
-    return command;
+    layOutIfDue();
+    QItemSelection items;
+    const QVector<GridGeometry::Run> runs = geometryNow().runsIn(band.translated(offset()));
+    for (const GridGeometry::Run &run : runs)
+        addRows(&items, run.first, run.last);
+    return items;
 }
 
 QRegion ThumbnailGrid::visualRegionForSelection(const QItemSelection &selection) const
@@ -397,8 +365,7 @@ void ThumbnailGrid::selectAll()
         return;
     QItemSelection selection;
     const int rows = model()->rowCount(rootIndex());
-    if (rows > 0)
-        addRun(&selection, {0, rows - 1});
+    addRows(&selection, 0, rows - 1);
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
@@ -415,25 +382,9 @@ bool ThumbnailGrid::severalSelected() const
     return false;
 }
 
-void ThumbnailGrid::setSelectionAnchor(const QModelIndex &index)
-{
-    if (!selectionModel() || !index.isValid())
-        return;
-    const QPersistentModelIndex current = currentIndex();
-    {
-        const QSignalBlocker quiet(selectionModel());
-        const QScopedValueRollback<bool> guard(m_movingAnchor, true);
-        setCurrentIndex(index);
-        selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
-    }
-    m_anchor = index;
-}
-
 void ThumbnailGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
-    if (!m_band.isActive())
-        m_anchor = current;
-    QAbstractItemView::currentChanged(current, previous);
+    HandView::currentChanged(current, previous);
     if (current.isValid() && hasFocus())
         announce(QAccessible::Focus, current.row());
 }
@@ -441,8 +392,7 @@ void ThumbnailGrid::currentChanged(const QModelIndex &current, const QModelIndex
 void ThumbnailGrid::selectionChanged(const QItemSelection &selected,
                                      const QItemSelection &deselected)
 {
-    m_selectionTouched = true;
-    QAbstractItemView::selectionChanged(selected, deselected);
+    HandView::selectionChanged(selected, deselected);
     // a range is told by its first item: one event a row would be a million
     if (!deselected.isEmpty())
         announce(QAccessible::SelectionRemove, deselected.first().top());

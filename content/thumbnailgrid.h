@@ -2,18 +2,16 @@
 
 #include "content/gridgeometry.h"
 #include "content/gridnavigation.h"
-#include "content/rubberband.h"
+#include "content/handview.h"
 
 #include <QAccessible>
-#include <QBasicTimer>
-#include <QListView>
 
 /// The grid of thumbnail cards: a QListView in icon mode whose geometry is computed from the row
 /// number and never stored, so that a million rows cost what a hundred do. One column of a flat
 /// model; every cell has the delegate's size hint for the first row; right-to-left mirrors the
 /// columns. Items are not dragged: a drag anywhere draws a rubber band. Hidden rows and a grid size
 /// are not supported.
-class ThumbnailGrid : public QListView
+class ThumbnailGrid : public HandView<QListView>
 {
     Q_OBJECT
 
@@ -22,7 +20,7 @@ public:
     ~ThumbnailGrid() override;
 
     /// First and last row of which any part is in the viewport; an empty range when none is.
-    QPair<int, int> visibleRows() const;
+    QPair<int, int> visibleRows() const override;
     /// Repaints the card of \a row if it is in the viewport.
     void repaintRow(int row);
     /// Repaints the cards in the viewport whose \a role has the value \a id.
@@ -32,11 +30,6 @@ public:
     void setReservedWidth(int pixels);
     /// Cards grow alike, up to half as wide again, until they fill the line. Off when made.
     void setCardsStretched(bool stretched);
-
-    /// The item that a selection with Shift starts from; invalid when there is none.
-    QModelIndex selectionAnchor() const { return m_anchor; }
-    /// Puts the anchor back after a reset of the model; selection and current item stay.
-    void setSelectionAnchor(const QModelIndex &index);
 
     QRect visualRect(const QModelIndex &index) const override;
     QModelIndex indexAt(const QPoint &point) const override;
@@ -48,12 +41,19 @@ public:
 signals:
     /// A selection of several items was made by hand or by key.
     void signalMutilSelectEvent();
+    /// By hand or by key one item was selected, or none.
+    void fewSelected();
 
 protected:
+    QModelIndex indexOf(int row) const override;
+    QItemSelection itemsIn(const QRect &band) const override;
+    QItemSelectionModel::SelectionFlags bandCommand(Qt::KeyboardModifiers modifiers) const override;
+    void bandAppears() override;
+    void showBand() override;
+    void selectedByHand() override;
+
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
-                                                         const QEvent *event) const override;
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
     int horizontalOffset() const override;
     int verticalOffset() const override;
@@ -70,23 +70,17 @@ protected:
     bool viewportEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
-    void timerEvent(QTimerEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
     void startDrag(Qt::DropActions supportedActions) override;
 
 private:
     static GridNavigation::Step stepOf(CursorAction action);
     GridGeometry geometryNow() const;
     void layOutIfDue() const;
-    QPoint offset() const { return {horizontalOffset(), verticalOffset()}; }
     QRect contentViewport() const { return viewport()->rect().translated(offset()); }
-    QModelIndex indexOf(int row) const;
-    bool isEnabled(const QModelIndex &index) const;
-    void addRun(QItemSelection *selection, GridGeometry::Run run) const;
     bool severalSelected() const;
     void announce(QAccessible::Event type, int row);
 
@@ -98,13 +92,6 @@ private:
     void setHover(const QPoint &pos);
     void clearHover();
     void changeHover(const QModelIndex &index);
-
-    void stretchBand(const QPoint &pos, Qt::KeyboardModifiers modifiers);
-    void selectInBand(Qt::KeyboardModifiers modifiers);
-    void setCurrentInPlace(const QModelIndex &index);
-    void autoScrollBand();
-    void finishBand();
-    void cancelBand();
 
     QSize m_cell;
     int m_columns = 0;
@@ -119,12 +106,6 @@ private:
     bool m_pointerInside = false;
     bool m_showFocus = false; ///< the keyboard was used last
 
-    QPersistentModelIndex m_anchor;
-    bool m_movingAnchor = false;
-    bool m_selectionTouched = false;
-
-    RubberBand m_band;
-    QBasicTimer m_autoScroll;
-    QItemSelection m_beforeBand;
+    QRect m_shownBand;
     QItemSelectionModel::SelectionFlags m_ctrlBandCommand = QItemSelectionModel::NoUpdate;
 };

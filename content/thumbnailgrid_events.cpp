@@ -10,7 +10,6 @@
 #include <QStyle>
 
 namespace {
-constexpr int AutoScrollMs = 16;
 constexpr int FocusInset = 1;
 constexpr qreal FocusWidth = 2;
 constexpr qreal FocusRadius = 4;
@@ -21,7 +20,7 @@ void ThumbnailGrid::paintEvent(QPaintEvent *event)
     layOutIfDue();
     QPainter painter(viewport());
     paintCards(&painter, event->region());
-    if (m_band.isActive())
+    if (band().isActive())
         paintBand(&painter);
 }
 
@@ -77,7 +76,7 @@ void ThumbnailGrid::paintBand(QPainter *painter)
     option.initFrom(viewport()); // a style may draw an opaque band on a window
     option.shape = QRubberBand::Rectangle;
     option.opaque = false;
-    option.rect = m_band.rect();
+    option.rect = band().rect();
     painter->save();
     style()->drawControl(QStyle::CE_RubberBand, &option, painter, viewport());
     painter->restore();
@@ -131,41 +130,13 @@ void ThumbnailGrid::changeHover(const QModelIndex &index)
 void ThumbnailGrid::mousePressEvent(QMouseEvent *event)
 {
     m_showFocus = false;
-    if (m_band.isActive())
-        finishBand();
-    if (event->button() == Qt::LeftButton)
-        m_band.arm(event->pos(), offset());
-    else
-        m_band.disarm();
-    QListView::mousePressEvent(event);
+    HandView::mousePressEvent(event);
 }
 
 void ThumbnailGrid::mouseMoveEvent(QMouseEvent *event)
 {
     setHover(event->pos());
-    if (!(event->buttons() & Qt::LeftButton)) {
-        if (m_band.isActive())
-            finishBand(); // the release went elsewhere
-        m_band.disarm();
-        QListView::mouseMoveEvent(event);
-        return;
-    }
-    if (!m_band.isArmed())
-        return;
-    stretchBand(event->pos(), event->modifiers());
-    if (!m_band.isActive())
-        edit(indexAt(event->pos()), NoEditTriggers, event);
-}
-
-void ThumbnailGrid::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton && m_band.isActive()) {
-        finishBand();
-        return;
-    }
-    if (event->button() == Qt::LeftButton)
-        m_band.disarm();
-    QListView::mouseReleaseEvent(event);
+    HandView::mouseMoveEvent(event);
 }
 
 void ThumbnailGrid::startDrag(Qt::DropActions)
@@ -173,111 +144,48 @@ void ThumbnailGrid::startDrag(Qt::DropActions)
     // the host's records do not travel
 }
 
-void ThumbnailGrid::stretchBand(const QPoint &pos, Qt::KeyboardModifiers modifiers)
+void ThumbnailGrid::bandAppears()
 {
-    const bool wasActive = m_band.isActive();
-    const QRect before = m_band.rect();
-    if (!m_band.moveTo(pos, offset(), viewport()->rect()))
-        return;
-    if (!wasActive) {
-        m_beforeBand = selectionModel() ? selectionModel()->selection() : QItemSelection();
-        // a press with Ctrl has toggled its item; the band gives all others the same state
-        const QModelIndex pressed = indexAt(m_band.span().topLeft());
-        m_ctrlBandCommand = !pressed.isValid() || !selectionModel() ? QItemSelectionModel::Toggle
-            : selectionModel()->isSelected(pressed)                 ? QItemSelectionModel::Select
-                                                                    : QItemSelectionModel::Deselect;
-    }
-    const int margin = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) + 1;
-    viewport()->update((wasActive ? before | m_band.rect() : m_band.rect())
-                           .adjusted(-margin, -margin, margin, margin));
-    selectInBand(modifiers);
-    if (m_band.autoScrollStep(viewport()->rect(), autoScrollMargin()) == 0)
-        m_autoScroll.stop();
-    else if (!m_autoScroll.isActive())
-        m_autoScroll.start(AutoScrollMs, this);
+    // a press with Ctrl has toggled its item; the band gives all others the same state
+    const QModelIndex pressed = indexAt(band().span().topLeft());
+    m_ctrlBandCommand = !pressed.isValid() || !selectionModel() ? QItemSelectionModel::Toggle
+        : selectionModel()->isSelected(pressed)                 ? QItemSelectionModel::Select
+                                                                : QItemSelectionModel::Deselect;
 }
 
-void ThumbnailGrid::selectInBand(Qt::KeyboardModifiers modifiers)
+QItemSelectionModel::SelectionFlags
+ThumbnailGrid::bandCommand(Qt::KeyboardModifiers modifiers) const
 {
-    if (!selectionModel() || selectionMode() == NoSelection || selectionMode() == SingleSelection)
-        return;
-    QItemSelectionModel::SelectionFlags command = QItemSelectionModel::ClearAndSelect;
     if (modifiers & Qt::ControlModifier)
-        command = m_ctrlBandCommand | QItemSelectionModel::Current;
-    else if (modifiers & Qt::ShiftModifier)
-        command = QItemSelectionModel::SelectCurrent;
-    setState(DragSelectingState);
-    setSelection(m_band.span(), command);
-    setCurrentInPlace(indexAt(m_band.span().bottomRight()));
+        return m_ctrlBandCommand;
+    return modifiers & Qt::ShiftModifier ? QItemSelectionModel::Select
+                                         : QItemSelectionModel::ClearAndSelect;
 }
 
-void ThumbnailGrid::setCurrentInPlace(const QModelIndex &index)
+void ThumbnailGrid::showBand()
 {
-    if (!isEnabled(index) || index == currentIndex())
-        return;
-    const bool autoScroll = hasAutoScroll();
-    setAutoScroll(false); // the card under the pointer must not move away from it
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-    setAutoScroll(autoScroll);
+    const int margin = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) + 1;
+    const QRect now = band().isActive() ? band().rect() : QRect();
+    for (const QRect &area : {m_shownBand, now}) {
+        if (area.isValid())
+            viewport()->update(area.adjusted(-margin, -margin, margin, margin));
+    }
+    m_shownBand = now;
 }
 
-void ThumbnailGrid::autoScrollBand()
+void ThumbnailGrid::selectedByHand()
 {
-    const int step = m_band.autoScrollStep(viewport()->rect(), autoScrollMargin());
-    const int before = verticalScrollBar()->value();
-    verticalScrollBar()->setValue(before + step);
-    if (step == 0 || verticalScrollBar()->value() == before)
-        m_autoScroll.stop();
-    else
-        stretchBand(m_pointer, QApplication::keyboardModifiers());
-}
-
-void ThumbnailGrid::finishBand()
-{
-    m_autoScroll.stop();
-    m_band.disarm();
-    m_beforeBand.clear();
-    setState(NoState);
-    viewport()->update();
     if (severalSelected())
         emit signalMutilSelectEvent();
-}
-
-void ThumbnailGrid::cancelBand()
-{
-    m_autoScroll.stop();
-    m_band.disarm();
-    setState(NoState);
-    viewport()->update();
-    if (selectionModel())
-        selectionModel()->select(m_beforeBand, QItemSelectionModel::ClearAndSelect);
-    m_beforeBand.clear();
-}
-
-void ThumbnailGrid::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() == m_autoScroll.timerId())
-        autoScrollBand();
     else
-        QListView::timerEvent(event);
+        emit fewSelected();
 }
 
 void ThumbnailGrid::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape && m_band.isActive()) {
-        cancelBand();
-        return;
-    }
-    if (event->key() == Qt::Key_Escape && selectionModel() && selectionModel()->hasSelection()) {
-        selectionModel()->clearSelection();
-        return;
-    }
     m_showFocus = true;
-    m_selectionTouched = false;
-    QListView::keyPressEvent(event);
+    HandView::keyPressEvent(event);
     repaintRow(currentIndex().row());
-    if (m_selectionTouched && severalSelected())
-        emit signalMutilSelectEvent();
 }
 
 void ThumbnailGrid::focusInEvent(QFocusEvent *event)

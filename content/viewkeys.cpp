@@ -14,13 +14,16 @@ ViewKeys::ViewKeys(const QVector<QAbstractItemView *> &views, QObject *parent)
 bool ViewKeys::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent *>(event)->key()) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        switch (key->key()) {
         case Qt::Key_Space:
-            emit toggleWanted();
+            if (!key->isAutoRepeat()) // a key held too long is no second wish
+                emit toggleWanted();
             return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            emit openWanted();
+            if (!key->isAutoRepeat())
+                emit openWanted();
             return true;
         default:
             break;

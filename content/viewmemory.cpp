@@ -1,9 +1,10 @@
 #include "content/viewmemory.h"
 
+#include "content/layeredselection.h"
+#include "content/viewplace.h"
 #include "model/scandatamodel.h"
 
 #include <QAbstractItemView>
-#include <QItemSelectionModel>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -19,14 +20,6 @@ void appendRange(QItemSelection &selection, const ScanDataModel &model, int top,
         --bottom;
     if (top <= bottom)
         selection.append(QItemSelectionRange(model.index(top, 0), model.index(bottom, 0)));
-}
-
-/// In a table whole rows are selected.
-QItemSelectionModel::SelectionFlags flagsOf(const QAbstractItemView &view)
-{
-    return view.selectionBehavior() == QAbstractItemView::SelectRows
-        ? QItemSelectionModel::Select | QItemSelectionModel::Rows
-        : QItemSelectionModel::Select;
 }
 
 /// As few ranges as possible; rows below 0 are left out.
@@ -45,87 +38,169 @@ QItemSelection selectionOfRows(const ScanDataModel &model, QVector<int> rows)
     return selection;
 }
 
+/// In a table whole rows are selected.
+QItemSelectionModel::SelectionFlags rowFlagOf(const QAbstractItemView &view)
+{
+    return view.selectionBehavior() == QAbstractItemView::SelectRows
+        ? QItemSelectionModel::SelectionFlags(QItemSelectionModel::Rows)
+        : QItemSelectionModel::NoUpdate;
+}
+
+QItemSelection settledPart(const QAbstractItemView &view)
+{
+    const auto *layers = qobject_cast<const LayeredSelection *>(view.selectionModel());
+    return layers ? layers->settled() : QItemSelection();
+}
+
+void select(QAbstractItemView &view, const QItemSelection &settled, const QItemSelection &all)
+{
+    if (auto *layers = qobject_cast<LayeredSelection *>(view.selectionModel()))
+        layers->setLayers(settled, all, rowFlagOf(view));
+    else
+        view.selectionModel()->select(all, QItemSelectionModel::ClearAndSelect | rowFlagOf(view));
+}
+
+bool isInView(const QAbstractItemView &view, const QModelIndex &index)
+{
+    return index.isValid() && view.visualRect(index).intersects(view.viewport()->rect());
+}
+
 } // namespace
 
-void ViewMemory::capture(const QAbstractItemView &view, const ScanDataModel &model, int topRow)
+void ViewMemory::Rows::capture(const QItemSelection &selection, const ScanDataModel &model)
 {
-    m_selectedRanges.clear();
-    m_selectedItems.clear();
-    const QItemSelection selection = view.selectionModel()->selection();
+    ranges.clear();
+    items.clear();
     for (const QItemSelectionRange &range : selection) {
-        m_selectedRanges.append({range.top(), range.bottom()});
+        if (!range.isValid())
+            continue;
+        ranges.append({range.top(), range.bottom()});
         for (int row = range.top(); row <= range.bottom(); ++row)
-            m_selectedItems.append(model.itemAt(row));
+            items.append(model.itemAt(row));
     }
-
-    captureAnchor(view, model, topRow);
 }
 
-void ViewMemory::captureAnchor(const QAbstractItemView &view, const ScanDataModel &model,
-                               int topRow)
+QItemSelection ViewMemory::Rows::now(const ScanDataModel &model) const
 {
+    QItemSelection selection;
+    int lastRow = -1;
+    for (const auto &range : ranges)
+        lastRow = std::max(lastRow, range.second);
+    if (lastRow < model.unchangedPrefix()) {
+        for (const auto &range : ranges)
+            appendRange(selection, model, range.first, range.second);
+        return selection;
+    }
+    QVector<TreeItemData *> alive;
+    alive.reserve(items.size());
+    for (const auto &item : items) {
+        if (item)
+            alive.append(item);
+    }
+    return selectionOfRows(model, model.rowsOf(alive));
+}
+
+void ViewMemory::Mark::capture(int newRow, const ScanDataModel &model)
+{
+    row = newRow;
+    item = newRow < 0 ? nullptr : model.itemAt(newRow);
+}
+
+int ViewMemory::Mark::rowIn(const ScanDataModel &model) const
+{
+    if (!item)
+        return -1;
+    return model.itemAt(row) == item ? row : model.rowOf(item);
+}
+
+QModelIndex ViewMemory::Mark::now(const ScanDataModel &model) const
+{
+    return model.index(rowIn(model), 0);
+}
+
+void ViewMemory::capture(ViewPlace &place, const ScanDataModel &model)
+{
+    const QAbstractItemView &view = *place.itemView();
+    m_selected.capture(view.selectionModel()->selection(), model);
+    m_settled.capture(settledPart(view), model);
+    m_anchor.capture(place.selectionAnchor().row(), model);
+    const QModelIndex pressed = place.pressedItem();
+    m_pressed.capture(pressed.row(), model);
+    m_pressedAt = place.contentPosition(pressed);
+    m_hadBand = place.hasBand();
+    m_beforeBand.capture(m_hadBand ? place.selectionBeforeBand() : QItemSelection(), model);
+    captureEye(place, model);
+}
+
+void ViewMemory::captureEye(ViewPlace &place, const ScanDataModel &model)
+{
+    const QAbstractItemView &view = *place.itemView();
     m_scrollValue = view.verticalScrollBar()->value();
+    const QModelIndex current = view.currentIndex();
     // In a grid new items also move the others from line to line: until the user scrolls, the item
     // that was held last is held again, or the view would creep line by line.
-    const int heldRow = m_scrollValue == m_restoredValue && m_topItem ? model.rowOf(m_topItem) : -1;
-    m_topRow = heldRow >= 0 ? heldRow : topRow;
-    m_topItem = m_topRow < 0 ? nullptr : model.itemAt(m_topRow);
-    m_topOffset = m_topItem ? view.visualRect(model.index(m_topRow, 0)).top() : 0;
+    const bool again = m_scrollValue == m_restoredValue && !m_heldIsCurrent && m_held.item;
+    const int heldRow = again ? m_held.rowIn(model) : -1;
+    const QPair<int, int> visible = place.visibleRows();
+    // The first item of a tree is current without anybody having chosen it.
+    m_heldIsCurrent = isInView(view, current) && view.selectionModel()->isSelected(current);
+    int row = visible.first <= visible.second ? visible.first : -1;
+    if (m_heldIsCurrent)
+        row = current.row();
+    else if (heldRow >= 0)
+        row = heldRow;
+    m_held.capture(row, model);
+    m_heldY = m_held.item ? view.visualRect(model.index(row, 0)).top() : 0;
 }
 
-void ViewMemory::restore(QAbstractItemView &view, const ScanDataModel &model)
+void ViewMemory::restore(ViewPlace &place, const ScanDataModel &model)
 {
-    restoreSelection(view, model);
-    restoreScroll(view, model);
-    m_restoredValue = view.verticalScrollBar()->value();
+    QAbstractItemView &view = *place.itemView();
+    select(view, m_settled.now(model), m_selected.now(model));
+    place.setSelectionAnchor(m_anchor.now(model));
+    place.resumePress(m_pressed.now(model));
+    restoreEye(place, model); // a scroll to the end asks for more, which may come at once
+    if (m_hadBand && place.hasBand())
+        restoreBand(place, model, m_restoredValue - m_scrollValue);
+    m_hadBand = false;
 }
 
-void ViewMemory::restoreSelection(QAbstractItemView &view, const ScanDataModel &model) const
+void ViewMemory::restoreEye(ViewPlace &place, const ScanDataModel &model)
 {
-    if (m_selectedRanges.isEmpty())
-        return;
-    int lastRow = 0;
-    for (const auto &range : m_selectedRanges)
-        lastRow = std::max(lastRow, range.second);
-
-    QItemSelection selection;
-    if (lastRow < model.unchangedPrefix()) {
-        for (const auto &range : m_selectedRanges)
-            appendRange(selection, model, range.first, range.second);
-    } else {
-        QVector<TreeItemData *> alive;
-        alive.reserve(m_selectedItems.size());
-        for (const auto &item : m_selectedItems) {
-            if (item)
-                alive.append(item);
-        }
-        selection = selectionOfRows(model, model.rowsOf(alive));
-    }
-    view.selectionModel()->select(selection, flagsOf(view));
-}
-
-void ViewMemory::restoreScroll(QAbstractItemView &view, const ScanDataModel &model) const
-{
+    QAbstractItemView &view = *place.itemView();
     QScrollBar *bar = view.verticalScrollBar();
     // Who is at the very top wants to see what comes first, not what was first a moment ago.
-    if (m_scrollValue == 0 || m_topRow < model.unchangedPrefix() || !m_topItem) {
+    const bool atTop = m_scrollValue == 0 && !m_heldIsCurrent;
+    const QModelIndex held = m_held.now(model);
+    if (atTop || !held.isValid() || m_held.row < model.unchangedPrefix())
         bar->setValue(m_scrollValue);
-        return;
-    }
-    const int row = model.rowOf(m_topItem);
-    if (row < 0) {
-        bar->setValue(m_scrollValue);
-        return;
-    }
-    bar->setValue(bar->value() + view.visualRect(model.index(row, 0)).top() - m_topOffset);
+    else
+        bar->setValue(bar->value() + view.visualRect(held).top() - m_heldY);
+    m_held.row = held.row();
+    m_restoredValue = bar->value();
 }
 
-void ViewMemory::copySelection(const QAbstractItemView &from, QAbstractItemView &to,
-                               const ScanDataModel &model)
+void ViewMemory::restoreBand(ViewPlace &place, const ScanDataModel &model, int scrolledBy) const
 {
-    QItemSelection selection;
-    const QItemSelection selected = from.selectionModel()->selection();
-    for (const QItemSelectionRange &range : selected)
-        appendRange(selection, model, range.top(), range.bottom());
-    to.selectionModel()->select(selection, flagsOf(to) | QItemSelectionModel::Clear);
+    // The band has begun at an item and goes with it; one from empty space stays where it is seen.
+    const QModelIndex pressed = m_pressed.now(model);
+    place.resumeBand(m_beforeBand.now(model),
+                     pressed.isValid() ? place.contentPosition(pressed) - m_pressedAt
+                                       : QPoint(0, scrolledBy));
+}
+
+void ViewMemory::copySelection(ViewPlace &from, ViewPlace &to, const ScanDataModel &model)
+{
+    const auto copied = [&model](const QItemSelection &selection) {
+        QItemSelection rows;
+        for (const QItemSelectionRange &range : selection) {
+            if (range.isValid())
+                appendRange(rows, model, range.top(), range.bottom());
+        }
+        return rows;
+    };
+    const QAbstractItemView &source = *from.itemView();
+    select(*to.itemView(), copied(settledPart(source)),
+           copied(source.selectionModel()->selection()));
+    to.setSelectionAnchor(model.index(from.selectionAnchor().row(), 0));
 }

@@ -2,38 +2,64 @@
 
 #include "platform/item/treeitemdata.h"
 
+#include <QItemSelection>
 #include <QPair>
+#include <QPoint>
 #include <QPointer>
 #include <QVector>
 
-class QAbstractItemView;
 class ScanDataModel;
+class ViewPlace;
 
-/// What a reset of the model takes from a view, kept by record and put back afterwards: selected
-/// rows and the item at the top of the viewport. Rows that kept their numbers are put back as plain
-/// ranges, so that a large selection costs little while results stream in.
+/// What a reset of the model takes from a view, kept by record and put back afterwards: what is
+/// selected, what a selection with Shift starts from, the press and the rubber band under way, and
+/// the item under the eye. Rows that kept their numbers are put back as plain ranges, so that a
+/// large selection costs little while results stream in.
 class ViewMemory
 {
 public:
-    /// \a topRow: the first row of which any part is in the viewport; negative: none is.
-    void capture(const QAbstractItemView &view, const ScanDataModel &model, int topRow);
-    /// Call when the model has been reset with the same tree, grown or changed.
-    void restore(QAbstractItemView &view, const ScanDataModel &model);
+    void capture(ViewPlace &place, const ScanDataModel &model);
+    /// Call when the model has been reset with the same tree, grown or changed, and the current
+    /// item has been put back.
+    void restore(ViewPlace &place, const ScanDataModel &model);
 
-    /// The rows selected in \a from become those selected in \a to.
-    static void copySelection(const QAbstractItemView &from, QAbstractItemView &to,
-                              const ScanDataModel &model);
+    /// What is selected in \a from becomes so in \a to, and so does the start of a Shift selection.
+    static void copySelection(ViewPlace &from, ViewPlace &to, const ScanDataModel &model);
 
 private:
-    void captureAnchor(const QAbstractItemView &view, const ScanDataModel &model, int topRow);
-    void restoreSelection(QAbstractItemView &view, const ScanDataModel &model) const;
-    void restoreScroll(QAbstractItemView &view, const ScanDataModel &model) const;
+    /// Rows of before, and the records that they showed.
+    struct Rows
+    {
+        void capture(const QItemSelection &selection, const ScanDataModel &model);
+        QItemSelection now(const ScanDataModel &model) const;
 
-    QVector<QPair<int, int>> m_selectedRanges;
-    QVector<QPointer<TreeItemData>> m_selectedItems;
-    QPointer<TreeItemData> m_topItem;
-    int m_topRow = -1;
-    int m_topOffset = 0;
+        QVector<QPair<int, int>> ranges;
+        QVector<QPointer<TreeItemData>> items;
+    };
+    struct Mark
+    {
+        void capture(int newRow, const ScanDataModel &model);
+        int rowIn(const ScanDataModel &model) const;
+        QModelIndex now(const ScanDataModel &model) const;
+
+        QPointer<TreeItemData> item;
+        int row = -1;
+    };
+
+    void captureEye(ViewPlace &place, const ScanDataModel &model);
+    void restoreEye(ViewPlace &place, const ScanDataModel &model);
+    void restoreBand(ViewPlace &place, const ScanDataModel &model, int scrolledBy) const;
+
+    Rows m_selected;
+    Rows m_settled;
+    Rows m_beforeBand;
+    Mark m_anchor;
+    Mark m_pressed;
+    Mark m_held; ///< the item under the eye
+    QPoint m_pressedAt;
+    bool m_hadBand = false;
+    bool m_heldIsCurrent = false;
+    int m_heldY = 0;
     int m_scrollValue = 0;
     int m_restoredValue = -1; ///< where restore() left the view; elsewhere the user has scrolled
 };

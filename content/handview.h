@@ -1,0 +1,101 @@
+#pragma once
+
+#include "content/rubberband.h"
+#include "content/typeahead.h"
+#include "content/viewplace.h"
+
+#include <QBasicTimer>
+#include <QListView>
+#include <QPersistentModelIndex>
+#include <QTableView>
+
+/// What grid and table have in common of that which a hand does: the rubber band with its scrolling
+/// at the edges, type-ahead, Escape, ranges by Ctrl and Shift, and the state that outlives a reset
+/// of the model by way of ViewPlace. \a View is an item view that scrolls by pixels.
+template <typename View>
+class HandView : public View, public ViewPlace
+{
+public:
+    /// \a bandDistance: pixels from a press to the rubber band.
+    HandView(int bandDistance, QWidget *parent);
+    ~HandView() override;
+
+    QAbstractItemView *itemView() override { return this; }
+    QPoint contentPosition(const QModelIndex &index) const override;
+    QModelIndex selectionAnchor() const override { return m_anchor; }
+    void setSelectionAnchor(const QModelIndex &index) override;
+    QModelIndex pressedItem() const override { return m_pressed; }
+    void resumePress(const QModelIndex &index) override;
+    bool hasBand() const override { return m_band.isActive(); }
+    QItemSelection selectionBeforeBand() const override { return m_beforeBand; }
+    void resumeBand(const QItemSelection &before, const QPoint &originMoved) override;
+
+    void setModel(QAbstractItemModel *model) override;
+    void reset() override;
+    void keyboardSearch(const QString &search) override;
+
+protected:
+    virtual QModelIndex indexOf(int row) const = 0;
+    /// What \a band, in viewport coordinates, touches.
+    virtual QItemSelection itemsIn(const QRect &band) const = 0;
+    /// What the band does to the items that it touches; ClearAndSelect forgets the others.
+    virtual QItemSelectionModel::SelectionFlags
+    bandCommand(Qt::KeyboardModifiers modifiers) const = 0;
+    virtual void bandAppears() { }
+    /// The band is to be shown as it is now; inactive: no more.
+    virtual void showBand() = 0;
+    /// The button was released at \a pos, which may be outside.
+    virtual void bandReleased(const QPoint &pos) { Q_UNUSED(pos) }
+    /// The selection has been changed by hand or by key.
+    virtual void selectedByHand() { }
+
+    const RubberBand &band() const { return m_band; }
+    QPoint offset() const { return {this->horizontalOffset(), this->verticalOffset()}; }
+    /// The range from row \a first to row \a last without dead records at its ends.
+    void addRows(QItemSelection *selection, int first, int last) const;
+    bool isEnabled(const QModelIndex &index) const;
+    /// The first item that may be entered from \a row on, or the current one.
+    QModelIndex enterable(int row, int onward, int rowCount) const;
+    /// To be called when the content has been scrolled.
+    void scrollBand();
+    void noteAnchor(const QModelIndex &index) { m_anchor = index; }
+
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
+    void timerEvent(QTimerEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+private:
+    void stretchBand(const QPoint &pos, Qt::KeyboardModifiers modifiers);
+    void selectInBand(Qt::KeyboardModifiers modifiers);
+    void setCurrentInPlace(const QModelIndex &index);
+    void autoScrollBand();
+    void finishBand();
+    void cancelBand();
+    void finishPress(const QMouseEvent &event);
+    QItemSelectionModel::SelectionFlags onlyThis() const;
+    template <typename Handler>
+    void byHand(Handler handler);
+
+    RubberBand m_band;
+    QBasicTimer m_autoScroll;
+    QPoint m_bandEnd;
+    QItemSelection m_beforeBand;
+    TypeAhead m_typeAhead;
+    QPersistentModelIndex m_anchor;
+    QPersistentModelIndex m_pressed;
+    ulong m_lastDoubleClick = 0;
+    bool m_pressResumed = false; ///< the stock view has lost its pressed item
+    bool m_movingAnchor = false;
+    bool m_selectionTouched = false;
+};
+
+extern template class HandView<QListView>;
+extern template class HandView<QTableView>;
