@@ -21,16 +21,21 @@ bool renderScale(const Wishes &wishes)
     if (!stage.load())
         return false;
     const QDir folder(wishes.folder);
+    const qreal scale = stage.window().devicePixelRatioF();
     bool well = true;
     for (const QString &language : wishes.languages) {
         stage.setLanguage(language);
         for (const QString &theme : wishes.themes) {
             stage.setTheme(theme);
             for (const QString &page : wishes.pages) {
+                QImage picture;
+                stage.setOnDialog([&] { picture = stage.picture(scale); });
                 Pages::prepare(page, stage);
+                if (picture.isNull())
+                    picture = stage.picture(scale);
                 const QString file = folder.filePath(
                     wishes.fileName(page, language, theme, wishes.onlyScale));
-                if (stage.picture().save(file, "png", QuickPng))
+                if (picture.save(file, "png", QuickPng))
                     continue;
                 QTextStream(stderr) << "quarvo-screenshots: cannot write " << file << '\n';
                 well = false;

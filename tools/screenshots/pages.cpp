@@ -118,6 +118,7 @@ QStringList Pages::names()
 
 void Pages::prepare(const QString &page, Stage &stage)
 {
+    stage.tidyUp();
     stage.clear();
     for (const Page &known : all()) {
         if (page == QLatin1String(known.name))

@@ -176,7 +176,8 @@ void Stage::followLink()
             continue;
         QTimer::singleShot(0, this, [this] {
             settle(0);
-            m_taken = grabAll();
+            if (m_onDialog)
+                m_onDialog();
             if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
                 dialog->reject();
         });
@@ -187,28 +188,27 @@ void Stage::followLink()
 
 // Taking the picture ----------------------------------------------------------------------------
 
-QImage Stage::grabAll()
+QImage Stage::picture(qreal scale)
 {
-    QPixmap all = m_window.grab();
+    QImage all(m_window.size() * scale, QImage::Format_ARGB32_Premultiplied);
+    all.setDevicePixelRatio(scale);
+    m_window.render(&all);
     QPainter painter(&all);
     const auto others = QApplication::topLevelWidgets();
     for (QWidget *other : others) {
-        if (other == &m_window || !other->isVisible() || !other->isWindow())
+        if (other == &m_window || !other->isVisible())
             continue;
-        QPixmap piece(other->size() * other->devicePixelRatioF());
-        piece.setDevicePixelRatio(other->devicePixelRatioF());
+        QImage piece(other->size() * scale, QImage::Format_ARGB32_Premultiplied);
+        piece.setDevicePixelRatio(scale);
         piece.fill(Qt::transparent);
         other->render(&piece);
-        painter.drawPixmap(m_window.mapFromGlobal(other->pos()), piece);
+        painter.drawImage(m_window.mapFromGlobal(other->pos()), piece);
     }
-    painter.end();
-    return all.toImage();
+    return all;
 }
 
-QImage Stage::picture()
+void Stage::tidyUp()
 {
-    if (m_taken.isNull())
-        m_taken = grabAll();
     const auto others = QApplication::topLevelWidgets();
     for (QWidget *other : others) {
         if (other != &m_window && other->isVisible())
@@ -218,5 +218,4 @@ QImage Stage::picture()
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(view->viewport(), &leave);
     }
-    return std::exchange(m_taken, QImage());
 }

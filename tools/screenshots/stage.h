@@ -10,6 +10,8 @@
 #include <QPluginLoader>
 #include <QWidget>
 
+#include <functional>
+
 /// A window as a host has it, with the plug-in's two frames, and the hands of somebody who uses it.
 class Stage : public QObject
 {
@@ -27,6 +29,7 @@ public:
     /// Nothing on either side, no filter, the scan side in front.
     void clear();
     SDCardScanContentPluginInterface *view() const { return m_view; }
+    QObject *plugin() { return m_loader.instance(); }
     QWidget &window() { return m_window; }
     /// The grid or the table, whichever is seen; null on a page without results.
     QAbstractItemView *items() const;
@@ -39,13 +42,18 @@ public:
     void hover(int row, int column = 0);
     void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void openMenu(int row);
-    /// Follows the link of the page in front; the dialog that it opens is closed by the picture.
+    /// Follows the link of the page in front. The dialog that it opens is shown to whoever looks,
+    /// and closed again.
     void followLink();
+    /// \a look is called while a modal dialog is open.
+    void setOnDialog(std::function<void()> look) { m_onDialog = std::move(look); }
     /// Lets timers and queued calls do what they have to.
     static void settle(int milliseconds);
 
-    /// The window with everything that lies over it. Closes what does.
-    QImage picture();
+    /// The window with everything that lies over it, at \a scale pixels a unit.
+    QImage picture(qreal scale);
+    /// Menus go, and the mouse leaves.
+    void tidyUp();
 
 private slots:
     void answerMetaData(TreeItemData *item);
@@ -55,7 +63,6 @@ private:
     QPoint placeOf(int row, int column) const;
     void send(QEvent::Type type, const QPoint &place, Qt::MouseButton button,
               Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    QImage grabAll();
 
     QPluginLoader m_loader;
     SDCardScanContentPluginInterface *m_view = nullptr;
@@ -64,5 +71,5 @@ private:
     QWidget m_window;
     QFrame *m_scan = nullptr;
     QFrame *m_search = nullptr;
-    QImage m_taken; ///< while a modal dialog was open
+    std::function<void()> m_onDialog;
 };
