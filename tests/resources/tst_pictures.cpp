@@ -1,7 +1,8 @@
-#include <QFile>
-#include <QImage>
+#include "picturefiles.h"
+
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -14,24 +15,7 @@ const char *const s_fileKinds[] = {"Default", "Audio",    "Video",      "CameraV
                                    "Email",   "Database", "Photo",      "Raw",         "Web",
                                    "Archive", "Folder"};
 
-/// As the picture of the how-to-find dialog is called in each.
-const char *const s_languages[] = {"AR", "DE", "EN", "ES", "FR",  "ID", "IND", "IT",
-                                   "JP", "KO", "NL", "PT", "RUS", "SE", "TCH", "THA"};
-
-QImage loaded(const QString &base, int scale)
-{
-    const QString path = base + (scale == 2 ? QStringLiteral("@2x.png") : QStringLiteral(".png"));
-    return QImage(path).convertToFormat(QImage::Format_ARGB32);
-}
-
-int visiblePixels(const QImage &image)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += qAlpha(image.pixel(x, y)) > 8;
-    return count;
-}
+using PictureFiles::load;
 
 /// Mean difference of two pictures of one size on white, 0 to 255.
 double difference(const QImage &left, const QImage &right)
@@ -52,6 +36,62 @@ double difference(const QImage &left, const QImage &right)
     return sum / (3.0 * left.width() * left.height());
 }
 
+struct Content
+{
+    int visible = 0;
+    bool oneColor = true;
+};
+
+Content contentOf(const QImage &image)
+{
+    Content content;
+    const QRgb first = image.pixel(0, 0);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            content.visible += qAlpha(pixel) > 8;
+            content.oneColor = content.oneColor && pixel == first;
+        }
+    }
+    return content;
+}
+
+constexpr int LargestOnGrid = 32;
+constexpr int ShortestEdge = 4; // pixels at 1x; the top of a circle is shorter
+
+int distance(QRgb left, QRgb right)
+{
+    const QRgb a = qPremultiply(left);
+    const QRgb b = qPremultiply(right);
+    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
+}
+
+/// How far a level edge goes along which pixels show neither of the colours that it parts.
+int longestBlurredRun(const QImage &coarse, const QImage &fine)
+{
+    constexpr int Seen = 48;
+    constexpr int Same = 12;
+    int longest = 0;
+    for (int y = 0; y < coarse.height(); ++y) {
+        int run = 0;
+        for (int x = 0; x < coarse.width(); ++x) {
+            const QRgb upper = fine.pixel(2 * x, 2 * y);
+            const QRgb lower = fine.pixel(2 * x, 2 * y + 1);
+            const QRgb shown = coarse.pixel(x, y);
+            const bool blurred = distance(upper, lower) > Seen && distance(upper, shown) > Same
+                && distance(lower, shown) > Same
+                && distance(upper, fine.pixel(2 * x + 1, 2 * y)) < Same
+                && distance(lower, fine.pixel(2 * x + 1, 2 * y + 1)) < Same;
+            const bool goesOn = run > 0 && distance(upper, fine.pixel(2 * x - 1, 2 * y)) < Same
+                && distance(lower, fine.pixel(2 * x - 1, 2 * y + 1)) < Same;
+            run = !blurred ? 0 : goesOn ? run + 1 : 1;
+            longest = std::max(longest, run);
+        }
+    }
+    return longest;
+}
+
 } // namespace
 
 class TestPictures : public QObject
@@ -59,8 +99,10 @@ class TestPictures : public QObject
     Q_OBJECT
 
 private slots:
-    void exists_data();
-    void exists();
+    void isWhole_data();
+    void isWhole();
+    void smallEdgesAreSharp_data();
+    void smallEdgesAreSharp();
     void themesDiffer_data();
     void themesDiffer();
     void cardsStretch_data();
@@ -73,69 +115,53 @@ private slots:
     void fileKindsAreToldApart();
 };
 
-void TestPictures::exists_data()
+void TestPictures::isWhole_data()
 {
     QTest::addColumn<QString>("base");
-    QTest::addColumn<QSize>("size");
-
-    const auto add = [](const QString &base, int width, int height) {
-        QTest::newRow(qPrintable(base)) << base << QSize(width, height);
-    };
-    for (const QString &folder : {s_light, s_dark}) {
-        for (const char *state : {"normal", "hover", "press"})
-            add(folder + QLatin1String("icon_sdcardthum_") + QLatin1String(state), 150, 124);
-        add(folder + QLatin1String("thumbmask_preview"), 146, 82);
-        add(folder + QLatin1String("icon40_preview_normal"), 40, 40);
-        add(folder + QLatin1String("icon40_play_normal"), 40, 40);
-        for (const char *name :
-             {"icon16_check_normal", "icon16_half_check", "icon16_uncheck_normal",
-              "icon16_uncheck_disable", "icon_check_hover", "icon_sort_default", "icon_sort_ascend",
-              "icon_sort_descend"})
-            add(folder + QLatin1String(name), 16, 16);
-    }
-    for (const char *name :
-         {"icon20_previewMenu_normal", "icon20_previewMenu_hover", "icon20_recoverMenu_normal",
-          "icon20_recoverMenu_hover", "Dark/icon20_preview2_normal", "Dark/icon20_preview2_hover",
-          "Dark/icon20_recoverMenu_normal", "Dark/icon20_recoverMenu_hover", "icon20_repair"})
-        add(s_light + QLatin1String(name), 20, 20);
-    add(s_light + QLatin1String("icon16_recycleBin"), 16, 16);
-    add(s_light + QLatin1String("icon_recoverability_assessing"), 6, 6);
-    add(s_light + QLatin1String("icon32/icon32_play_normal"), 32, 32);
-    for (const char *state : {"normal", "hover", "pressed"})
-        add(s_light + QLatin1String("icon24_location-") + QLatin1String(state), 24, 24);
-    for (const char *name :
-         {"image200_No_scan_white", "image200_Loading_white", "image200_NoFilter_white"})
-        add(s_light + QLatin1String(name), 200, 200);
-    // asked for without the slash that every other picture has
-    add(QStringLiteral(":Images/image200_No scan_white"), 200, 200);
-    add(QStringLiteral(":Images/image142_Search"), 142, 142);
-    for (const QString &folder : {QStringLiteral(":Images/"), QStringLiteral(":Images/Dark/")})
-        for (const char *language : s_languages)
-            add(folder + QLatin1String("unsourcefiles/image_SDCardUnsourcedFiles_Win-")
-                    + QLatin1String(language),
-                744, 288);
-    for (const char *kind : s_fileKinds) {
-        add(s_light + QLatin1String("icon32/icon32_File_") + QLatin1String(kind), 32, 32);
-        add(s_light + QLatin1String("icon64_File_") + QLatin1String(kind), 64, 64);
-        add(s_light + QLatin1String("icon140_File_") + QLatin1String(kind), 140, 140);
-    }
-    add(s_light + QLatin1String("icon168_File_Folder"), 168, 168);
-    add(QStringLiteral(":/Resources/icon80_folder"), 80, 80);
-    add(QStringLiteral(":/Resources/icon80_local disk-normal"), 80, 80);
+    const QStringList bases = PictureFiles::bases();
+    QVERIFY(bases.size() > 100);
+    for (const QString &base : bases)
+        QTest::newRow(qPrintable(base)) << base;
 }
 
-void TestPictures::exists()
+void TestPictures::isWhole()
 {
     QFETCH(QString, base);
-    QFETCH(QSize, size);
 
-    for (int scale : {1, 2}) {
-        const QImage image = loaded(base, scale);
+    const QSize size = PictureFiles::size(base);
+    QVERIFY2(size.isValid(), "picturefiles.h does not say how large it has to be");
+    const int scales = PictureFiles::sheetOf(base) ? 1 : 2;
+    for (int scale = 1; scale <= scales; ++scale) {
+        const QImage image = load(base, scale);
         QCOMPARE(image.size(), size * scale);
-        const int visible = visiblePixels(image);
-        QVERIFY2(visible * 12 > image.width() * image.height(),
-                 qPrintable(QStringLiteral("%1 visible pixels at %2x").arg(visible).arg(scale)));
+        const Content content = contentOf(image);
+        QVERIFY2(content.visible * 12 > image.width() * image.height(), "next to nothing in it");
+        // only a veil is one colour all over
+        QCOMPARE(content.oneColor, base.contains(QLatin1String("thumbmask_")));
     }
+}
+
+void TestPictures::smallEdgesAreSharp_data()
+{
+    QTest::addColumn<QString>("base");
+    const QStringList bases = PictureFiles::bases();
+    for (const QString &base : bases)
+        if (!PictureFiles::sheetOf(base) && PictureFiles::size(base).width() <= LargestOnGrid)
+            QTest::newRow(qPrintable(base)) << base;
+}
+
+// An edge between two pixels is blurred at 1x and sharp at 2x: all along it the two halves of the
+// same pixel differ there.
+void TestPictures::smallEdgesAreSharp()
+{
+    QFETCH(QString, base);
+
+    const QImage coarse = load(base, 1);
+    const QImage fine = load(base, 2);
+    const QTransform turn = QTransform().rotate(90);
+    QVERIFY2(longestBlurredRun(coarse, fine) < ShortestEdge, "a level edge");
+    QVERIFY2(longestBlurredRun(coarse.transformed(turn), fine.transformed(turn)) < ShortestEdge,
+             "an upright edge");
 }
 
 void TestPictures::themesDiffer_data()
@@ -156,7 +182,7 @@ void TestPictures::themesDiffer()
     QFETCH(QString, lightName);
     QFETCH(QString, darkName);
 
-    QVERIFY(loaded(s_light + lightName, 1) != loaded(s_dark + darkName, 1));
+    QVERIFY(load(s_light + lightName, 1) != load(s_dark + darkName, 1));
 }
 
 void TestPictures::cardsStretch_data()
@@ -177,7 +203,7 @@ void TestPictures::cardsStretch()
     constexpr int Column = 4;
 
     for (int scale : {1, 2}) {
-        const QImage image = loaded(base, scale);
+        const QImage image = load(base, scale);
         const int left = Column * scale;
         for (int y = 0; y < image.height(); ++y)
             for (int x = left; x < image.width() - left; ++x)
@@ -199,7 +225,7 @@ void TestPictures::veilsLetTheCardThrough()
 {
     QFETCH(QString, base);
 
-    const QImage veil = loaded(base, 1);
+    const QImage veil = load(base, 1);
     const int middle = qAlpha(veil.pixel(veil.rect().center()));
     QVERIFY(middle > 0);
     QVERIFY(middle < 128);
@@ -219,7 +245,7 @@ void TestPictures::checkBoxStatesAreToldApart()
     QVector<QImage> states;
     for (const char *name : {"icon16_check_normal", "icon16_half_check", "icon16_uncheck_normal",
                              "icon16_uncheck_disable", "icon_check_hover"})
-        states.append(loaded(folder + QLatin1String(name), 1));
+        states.append(load(folder + QLatin1String(name), 1));
     for (int i = 0; i < states.size(); ++i)
         for (int j = i + 1; j < states.size(); ++j)
             QVERIFY2(difference(states.at(i), states.at(j)) > 4,
@@ -240,7 +266,7 @@ void TestPictures::fileKindsAreToldApart()
 
     QVector<QImage> kinds;
     for (const char *kind : s_fileKinds)
-        kinds.append(loaded(prefix + QLatin1String(kind), 1));
+        kinds.append(load(prefix + QLatin1String(kind), 1));
     for (int i = 0; i < kinds.size(); ++i)
         for (int j = i + 1; j < kinds.size(); ++j)
             QVERIFY2(difference(kinds.at(i), kinds.at(j)) > 12,
