@@ -21,16 +21,13 @@ QString folderOf(const QString &base)
 /// name with %1, or one that ends where code appends the rest, means all that fit.
 QStringList meantBy(const QString &name, const QStringList &pictures)
 {
-    QString pattern = QRegularExpression::escape(name);
+    QString pattern = QRegularExpression::escape(
+        QString(name).remove(QRegularExpression(QStringLiteral("^:/?"))));
     pattern.replace(QRegularExpression(QStringLiteral("\\\\%\\d")), QStringLiteral("[^/]+"));
     if (name.endsWith(QLatin1Char('_')) || name.endsWith(QLatin1Char('-')))
         pattern += QStringLiteral("[^/]+");
-    if (name.startsWith(QLatin1Char(':')))
-        pattern.replace(QRegularExpression(QStringLiteral("^(\\\\?:)")), QStringLiteral(":/?"));
-    else
-        pattern.prepend(QStringLiteral(":/Images/(?:.*/)?"));
-    pattern.replace(QStringLiteral(":/?\\/"), QStringLiteral(":/"));
-    pattern.replace(QStringLiteral(":/?/"), QStringLiteral(":/"));
+    pattern.prepend(name.startsWith(QLatin1Char(':')) ? QStringLiteral(":/")
+                                                      : QStringLiteral(":/Images/(?:.*/)?"));
     const QRegularExpression fits(QRegularExpression::anchoredPattern(pattern));
     QStringList meant;
     for (const QString &base : pictures)
