@@ -9,6 +9,15 @@ namespace {
 /// The unit as the locale spells it, read off a text that Qt makes with it.
 QString unitName(const QLocale &locale, int power)
 {
+    if (locale.language() == QLocale::Arabic) {
+        // Qt knows only some of them: a list of files would mix two scripts
+        static const QString s_arabic[] = {
+            QStringLiteral("بايت"),     QStringLiteral("كيلوبايت"), QStringLiteral("ميغابايت"),
+            QStringLiteral("غيغابايت"), QStringLiteral("تيرابايت"), QStringLiteral("بيتابايت"),
+            QStringLiteral("إكسابايت"),
+        };
+        return s_arabic[power];
+    }
     const QString sample = locale.formattedDataSize(qint64(1) << (10 * power), 0,
                                                     QLocale::DataSizeTraditionalFormat);
     return sample.section(QLatin1Char(' '), 1);

@@ -26,10 +26,15 @@ struct Substitute
 const QVector<Substitute> &substitutes()
 {
     static const QVector<Substitute> table{
-        {"Segoe UI", {"Open Sans", "Noto Sans", "DejaVu Sans"}},
+        // the last ones have the scripts that the first ones lack; left to itself, the system
+        // may well pick a serif or a display face for them
+        {"Segoe UI",
+         {"Open Sans", "Noto Sans", "DejaVu Sans", "Noto Sans Arabic", "Noto Sans Thai",
+          "Noto Sans Devanagari"}},
         {"Segoe UI Semibold",
          {"Open Sans Semibold", "Open Sans SemiBold", "Noto Sans SemiBold", "Noto Sans Medium",
-          "Open Sans", "Noto Sans", "DejaVu Sans"}},
+          "Open Sans", "Noto Sans", "DejaVu Sans", "Noto Sans Arabic", "Noto Sans Thai",
+          "Noto Sans Devanagari"}},
         {"Yu Gothic UI", {"Noto Sans CJK JP", "Noto Sans JP", "IPAGothic"}},
         {"Malgun Gothic", {"Noto Sans CJK KR", "Noto Sans KR", "NanumGothic"}},
         {"Microsoft JhengHei UI",

@@ -110,6 +110,12 @@ void TestZVLang::texts_data()
     storage("French", "fr_FR", "1536", "2", "1,50 Ko");
     storage("Russian", "ru_RU", "5", "2", "5 Б");
     storage("Chinese", "zh_CN", "1536", "2", "1.50 KB");
+    storage("Arabic kilobytes", "ar_AE", "1536", "2", "١٫٥٠ كيلوبايت");
+    storage("Arabic megabytes", "ar_AE", "1048576", "0", "١ ميغابايت");
+    storage("Arabic exabytes", "ar_AE", "9223372036854775807", "0", "٨ إكسابايت");
+    storage("one German byte", "de_DE", "1", "2", "1 Byte");
+    storage("Thai bytes", "th_TH", "12", "2", "12 ไบต์");
+    storage("Portuguese thousands", "pt_PT", "1048565", "2", "1\u00a0023,99 KB");
 
     const auto row = [](const char *name, LangFunction function, const QByteArray &request,
                         const char *text) {
@@ -121,6 +127,12 @@ void TestZVLang::texts_data()
     row("Swedish date", Lang_GetDateStr, withLang("sv_SE", march), "2024-03-01");
     row("Korean date", Lang_GetDateStr, withLang("ko_KR", march), "2024. 3. 1.");
     row("Chinese date", Lang_GetDateStr, withLang("zh_CN", march), "2024/3/1");
+    row("Thai date", Lang_GetDateStr, withLang("th_TH", march), "1/3/2024");
+    row("Hindi date", Lang_GetDateStr, withLang("hi_IN", march), "1/3/2024");
+    row("Portuguese date", Lang_GetDateStr, withLang("pt_PT", march), "01/03/2024");
+    row("Dutch date", Lang_GetDateStr, withLang("nl_NL", march), "01-03-2024");
+    row("Indonesian time", Lang_GetDateTimeStr, withLang("id_ID", march), "01/03/2024 15.04");
+    row("Taiwanese time", Lang_GetDateTimeStr, withLang("zh_TW", march), "2024/3/1 下午3:04");
     row("date and time", Lang_GetDateTimeStr, withLang("en_US", march), "3/1/2024 3:04 PM");
     row("German date and time", Lang_GetDateTimeStr, withLang("de_DE", march), "01.03.2024 15:04");
     row("before the epoch", Lang_GetDateStr, withLang("en_US", "\"timestamp\":-1"), "12/31/1969");
