@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>ai_tags_loading_title</source>
-        <translation>Dateien werden geladen …</translation>
+        <translation>Dateien werden geladen&#xa0;…</translation>
     </message>
     <message>
         <source>ai_tags_loading_desc</source>
@@ -507,7 +507,7 @@
     </message>
     <message>
         <source>Loading Files...</source>
-        <translation>Dateien werden geladen …</translation>
+        <translation>Dateien werden geladen&#xa0;…</translation>
     </message>
     <message>
         <source>This may take a moment.</source>

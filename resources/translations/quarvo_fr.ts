@@ -360,11 +360,11 @@
     </message>
     <message>
         <source>reconstructed_tip_intro</source>
-        <translation>Certains fichiers ont perdu leur nom et ne peuvent plus être retrouvés par celui-ci. Voici comment trouver les vôtres :</translation>
+        <translation>Certains fichiers ont perdu leur nom et ne peuvent plus être retrouvés par celui-ci. Voici comment trouver les vôtres&#xa0;:</translation>
     </message>
     <message>
         <source>click_reconstructed</source>
-        <translation>Ouvrez « Fichiers sans nom ».</translation>
+        <translation>Ouvrez «&#xa0;Fichiers sans nom&#xa0;».</translation>
     </message>
     <message>
         <source>search_dialog_text2</source>
