@@ -1,6 +1,7 @@
 #include "host/app/session.h"
 
 #include "host/app/pathpattern.h"
+#include "host/tree/itemkinds.h"
 
 #include <QPixmap>
 
@@ -19,6 +20,12 @@ Session::Session(ContentPlugin &plugin, QObject *parent)
     connect(&m_search, &ItemSearch::progressed, this, [this] {
         if (!m_publisher.isActive())
             m_publisher.start();
+    });
+    m_stepEnd.setSingleShot(true);
+    m_stepEnd.setInterval(0);
+    connect(&m_stepEnd, &QTimer::timeout, this, [this] {
+        publishChecks();
+        endStep();
     });
     connectScan();
     connectPlugin();
@@ -79,6 +86,7 @@ void Session::connectPlugin()
 void Session::clear()
 {
     m_publisher.stop();
+    m_stepEnd.stop();
     m_thumbnails.drop();
     m_metadata.setSource(nullptr);
     m_awaitingMetadata.clear();
@@ -120,6 +128,7 @@ void Session::takeVolumes(const QVector<VolumeInfo> &volumes)
 
 void Session::takeItems(const QVector<FoundItem> &batch)
 {
+    endStep();
     m_tree.add(batch);
     m_search.resume();
 }
@@ -210,6 +219,7 @@ void Session::setKeyword(const QString &keyword)
 
 void Session::setFilter(const FilterCondition &condition)
 {
+    endStep();
     m_filter = condition;
     m_tree.setFilter(ItemFilter(condition));
     m_plugin->setFilterCondition(&m_filter);
@@ -228,15 +238,34 @@ void Session::setFilter(const FilterCondition &condition)
 
 void Session::setChecked(const QVector<ItemRecord *> &items, bool checked)
 {
+    endStep();
+    m_tree.beginStep();
     for (ItemRecord *item : items)
         m_tree.setChecked(item, checked);
     publishChecks();
+    m_tree.endStep();
 }
 
+void Session::endStep()
+{
+    if (m_stepEnd.isActive()) {
+        m_stepEnd.stop();
+        publishChecks();
+    }
+    if (const CheckStep *step = m_tree.endStep())
+        emit bulkChecked(step->checkedFiles, step->uncheckedFiles);
+}
+
+/// A key may change ten thousand selected items, which come one by one: the records follow each,
+/// the views follow when the last has come.
 void Session::takeCheck(TreeItemData *item, Qt::CheckState state)
 {
-    if (ItemRecord *record = m_tree.records().find(item))
-        setChecked({record}, state == Qt::Checked);
+    ItemRecord *record = m_tree.records().find(item);
+    if (!record)
+        return;
+    m_tree.beginStep();
+    m_tree.setChecked(record, state == Qt::Checked);
+    m_stepEnd.start();
 }
 
 void Session::takeSearchCheck(TreeItemData *item, Qt::CheckState state)
@@ -251,7 +280,57 @@ void Session::takeSearchCheck(TreeItemData *item, Qt::CheckState state)
         for (TreeItemData *child : *list)
             found.append(static_cast<ItemRecord *>(child));
     }
-    setChecked(found, state == Qt::Checked);
+    m_tree.beginStep();
+    for (ItemRecord *record : qAsConst(found))
+        m_tree.setChecked(record, state == Qt::Checked);
+    m_stepEnd.start();
+}
+
+void Session::changeChecks(Bulk what)
+{
+    if (!m_shown)
+        return;
+    endStep();
+    if (what == Bulk::CheckShown && m_search.isActive()) {
+        takeSearchCheck(m_search.root(), Qt::Checked);
+        return;
+    }
+    m_tree.beginStep();
+    switch (what) {
+    case Bulk::CheckPhotos:
+        m_tree.setChecked(m_tree.kindRoot(ItemKinds::PhotosRootType), true);
+        break;
+    case Bulk::CheckDeleted:
+        m_tree.checkDeleted();
+        break;
+    case Bulk::CheckShown:
+        m_tree.setChecked(m_shown, true);
+        break;
+    case Bulk::Invert:
+        m_tree.invertChecks();
+        break;
+    case Bulk::UncheckAll:
+        m_tree.uncheckAll();
+        break;
+    }
+    publishChecks();
+    endStep();
+}
+
+bool Session::undoChecks()
+{
+    endStep();
+    const bool undone = m_tree.undo();
+    publishChecks();
+    return undone;
+}
+
+bool Session::redoChecks()
+{
+    endStep();
+    const bool redone = m_tree.redo();
+    publishChecks();
+    return redone;
 }
 
 void Session::openFolder(TreeItemData *item)

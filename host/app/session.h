@@ -47,7 +47,15 @@ public:
     void setFilter(const FilterCondition &condition);
     const FilterCondition &filter() const { return m_filter; }
 
-    /// What a click on a check box does, for one item or for many.
+    enum class Bulk { CheckPhotos, CheckDeleted, CheckShown, Invert, UncheckAll };
+    /// Changes the checks of many files at once; `bulkChecked()` follows. CheckShown means what the
+    /// folder, the kind or the search on screen holds.
+    void changeChecks(Bulk what);
+    /// Takes the latest bulk change of checks back, or makes it again. False when there is none.
+    bool undoChecks();
+    bool redoChecks();
+
+    /// What clicks on the check boxes of \a items do, as one change. Nothing is announced.
     void setChecked(const QVector<ItemRecord *> &items, bool checked);
     /// The files and folders that \a pattern means, see PathPattern.
     QVector<ItemRecord *> matching(const QString &pattern) const;
@@ -62,6 +70,8 @@ signals:
     void treeGrew(); ///< at most ten times a second
     void shownRootChanged();
     void checksChanged();
+    /// More than one file at once, through whatever; undoChecks() takes it back.
+    void bulkChecked(int checkedFiles, int uncheckedFiles);
     void searchChanged(); ///< it began, went on or ended
     void fileActivated(const ItemRecord *file);
     void recoverRequested();
@@ -83,6 +93,7 @@ private:
     void publishChecks();
     void takeCheck(TreeItemData *item, Qt::CheckState state);
     void takeSearchCheck(TreeItemData *item, Qt::CheckState state);
+    void endStep();
     void openFolder(TreeItemData *item);
     void requestThumbnail(TreeItemData *item);
     void requestMetadata(TreeItemData *item);
@@ -99,6 +110,7 @@ private:
     QHash<qint64, ItemRecord *> m_awaitingMetadata; // none of an earlier scan
     ScanRunner m_runner;
     QTimer m_publisher;
+    QTimer m_stepEnd; // what the plug-in tells in one go is one change
     QString m_path;
     ScanProgress m_progress;
     ScanOutcome m_outcome;

@@ -16,10 +16,11 @@ namespace ItemKinds {
 
 /// The root of the files of every kind.
 constexpr int AllFilesRootType = 56;
+constexpr int PhotosRootType = 26;
 
 /// In the order in which they are shown; the last one takes what fits nowhere else.
 constexpr std::array<ItemKind, 9> All{{
-    {"zenvo_photo", QT_TRANSLATE_NOOP("ItemKinds", "Photos"), 26},
+    {"zenvo_photo", QT_TRANSLATE_NOOP("ItemKinds", "Photos"), PhotosRootType},
     {"zenvo_video", QT_TRANSLATE_NOOP("ItemKinds", "Videos"), 11},
     {"zenvo_audio", QT_TRANSLATE_NOOP("ItemKinds", "Audio"), 10},
     {"zenvo_document", QT_TRANSLATE_NOOP("ItemKinds", "Documents"), 24},

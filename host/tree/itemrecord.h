@@ -13,6 +13,8 @@ struct ItemRecord : TreeItemData
     quint64 address = 0; ///< see FoundItem
     quint32 sequence = 0;
     qint32 volume = 0;
+    qint32 index = 0;        ///< its place in the store
+    quint32 newcomersBy = 0; ///< the step of the history that set `checksNewcomers`
     ItemRecord *kindRoot =
         nullptr; ///< files: the root of the kind that lists it; null while hidden
 

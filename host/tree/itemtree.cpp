@@ -3,28 +3,7 @@
 #include "host/scan/filecategory.h"
 #include "host/tree/itemkinds.h"
 
-namespace {
-
-/// Everything that counts \a record: the folders above it and, for files, the roots by kind.
-template <typename Visit>
-void forEachContainer(const ItemRecord *record, ItemRecord *allFiles, Visit visit)
-{
-    for (ItemRecord *folder = record->folder(); folder; folder = folder->folder())
-        visit(folder);
-    if (record->kindRoot) {
-        visit(record->kindRoot);
-        visit(allFiles);
-    }
-}
-
-Qt::CheckState stateOf(const ItemRecord &record)
-{
-    if (record.checkedLeaves == 0)
-        return Qt::Unchecked;
-    return record.checkedLeaves == record.leaves ? Qt::Checked : Qt::PartiallyChecked;
-}
-
-} // namespace
+#include <algorithm>
 
 ItemTree::ItemTree()
 {
@@ -36,11 +15,13 @@ ItemTree::~ItemTree() = default;
 void ItemTree::clear()
 {
     m_folders.clear();
+    m_folderList.clear();
     m_texts.clear();
     m_volumes.clear();
     m_kinds.clear();
     m_placeRoot = nullptr;
     m_records.clear();
+    m_history.clear(); // the places that it knows are given out anew
     m_checkedFiles = 0;
     m_checkedBytes = 0;
     m_allFiles = createRoot(QString(), ItemKinds::AllFilesRootType);
@@ -82,6 +63,7 @@ void ItemTree::add(const QVector<FoundItem> &batch)
         ItemRecord *record = createRecord(item);
         if (record->isFolder()) {
             m_folders.insert(record->fileId, record);
+            m_folderList.append(record);
             if (!m_filter.isActive())
                 show(record);
         } else if (m_filter.accepts(*record)) {
@@ -97,6 +79,14 @@ void ItemTree::setFilter(const ItemFilter &filter)
         return;
     m_filter = filter;
     rebuild();
+}
+
+ItemRecord *ItemTree::kindRoot(int rootType) const
+{
+    const auto found = std::find_if(
+        m_kinds.begin(), m_kinds.end(),
+        [rootType](const ItemRecord *kind) { return kind->rootType == rootType; });
+    return found != m_kinds.end() ? *found : nullptr;
 }
 
 ItemRecord *ItemTree::createRoot(const QString &name, int rootType)
@@ -148,18 +138,7 @@ void ItemTree::show(ItemRecord *record)
     if (!record->folder()->isShown)
         show(record->folder());
     record->isShown = true;
-    const bool inherits = record->folder()->checksNewcomers
-        || (!record->isFolder()
-            && (m_allFiles->checksNewcomers
-                || m_kinds[ItemKinds::indexOfCategory(record->fileCategory)]->checksNewcomers));
-    if (inherits && !record->isChecked) {
-        record->isChecked = true;
-        record->checksNewcomers = record->isFolder();
-        if (!record->isFolder()) {
-            ++m_checkedFiles;
-            m_checkedBytes += record->fileSize;
-        }
-    }
+    takeAlong(record);
     if (record->isLeaf)
         record->checkedLeaves = record->isChecked ? 1 : 0;
     writeCheckState(record);
@@ -179,7 +158,7 @@ void ItemTree::listByKind(ItemRecord *file)
         root->folderSize += file->fileSize;
         writeCheckState(root);
         if (root->checkedLeaves < root->leaves)
-            root->checksNewcomers = false;
+            setNewcomers(root, false);
     }
 }
 
@@ -203,72 +182,8 @@ void ItemTree::link(ItemRecord *record)
         folder->folderSize += record->fileSize;
         writeCheckState(folder);
         if (folder->checkedLeaves < folder->leaves)
-            folder->checksNewcomers = false;
+            setNewcomers(folder, false);
     }
-}
-
-void ItemTree::writeCheckState(ItemRecord *record)
-{
-    record->checkState = stateOf(*record);
-}
-
-void ItemTree::setLeafChecked(ItemRecord *leaf, bool checked)
-{
-    if (leaf->isChecked != checked) {
-        const int step = checked ? 1 : -1;
-        leaf->isChecked = checked;
-        leaf->checkedLeaves = checked ? 1 : 0;
-        if (!leaf->isFolder()) {
-            m_checkedFiles += step;
-            m_checkedBytes += step * leaf->fileSize;
-        }
-        forEachContainer(leaf, m_allFiles, [step, checked](ItemRecord *container) {
-            container->checkedLeaves += step;
-            writeCheckState(container);
-            if (!checked)
-                container->checksNewcomers = false;
-        });
-    }
-    writeCheckState(leaf);
-}
-
-void ItemTree::setChecked(ItemRecord *record, bool checked)
-{
-    if (!record->isShown)
-        return;
-    QVector<ItemRecord *> open{record};
-    while (!open.isEmpty()) {
-        ItemRecord *current = open.takeLast();
-        if (current->isFolder())
-            current->checksNewcomers = checked;
-        if (current->isLeaf) {
-            setLeafChecked(current, checked);
-            continue;
-        }
-        for (TreeItemData *file : qAsConst(current->childFiles))
-            setLeafChecked(static_cast<ItemRecord *>(file), checked);
-        for (TreeItemData *folder : qAsConst(current->childFolders))
-            open.append(static_cast<ItemRecord *>(folder));
-        writeCheckState(
-            current); // the plug-in may have written a state that nothing below bears out
-    }
-}
-
-int ItemTree::hiddenCheckedFiles() const
-{
-    return m_checkedFiles - m_allFiles->checkedLeaves;
-}
-
-QVector<const ItemRecord *> ItemTree::checkedItems() const
-{
-    QVector<const ItemRecord *> items;
-    items.reserve(m_checkedFiles);
-    for (int i = 0; i < m_records.size(); ++i) {
-        const ItemRecord *record = m_records.at(i);
-        if (record->isLeaf && record->isChecked && (record->isShown || !record->isFolder()))
-            items.append(record);
-    }
-    return items;
 }
 
 void ItemTree::resetContainer(ItemRecord *record)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/tree/checkhistory.h"
 #include "host/tree/itemfilter.h"
 #include "host/tree/recordstore.h"
 
@@ -33,10 +34,30 @@ public:
     /// The root of all files, and those of the kinds, in the order of ItemKinds::All.
     ItemRecord *allFiles() const { return m_allFiles; }
     const QVector<ItemRecord *> &kindRoots() const { return m_kinds; }
+    /// Null when \a rootType is that of no kind.
+    ItemRecord *kindRoot(int rootType) const;
     const RecordStore &records() const { return m_records; }
 
     /// Checks or unchecks what is shown at and below \a record; all states above follow.
     void setChecked(ItemRecord *record, bool checked);
+    /// Every shown file that is deleted.
+    void checkDeleted();
+    /// Turns round every shown file and empty folder.
+    void invertChecks();
+    /// Unchecks everything, hidden files too.
+    void uncheckAll();
+
+    /// What is changed between the two is one step of the history. The step, when it changed more
+    /// than one file; null otherwise.
+    void beginStep() { m_history.begin(); }
+    const CheckStep *endStep() { return m_history.end(); }
+    /// The step that was undone or done again; null when there is none. Files that were checked by
+    /// hand in the meantime keep their checks, unless they belong to the step.
+    const CheckStep *undo();
+    const CheckStep *redo();
+    bool canUndo() const { return m_history.lastDone(); }
+    bool canRedo() const { return m_history.lastUndone(); }
+
     /// Puts right what somebody else has written into the record's `checkState`.
     static void writeCheckState(ItemRecord *record);
 
@@ -57,17 +78,26 @@ private:
     void show(ItemRecord *record);
     void link(ItemRecord *record);
     void listByKind(ItemRecord *file);
+    void takeAlong(ItemRecord *newcomer);
+    void setNewcomers(ItemRecord *container, bool taken);
     void setLeafChecked(ItemRecord *leaf, bool checked);
+    bool mark(ItemRecord *leaf, bool checked);
+    void markBelow(ItemRecord *record, bool checked);
+    void apply(const IndexSet &checked, const IndexSet &unchecked, const IndexSet &flagged,
+               const IndexSet &unflagged);
+    void recount();
     void rebuild();
 
     RecordStore m_records;
     QHash<qint64, ItemRecord *> m_folders; // by fileId
+    QVector<ItemRecord *> m_folderList;    // all of them, whatever their ids
     QSet<QString> m_texts;                 // paths and extensions, one copy each
     QVector<ItemRecord *> m_volumes;
     QVector<ItemRecord *> m_kinds;
     ItemRecord *m_placeRoot = nullptr;
     ItemRecord *m_allFiles = nullptr;
     ItemFilter m_filter;
+    CheckHistory m_history;
     int m_checkedFiles = 0;
     qint64 m_checkedBytes = 0;
     quint64 m_revision = 0;

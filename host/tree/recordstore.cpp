@@ -40,7 +40,7 @@ ItemRecord *RecordStore::create()
     Block *block = m_blocks.back().get();
     auto *record = new (block->bytes + block->used * sizeof(ItemRecord)) ItemRecord;
     ++block->used;
-    ++m_size;
+    record->index = m_size++;
     record->secondaryId = ++s_lastSecondaryId;
     return record;
 }

@@ -5,6 +5,7 @@
 #include "host/scan/filecategory.h"
 #include "host/ui/bottombar.h"
 #include "host/ui/breadcrumbs.h"
+#include "host/ui/bulkmenu.h"
 #include "host/ui/filterbar.h"
 #include "host/ui/messagebanner.h"
 #include "host/ui/pictureviewer.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr QSize MinimumSize{640, 480};
 constexpr QSize FirstSize{1280, 800};
 constexpr int SidePanelFrom = 860; // below this width the results need the room
+constexpr int BulkTextFrom = 1000;
 enum Side { ScanPage, SearchPage };
 } // namespace
 
@@ -36,6 +38,7 @@ MainWindow::MainWindow(ContentPlugin &plugin, Session &session)
     , m_navBar(new QFrame(this))
     , m_crumbs(new Breadcrumbs(session.tree(), m_navBar))
     , m_filters(new FilterBar(m_navBar))
+    , m_bulk(new BulkMenu(session, m_navBar))
     , m_side(new SidePanel(session.tree(), this))
     , m_sides(new QStackedWidget(this))
     , m_bottomBar(new BottomBar(this))
@@ -65,6 +68,7 @@ void MainWindow::buildLayout()
     navigation->setSpacing(8);
     navigation->addWidget(m_crumbs, 1);
     navigation->addWidget(m_filters);
+    navigation->addWidget(m_bulk);
 
     m_sides->insertWidget(ScanPage, m_plugin->getScanContentFrame());
     m_sides->insertWidget(SearchPage, m_plugin->getSearchResultFrame());
@@ -102,6 +106,9 @@ void MainWindow::connectBars()
     connect(m_topBar, &TopBar::languagePicked, this, &MainWindow::switchLanguage);
     connect(m_filters, &FilterBar::changed, this,
             [this] { m_session.setFilter(m_filters->condition()); });
+    connect(m_bulk, &BulkMenu::picked, &m_session, &Session::changeChecks);
+    connect(m_bulk, &BulkMenu::undoRequested, this, &MainWindow::undoChecks);
+    connect(m_bulk, &BulkMenu::redoRequested, this, &MainWindow::redoChecks);
     connect(m_side, &SidePanel::picked, &m_session, &Session::show);
     connect(m_crumbs, &Breadcrumbs::picked, &m_session, &Session::show);
     connect(m_bottomBar, &BottomBar::stopRequested, &m_session, &Session::cancelScan);
@@ -117,6 +124,7 @@ void MainWindow::connectSession()
     connect(&m_session, &Session::scanFinished, this, &MainWindow::tellOutcome);
     connect(&m_session, &Session::treeGrew, m_side, &SidePanel::refresh);
     connect(&m_session, &Session::checksChanged, this, &MainWindow::refreshChecks);
+    connect(&m_session, &Session::bulkChecked, this, &MainWindow::offerUndo);
     connect(&m_session, &Session::shownRootChanged, this, [this] {
         m_crumbs->follow(m_session.shownRoot());
         m_side->follow(m_session.shownRoot());
@@ -175,6 +183,7 @@ void MainWindow::setTheme(THEMETYPE type)
     m_banner->setTheme(m_theme);
     m_crumbs->setTheme(m_theme);
     m_filters->setTheme(m_theme);
+    m_bulk->setTheme(m_theme);
     m_side->setTheme(m_theme);
     m_bottomBar->setTheme(m_theme);
     m_plugin->updateTheme(type);
@@ -203,6 +212,37 @@ void MainWindow::refreshChecks()
 {
     const ItemTree &tree = m_session.tree();
     m_bottomBar->setChecked(tree.checkedFiles(), tree.checkedBytes(), tree.hiddenCheckedFiles());
+}
+
+void MainWindow::offerUndo(int checkedFiles, int uncheckedFiles)
+{
+    m_banner->offer(
+        [checkedFiles, uncheckedFiles] {
+            if (uncheckedFiles == 0)
+                return tr("%Ln file(s) checked.", nullptr, checkedFiles);
+            if (checkedFiles == 0)
+                return tr("%Ln file(s) unchecked.", nullptr, uncheckedFiles);
+            return tr("%Ln check(s) changed.", nullptr, checkedFiles + uncheckedFiles);
+        },
+        [] { return tr("Undo"); }, [this] { undoChecks(); });
+}
+
+void MainWindow::undoChecks()
+{
+    if (m_session.undoChecks())
+        m_banner->offer([] { return tr("The change was undone."); }, [] { return tr("Redo"); },
+                        [this] { redoChecks(); });
+    else
+        m_banner->tell(MessageBanner::Hint, [] { return tr("There is nothing to undo."); });
+}
+
+void MainWindow::redoChecks()
+{
+    if (m_session.redoChecks())
+        m_banner->offer([] { return tr("The change was made again."); }, [] { return tr("Undo"); },
+                        [this] { undoChecks(); });
+    else
+        m_banner->tell(MessageBanner::Hint, [] { return tr("There is nothing to redo."); });
 }
 
 void MainWindow::tellOutcome(const ScanOutcome &outcome)
@@ -313,6 +353,7 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
     m_side->setVisible(width() >= SidePanelFrom);
+    m_bulk->setCompact(width() < BulkTextFrom);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

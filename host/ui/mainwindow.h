@@ -9,6 +9,7 @@
 
 class BottomBar;
 class Breadcrumbs;
+class BulkMenu;
 class FilterBar;
 class MessageBanner;
 class QStackedWidget;
@@ -53,6 +54,9 @@ private:
     void openFile(const ItemRecord *file);
     void refreshSide();
     void refreshChecks();
+    void offerUndo(int checkedFiles, int uncheckedFiles);
+    void undoChecks();
+    void redoChecks();
     void tellOutcome(const ScanOutcome &outcome);
 
     ContentPlugin &m_plugin;
@@ -64,6 +68,7 @@ private:
     QFrame *m_navBar;
     Breadcrumbs *m_crumbs;
     FilterBar *m_filters;
+    BulkMenu *m_bulk;
     SidePanel *m_side;
     QStackedWidget *m_sides;
     BottomBar *m_bottomBar;

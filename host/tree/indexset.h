@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtAlgorithms>
+#include <QtGlobal>
+
+#include <vector>
+
+/// Places of records in their store: one bit each, so that a check of a million files is remembered
+/// in 125 kB.
+class IndexSet
+{
+public:
+    void insert(int index);
+    void remove(int index);
+    bool contains(int index) const;
+    bool isEmpty() const { return m_words.empty(); }
+    /// Gives back what is not needed; to be called when the set is complete.
+    void squeeze();
+
+    template <typename Visit>
+    void forEach(Visit visit) const
+    {
+        for (std::size_t i = 0; i < m_words.size(); ++i) {
+            for (quint64 rest = m_words[i]; rest != 0; rest &= rest - 1)
+                visit((m_firstWord + int(i)) * WordBits + int(qCountTrailingZeroBits(rest)));
+        }
+    }
+
+private:
+    static constexpr int WordBits = 64;
+    quint64 *word(int index);
+
+    int m_firstWord = 0; // what lies before it is not in the set
+    std::vector<quint64> m_words;
+};

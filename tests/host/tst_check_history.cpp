@@ -1,0 +1,398 @@
+#include "host/tree/itemkinds.h"
+#include "host/tree/itemtree.h"
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <functional>
+
+namespace {
+
+constexpr int MaxSteps = 32;
+
+using Checks = QMap<qint64, bool>; // of files and empty folders, by id
+
+FoundItem item(qint64 id, qint64 parentId, const QString &name, qint64 size = 5)
+{
+    FoundItem found;
+    found.id = id;
+    found.parentId = parentId;
+    found.name = name;
+    found.folder = size < 0;
+    found.size = qMax<qint64>(size, 0);
+    return found;
+}
+
+FoundItem folder(qint64 id, qint64 parentId = -1)
+{
+    return item(id, parentId, QStringLiteral("folder %1").arg(id), -1);
+}
+
+ItemRecord *find(const ItemTree &tree, qint64 id)
+{
+    for (int i = 0; i < tree.records().size(); ++i) {
+        ItemRecord *record = tree.records().at(i);
+        if (!record->isRoot && record->fileId == id)
+            return record;
+    }
+    return nullptr;
+}
+
+Checks checksOf(const ItemTree &tree)
+{
+    Checks checks;
+    QSet<const TreeItemData *> filled;
+    for (int i = 0; i < tree.records().size(); ++i)
+        filled.insert(tree.records().at(i)->parent);
+    for (int i = 0; i < tree.records().size(); ++i) {
+        const ItemRecord *record = tree.records().at(i);
+        if (!record->isRoot && !filled.contains(record))
+            checks.insert(record->fileId, record->isChecked);
+    }
+    return checks;
+}
+
+struct Count
+{
+    int leaves = 0;
+    int checked = 0;
+};
+
+/// Walks everything below; an empty string when each state on the way is what it should be.
+QString faultBelow(const ItemRecord *record, Count *count)
+{
+    Count own;
+    for (const auto *list : {&record->childFolders, &record->childFiles}) {
+        for (const TreeItemData *child : *list) {
+            const QString fault = faultBelow(static_cast<const ItemRecord *>(child), &own);
+            if (!fault.isEmpty())
+                return fault;
+        }
+    }
+    if (own.leaves == 0 && !record->isRoot)
+        own = {1, record->isChecked ? 1 : 0};
+    count->leaves += own.leaves;
+    count->checked += own.checked;
+    const int state = own.checked == 0 ? Qt::Unchecked
+        : own.checked == own.leaves    ? Qt::Checked
+                                       : Qt::PartiallyChecked;
+    if (record->checkState != state)
+        return QStringLiteral("%1 says %2 instead of %3")
+            .arg(record->name)
+            .arg(record->checkState)
+            .arg(state);
+    if (record->checksNewcomers && own.checked < own.leaves)
+        return record->name + QStringLiteral(" takes newcomers along but is not wholly checked");
+    return {};
+}
+
+QString faultOf(const ItemTree &tree)
+{
+    QVector<ItemRecord *> roots = tree.kindRoots();
+    roots << tree.allFiles() << tree.placeRoot();
+    for (const ItemRecord *root : qAsConst(roots)) {
+        Count count;
+        const QString fault = faultBelow(root, &count);
+        if (!fault.isEmpty())
+            return fault;
+    }
+    int files = 0;
+    qint64 bytes = 0;
+    for (int i = 0; i < tree.records().size(); ++i) {
+        const ItemRecord *record = tree.records().at(i);
+        if (!record->isFolder() && record->isChecked) {
+            ++files;
+            bytes += record->fileSize;
+        }
+    }
+    if (files != tree.checkedFiles() || bytes != tree.checkedBytes())
+        return QStringLiteral("%1 files are checked, told are %2")
+            .arg(files)
+            .arg(tree.checkedFiles());
+    return {};
+}
+
+/// What a step changed, as seen from outside.
+struct Change
+{
+    Checks before;
+    Checks after;
+};
+
+Change differenceOf(const Checks &before, const Checks &after)
+{
+    Change change;
+    for (auto check = after.begin(); check != after.end(); ++check) {
+        if (before.value(check.key()) != check.value()) {
+            change.before.insert(check.key(), before.value(check.key()));
+            change.after.insert(check.key(), check.value());
+        }
+    }
+    return change;
+}
+
+VolumeInfo volume(const QString &root)
+{
+    VolumeInfo info;
+    info.root = root;
+    return info;
+}
+
+} // namespace
+
+class TestCheckHistory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void behavesLikeSnapshots_data();
+    void behavesLikeSnapshots();
+    void newcomersGoWithTheStepThatTookThem();
+    void aStepChangesMoreThanOneFile();
+    void backAndForthIsNoChange();
+    void whatIsGoneIsForgotten();
+    void setsOfIndexes();
+    void aMillionFiles();
+};
+
+void TestCheckHistory::behavesLikeSnapshots_data()
+{
+    QTest::addColumn<quint32>("seed");
+    QTest::addColumn<int>("volumes");
+    for (quint32 seed = 1; seed <= 12; ++seed)
+        QTest::addRow("seed %u", seed) << seed << int(1 + seed % 2);
+}
+
+void TestCheckHistory::behavesLikeSnapshots()
+{
+    QFETCH(quint32, seed);
+    QFETCH(int, volumes);
+    QRandomGenerator random(seed);
+    const auto below = [&random](int end) { return int(random.bounded(end)); };
+    ItemTree tree;
+    tree.setVolumes(QVector<VolumeInfo>{volume("E:"), volume("F:")}.mid(0, volumes));
+    QVector<qint64> folders{-1};
+    QVector<Change> done;
+    QVector<Change> undone;
+    QSet<qint64> takenAlong; // with which step they go is the business of another test
+    const QStringList endings{"jpg", "mp4", "txt", "odd"};
+
+    for (int turn = 1; turn <= 400; ++turn) {
+        const Checks before = checksOf(tree);
+        Checks expected = before;
+        const int action = below(20);
+        if (action < 6 || before.isEmpty()) {
+            FoundItem found = item(turn, folders[below(folders.size())],
+                                   QString("%1.%2").arg(turn).arg(endings[below(4)]), below(900));
+            found.folder = below(4) == 0;
+            found.deleted = below(3) == 0;
+            found.volume = below(volumes);
+            if (found.folder)
+                folders.append(found.id);
+            tree.add({found});
+            if (checksOf(tree).value(found.id))
+                takenAlong.insert(found.id);
+        } else if (action < 8) {
+            FilterCondition condition;
+            condition.mode = below(2) ? ItemFilter::DeletedOnly : ItemFilter::AnyState;
+            tree.setFilter(ItemFilter(condition));
+        } else if (action < 12) {
+            const bool again = action == 11;
+            QVector<Change> &from = again ? undone : done;
+            QCOMPARE(bool(again ? tree.redo() : tree.undo()), !from.isEmpty());
+            if (!from.isEmpty()) {
+                const Change change = from.takeLast();
+                (again ? done : undone).append(change);
+                const Checks &wanted = again ? change.after : change.before;
+                for (auto check = wanted.begin(); check != wanted.end(); ++check)
+                    expected.insert(check.key(), check.value());
+                const Checks now = checksOf(tree);
+                for (auto check = now.begin(); check != now.end(); ++check)
+                    QVERIFY2(takenAlong.contains(check.key())
+                                 || check.value() == expected.value(check.key()),
+                             qPrintable(QString("turn %1, item %2").arg(turn).arg(check.key())));
+            }
+        } else {
+            tree.beginStep();
+            if (action == 12)
+                tree.checkDeleted();
+            else if (action == 13)
+                tree.invertChecks();
+            else if (action == 14)
+                tree.uncheckAll();
+            else if (action == 15)
+                tree.setChecked(below(2) ? tree.allFiles() : tree.placeRoot(), below(2));
+            else if (action == 16)
+                tree.setChecked(tree.kindRoots()[below(9)], below(2));
+            else if (action == 17 && folders.size() > 1)
+                tree.setChecked(find(tree, folders[1 + below(folders.size() - 1)]), below(2));
+            else
+                tree.setChecked(find(tree, before.keys()[below(before.size())]), below(2));
+            if (tree.endStep()) {
+                done.append(differenceOf(before, checksOf(tree)));
+                undone.clear();
+                if (done.size() > MaxSteps)
+                    done.removeFirst();
+            }
+        }
+        const QString fault = faultOf(tree);
+        QVERIFY2(fault.isEmpty(), qPrintable(QString("turn %1: %2").arg(turn).arg(fault)));
+    }
+}
+
+/// Everything is checked by accident while the scan runs: one key takes it all back.
+void TestCheckHistory::newcomersGoWithTheStepThatTookThem()
+{
+    ItemTree tree;
+    tree.setVolumes({volume("card")});
+    tree.add({folder(1), item(2, 1, "a.jpg"), item(3, 1, "b.jpg"), item(4, -1, "c.txt"),
+              item(5, -1, "d.txt")});
+    tree.setChecked(find(tree, 5), true);
+
+    tree.beginStep();
+    tree.setChecked(tree.placeRoot(), true);
+    QVERIFY(tree.endStep());
+    tree.add({item(6, 1, "e.jpg"), folder(7, 1), item(8, 7, "f.jpg"), folder(9)});
+    QCOMPARE(tree.checkedFiles(), 6);
+
+    const CheckStep *step = tree.undo();
+    QVERIFY(step);
+    QCOMPARE(step->checkedFiles, 5);
+    QCOMPARE(tree.checkedFiles(), 1);
+    QCOMPARE(faultOf(tree), QString());
+    tree.add({item(10, 7, "g.jpg"), item(11, -1, "h.jpg")});
+    QCOMPARE(tree.checkedFiles(), 1);
+
+    QVERIFY(tree.redo());
+    QCOMPARE(tree.checkedFiles(), 6); // those that came meanwhile were never part of it
+    QCOMPARE(faultOf(tree), QString());
+    tree.add({item(12, 9, "i.jpg")}); // into a folder that is wholly checked again
+    QCOMPARE(tree.checkedFiles(), 7);
+    QVERIFY(tree.undo());
+    QCOMPARE(tree.checkedFiles(), 1);
+    QCOMPARE(faultOf(tree), QString());
+}
+
+void TestCheckHistory::aStepChangesMoreThanOneFile()
+{
+    ItemTree tree;
+    tree.setVolumes({volume("card")});
+    tree.add({folder(1), item(2, 1, "a.jpg"), folder(3), item(4, 3, "b.jpg"), item(5, 3, "c.jpg")});
+    const auto step = [&tree](qint64 id, bool checked) {
+        tree.beginStep();
+        tree.setChecked(find(tree, id), checked);
+        return tree.endStep();
+    };
+    QVERIFY(!step(1, true)); // one file
+    QVERIFY(step(3, true));
+    QVERIFY(!step(3, true)); // none
+    QVERIFY(tree.undo());
+    QVERIFY(!step(5, true));
+    QVERIFY(tree.canRedo()); // a single check does not end what can be redone
+    QVERIFY(step(3, true) == nullptr);
+    QVERIFY(tree.redo());
+    QVERIFY(tree.undo());
+    QCOMPARE(tree.checkedFiles(), 1);
+    QVERIFY(!tree.undo());
+}
+
+void TestCheckHistory::backAndForthIsNoChange()
+{
+    ItemTree tree;
+    tree.setVolumes({volume("card")});
+    tree.add({item(1, -1, "a.jpg"), item(2, -1, "b.jpg"), item(3, -1, "c.jpg")});
+    tree.setChecked(find(tree, 1), true);
+    tree.beginStep();
+    tree.invertChecks();
+    tree.invertChecks();
+    tree.setChecked(tree.allFiles(), true);
+    tree.setChecked(find(tree, 2), false);
+    QVERIFY(!tree.endStep()); // of three, only the third is another now
+}
+
+void TestCheckHistory::whatIsGoneIsForgotten()
+{
+    ItemTree tree;
+    tree.setVolumes({volume("card")});
+    tree.add({item(1, -1, "a.jpg"), item(2, -1, "b.jpg")});
+    tree.beginStep();
+    tree.setChecked(tree.allFiles(), true);
+    QVERIFY(tree.endStep());
+    tree.beginStep();
+    tree.clear();
+    QVERIFY(!tree.undo());
+    tree.setVolumes({volume("card")});
+    tree.add({item(1, -1, "a.jpg")});
+    QVERIFY(!tree.undo());
+    QCOMPARE(faultOf(tree), QString());
+}
+
+void TestCheckHistory::setsOfIndexes()
+{
+    QRandomGenerator random(11);
+    for (int round = 0; round < 20; ++round) {
+        IndexSet set;
+        QSet<int> plain;
+        const int end = 1 << (round % 12 + 1);
+        for (int i = 0; i < 500; ++i) {
+            const int index = 1000 + int(random.bounded(end));
+            if (random.bounded(3) == 0) {
+                set.remove(index);
+                plain.remove(index);
+            } else {
+                set.insert(index);
+                plain.insert(index);
+            }
+            if (i % 100 == 99)
+                set.squeeze();
+        }
+        QVector<int> visited;
+        set.forEach([&visited](int index) { visited.append(index); });
+        QVector<int> wanted(plain.begin(), plain.end());
+        std::sort(wanted.begin(), wanted.end());
+        QCOMPARE(visited, wanted);
+        QVERIFY(!set.contains(0) && !set.contains(100000));
+    }
+}
+
+void TestCheckHistory::aMillionFiles()
+{
+    ItemTree tree;
+    tree.setVolumes({volume("card")});
+    QVector<FoundItem> batch;
+    for (int id = 1; id <= 1000000; ++id) {
+        const qint64 holder = (id - 1) / 200 * 200 + 1;
+        batch.append(id == holder ? folder(id) : item(id, holder, QStringLiteral("a.jpg")));
+    }
+    tree.add(batch);
+    const auto inTime = [](const char *what, const std::function<void()> &work) {
+        QElapsedTimer clock;
+        clock.start();
+        work();
+        qInfo("%s: %lld ms", what, clock.elapsed());
+        return clock.elapsed() < 1000; // a tenth of that on a quiet machine
+    };
+    const int files = 1000000 - 5000;
+    QVERIFY(inTime("check all", [&tree] {
+        tree.beginStep();
+        tree.setChecked(tree.allFiles(), true);
+        tree.endStep();
+    }));
+    QCOMPARE(tree.checkedFiles(), files);
+    QVERIFY(inTime("undo", [&tree] { tree.undo(); }));
+    QCOMPARE(tree.checkedFiles(), 0);
+    QVERIFY(inTime("redo", [&tree] { tree.redo(); }));
+    QVERIFY(inTime("invert", [&tree] {
+        tree.beginStep();
+        tree.invertChecks();
+        tree.endStep();
+    }));
+    QCOMPARE(tree.checkedFiles(), 0);
+    QVERIFY(inTime("all photos", [&tree] { tree.setChecked(tree.kindRoots().first(), true); }));
+    QVERIFY(inTime("uncheck all", [&tree] { tree.uncheckAll(); }));
+    QCOMPARE(tree.placeRoot()->checkState, int(Qt::Unchecked));
+}
+
+QTEST_GUILESS_MAIN(TestCheckHistory)
+#include "tst_check_history.moc"
