@@ -21,14 +21,14 @@ public:
     void setState(int state);
     /// Loads the button's picture again, after a theme change.
     void refresh();
+    /// As if the user had clicked for this state.
+    void choose(Qt::CheckState state);
 
 signals:
     /// All controls show \a state already.
     void clicked(Qt::CheckState state);
 
 private:
-    void choose(Qt::CheckState state);
-
     QPushButton *m_button;
     HeaderView *m_bar;
     ScanTableHeader *m_header;

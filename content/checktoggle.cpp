@@ -10,27 +10,49 @@ bool takesClicks(const TreeItemData &item)
     return item.kind == ItemKind::File || (ItemKind::isFolderLike(item.kind) && item.itemCount > 0);
 }
 
+/// Many short runs are announced as what lies between the first and the last.
+void announce(ScanDataModel &model, const QVector<SelectedRows::Run> &rows)
+{
+    constexpr int FewRanges = 16;
+    if (rows.size() > FewRanges) {
+        model.refreshCheckStates(rows.first().first, rows.last().last);
+        return;
+    }
+    for (const SelectedRows::Run &run : rows)
+        model.refreshCheckStates(run.first, run.last);
+}
+
 } // namespace
 
 namespace CheckToggle {
 
-Result toggle(ScanDataModel &model, const QModelIndexList &indexes)
+Result toggle(ScanDataModel &model, const QVector<SelectedRows::Run> &rows)
 {
     Result result;
     bool allChecked = true;
-    for (const QModelIndex &index : indexes) {
-        TreeItemData *item = model.itemAt(index);
-        if (!item || !takesClicks(*item))
-            continue;
-        result.items.append(item);
-        allChecked = allChecked && item->checkState == Qt::Checked;
+    for (const SelectedRows::Run &run : rows) {
+        model.visitRows(run.first, run.last, [&](TreeItemData &item) {
+            if (!takesClicks(item))
+                return;
+            result.items.emplace_back(&item);
+            allChecked = allChecked && item.checkState == Qt::Checked;
+        });
     }
     result.state = allChecked ? Qt::Unchecked : Qt::Checked;
-    for (const auto &item : qAsConst(result.items))
+    for (const auto &item : result.items)
         item->checkState = result.state;
-    if (!result.items.isEmpty())
-        model.refreshCheckStates();
+    if (!result.items.empty())
+        announce(model, rows);
     return result;
+}
+
+Qt::CheckState nextForAll(const ScanDataModel &model)
+{
+    bool allChecked = true;
+    model.visitRows(0, model.rowCount() - 1, [&](const TreeItemData &item) {
+        allChecked = allChecked && item.checkState == Qt::Checked;
+    });
+    return allChecked ? Qt::Unchecked : Qt::Checked;
 }
 
 Qt::CheckState ofChildren(const TreeItemData &root)

@@ -4,6 +4,7 @@
 #include "content/listmode.h"
 #include "content/overlayscrollbar.h"
 #include "content/scantableview.h"
+#include "content/selectedrows.h"
 #include "content/thumbnailgrid.h"
 #include "content/viewkeys.h"
 #include "delegates/listdelegate.h"
@@ -105,14 +106,12 @@ QAbstractItemView *ContentViews::inUse() const
 
 QList<TreeItemData *> ContentViews::selectedItems() const
 {
-    const QModelIndexList indexes = m_mode == GridOnly
-        ? m_grid->selectedIndexes()
-        : m_list->table()->selectionModel()->selectedRows();
+    const QVector<SelectedRows::Run> runs = SelectedRows::runs(
+        m_mode == GridOnly ? m_grid->selection() : inUse()->selectionModel()->selection());
     QList<TreeItemData *> items;
-    items.reserve(indexes.size());
-    for (const QModelIndex &index : indexes) {
-        if (TreeItemData *item = m_model->itemAt(index))
-            items.append(item);
+    for (const SelectedRows::Run &run : runs) {
+        m_model->visitRows(run.first, run.last,
+                           [&items](TreeItemData &item) { items.append(&item); });
     }
     return items;
 }

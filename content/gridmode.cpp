@@ -1,6 +1,7 @@
 #include "content/gridmode.h"
 
 #include "content/overlayscrollbar.h"
+#include "content/selectedrows.h"
 #include "content/thumbnailgrid.h"
 #include "delegates/icondelegate.h"
 #include "model/scandatamodel.h"
@@ -77,13 +78,14 @@ void GridMode::showThumbnail(qint64 fileId)
     m_view->repaintMatching(FileIdRole, fileId);
 }
 
-QModelIndexList GridMode::selectedIndexes() const
+QItemSelection GridMode::selection() const
 {
-    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
-    if (selected.size() > 1)
+    const QItemSelection selected = m_view->selectionModel()->selection();
+    const int count = SelectedRows::count(selected);
+    if (count > 1)
         return selected;
-    const QModelIndexList marked = m_delegate->markedIndexes();
-    return marked.size() > selected.size() ? marked : selected;
+    const QItemSelection marked = m_delegate->markedSelection();
+    return SelectedRows::count(marked) > count ? marked : selected;
 }
 
 void GridMode::forgetMultiSelection()
@@ -106,17 +108,18 @@ void GridMode::onPressed(const QModelIndex &index)
 
 void GridMode::onSelectionChanged(const QItemSelection &selected)
 {
-    const QModelIndexList indexes = m_view->selectionModel()->selectedIndexes();
-    if (indexes.size() > 1) {
-        m_delegate->setMarkedIndexes(indexes);
-        qDebug() << "selectionChanged:" << indexes.size();
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    const int count = SelectedRows::count(selection);
+    if (count > 1) {
+        m_delegate->setMarkedSelection(selection);
+        qDebug() << "selectionChanged:" << count;
     }
-    qDebug() << "selected.indexes() :" << selected.indexes().size();
+    qDebug() << "selected.indexes() :" << SelectedRows::count(selected);
 }
 
 void GridMode::onMultiSelectEvent()
 {
-    const QModelIndexList indexes = m_view->selectionModel()->selectedIndexes();
-    m_delegate->setMarkedIndexes(indexes);
-    qDebug() << "signalMutilSelectEvent:" << indexes.size();
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    m_delegate->setMarkedSelection(selection);
+    qDebug() << "signalMutilSelectEvent:" << SelectedRows::count(selection);
 }

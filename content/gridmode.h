@@ -26,7 +26,7 @@ public:
     /// Repaints the card of this file.
     void showThumbnail(qint64 fileId);
     /// What is selected; the cards of the last multi-selection where the view has one at most.
-    QModelIndexList selectedIndexes() const;
+    QItemSelection selection() const;
     void forgetMultiSelection();
 
 signals:

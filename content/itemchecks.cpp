@@ -31,19 +31,33 @@ void ItemChecks::setAll(Qt::CheckState state)
     });
 }
 
+bool ItemChecks::isLargeWholeTree(const QVector<SelectedRows::Run> &rows) const
+{
+    // The host hears of each item as far as that is bearable, and select-all also means what the
+    // root has not delivered yet.
+    constexpr int Large = 1000;
+    const int count = m_model->rowCount();
+    return m_root && count >= Large && m_root->itemCount <= count && rows.size() == 1
+        && rows.first().first == 0 && rows.first().last == count - 1;
+}
+
 void ItemChecks::toggleSelected(const QModelIndex &current)
 {
-    const QItemSelectionModel *selection = m_views->inUse()->selectionModel();
-    QModelIndexList indexes = m_views->mode() == ContentViews::GridOnly
-        ? selection->selectedIndexes()
-        : selection->selectedRows();
-    if (indexes.isEmpty() && current.isValid())
-        indexes = {current};
-    const CheckToggle::Result toggled = CheckToggle::toggle(*m_model, indexes);
-    for (const auto &item : toggled.items) {
-        if (item) // a slot of the host may have replaced the tree
-            emit itemChecked(item, toggled.state);
-    }
+    guarded(Q_FUNC_INFO, [&] {
+        QVector<SelectedRows::Run> rows = SelectedRows::runs(
+            m_views->inUse()->selectionModel()->selection());
+        if (rows.isEmpty() && current.isValid())
+            rows = {{current.row(), current.row()}};
+        if (isLargeWholeTree(rows)) {
+            m_control->choose(CheckToggle::nextForAll(*m_model));
+            return;
+        }
+        const CheckToggle::Result toggled = CheckToggle::toggle(*m_model, rows);
+        for (const auto &item : toggled.items) {
+            if (item) // a slot of the host may have replaced the tree
+                emit itemChecked(item, toggled.state);
+        }
+    });
 }
 
 void ItemChecks::refresh()

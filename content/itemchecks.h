@@ -1,5 +1,6 @@
 #pragma once
 
+#include "content/selectedrows.h"
 #include "platform/item/treeitemdata.h"
 
 #include <QObject>
@@ -23,7 +24,8 @@ public:
     /// The top of the tree that is shown; null: none is.
     void setRoot(TreeItemData *root) { m_root = root; }
 
-    /// Checks or unchecks the selected items together; \a current where nothing is selected.
+    /// Checks or unchecks the selected items together; \a current where nothing is selected. Each
+    /// is announced, but for a large tree that is selected as a whole: that is select-all.
     void toggleSelected(const QModelIndex &current);
     /// The host has changed check states: shows them, and the root's on the select-all control.
     void refresh();
@@ -36,6 +38,7 @@ signals:
 
 private:
     void setAll(Qt::CheckState state);
+    bool isLargeWholeTree(const QVector<SelectedRows::Run> &rows) const;
 
     ScanDataModel *m_model;
     ContentViews *m_views;

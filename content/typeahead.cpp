@@ -3,6 +3,22 @@
 #include <QAbstractItemModel>
 #include <QApplication>
 
+namespace {
+
+/// A row whose record has died has no index to start from.
+QModelIndex firstIndexFrom(const QAbstractItemModel &model, int row)
+{
+    const int rows = model.rowCount();
+    for (int step = 0; step < rows; ++step) {
+        const QModelIndex index = model.index((row + step) % rows, 0);
+        if (index.isValid())
+            return index;
+    }
+    return {};
+}
+
+} // namespace
+
 int TypeAhead::search(const QString &letters, const QAbstractItemModel &model, int currentRow)
 {
     const bool goesOn = m_sinceLastLetter.isValid()
@@ -13,17 +29,17 @@ int TypeAhead::search(const QString &letters, const QAbstractItemModel &model, i
     if (m_typed.isEmpty())
         return -1;
     const bool sameLetter = m_typed.count(m_typed.at(0), Qt::CaseInsensitive) == m_typed.size();
-    const QString wanted = sameLetter ? m_typed.left(1) : m_typed;
-
-    const int rows = model.rowCount();
     // more letters may still mean the item that the first ones have found
     const int first = currentRow < 0 ? 0 : currentRow + (sameLetter ? 1 : 0);
-    for (int i = 0; i < rows; ++i) {
-        const int row = (first + i) % rows;
-        const QModelIndex index = model.index(row, 0);
-        if (index.isValid()
-            && index.data(Qt::DisplayRole).toString().startsWith(wanted, Qt::CaseInsensitive))
-            return row;
-    }
-    return -1;
+    const QModelIndex start = firstIndexFrom(model, first);
+    if (!start.isValid())
+        return -1;
+    // the model knows a quicker way than to ask for each name
+    const auto match = [&](const QString &text) {
+        return model.match(start, Qt::DisplayRole, text, 1, Qt::MatchStartsWith | Qt::MatchWrap);
+    };
+    QModelIndexList found = match(m_typed);
+    if (found.isEmpty() && sameLetter)
+        found = match(m_typed.left(1));
+    return found.isEmpty() ? -1 : found.first().row();
 }

@@ -40,9 +40,12 @@ public:
 
     /// Cards of one model that show the selected look beside those the view has selected.
     void setMarkedIndexes(const QModelIndexList &indexes) { m_marked.set(indexes); }
+    /// The same by ranges of rows, for a selection of any length.
+    void setMarkedSelection(const QItemSelection &selection) { m_marked.set(selection); }
     void clearMarkedIndexes() { m_marked.clear(); }
     /// By rows, without those that have gone from the model.
     QModelIndexList markedIndexes() const { return m_marked.indexes(); }
+    QItemSelection markedSelection() const { return m_marked.selection(); }
 
     /// The current card. Set by presses; to be set by the owner when the current item changes in
     /// another way (keyboard), and to an invalid index when another folder is shown: then the first

@@ -4,13 +4,14 @@
 
 void MarkedCards::set(const QModelIndexList &indexes)
 {
-    clear(); // first: select() compares with what was selected, range by range
     QModelIndexList sorted = indexes;
     sorted.erase(std::remove_if(sorted.begin(), sorted.end(),
                                 [](const QModelIndex &index) { return !index.isValid(); }),
                  sorted.end());
-    if (sorted.isEmpty())
+    if (sorted.isEmpty()) {
+        clear();
         return;
+    }
     if (!std::is_sorted(sorted.cbegin(), sorted.cend()))
         std::sort(sorted.begin(), sorted.end());
 
@@ -26,8 +27,16 @@ void MarkedCards::set(const QModelIndexList &indexes)
     }
     ranges.append(QItemSelectionRange(first, last));
 
-    auto *model = const_cast<QAbstractItemModel *>(first.model());
+    set(ranges);
+}
+
+void MarkedCards::set(const QItemSelection &selection)
+{
+    clear(); // first: select() compares with what was selected, range by range
+    if (selection.isEmpty())
+        return;
+    auto *model = const_cast<QAbstractItemModel *>(selection.first().model());
     if (m_selection.model() != model)
         m_selection.setModel(model);
-    m_selection.select(ranges, QItemSelectionModel::Select);
+    m_selection.select(selection, QItemSelectionModel::Select);
 }

@@ -2,12 +2,12 @@
 
 #include "common/translation.h"
 #include "model/itemtext.h"
+#include "model/nameletters.h"
 #include "model/recordcheck.h"
 
 #include <QFileInfo>
 #include <QHash>
 #include <QIcon>
-#include <QMutexLocker>
 
 #include <algorithm>
 
@@ -71,6 +71,11 @@ TreeItemData *plausible(TreeItemData *record)
     return isPlausible(record) ? record : nullptr;
 }
 
+quint32 lettersOf(const TreeItemData *record)
+{
+    return record ? NameLetters::of(record->name) : 0;
+}
+
 } // namespace
 
 ScanDataModel::ScanDataModel(QObject *parent)
@@ -100,6 +105,7 @@ void ScanDataModel::clear()
     const QMutexLocker lock(&m_lock);
     beginResetModel();
     std::vector<Guard>().swap(m_items);
+    std::vector<quint32>().swap(m_letters);
     RowSort::Order().swap(m_order);
     m_folderCount = 0;
     m_unchangedPrefix = 0;
@@ -118,8 +124,10 @@ void ScanDataModel::takeChildren(const TreeItemData &folder)
     const size_t newFolders = size_t(folder.childFolders.size());
     const size_t newFiles = size_t(folder.childFiles.size());
     const size_t newSize = newFolders + newFiles;
-    if (m_items.capacity() < newSize)
+    if (m_items.capacity() < newSize) {
         m_items.reserve(newSize + newSize / 8); // a scan comes back for more
+        m_letters.reserve(newSize + newSize / 8);
+    }
     const size_t sameFiles = replacePart(oldFolders, oldFiles, folder.childFiles);
     const size_t sameFolders = replacePart(0, oldFolders, folder.childFolders);
     m_folderCount = newFolders;
@@ -166,15 +174,22 @@ size_t ScanDataModel::replacePart(size_t first, size_t size, const QList<TreeIte
         if (m_items[first + i].data() == child)
             continue;
         m_items[first + i] = child;
+        m_letters[first + i] = lettersOf(child);
         same = std::min(same, i);
     }
     const auto begin = m_items.begin() + std::ptrdiff_t(first);
+    const auto letters = m_letters.begin() + std::ptrdiff_t(first);
     if (newSize < size) {
         m_items.erase(begin + std::ptrdiff_t(newSize), begin + std::ptrdiff_t(size));
+        m_letters.erase(letters + std::ptrdiff_t(newSize), letters + std::ptrdiff_t(size));
     } else if (newSize > size) {
-        const auto at = m_items.insert(begin + std::ptrdiff_t(size), newSize - size, Guard());
-        std::transform(children.begin() + int(size), children.end(), at,
-                       [](TreeItemData *child) { return Guard(plausible(child)); });
+        auto guard = m_items.insert(begin + std::ptrdiff_t(size), newSize - size, Guard());
+        auto letter = m_letters.insert(letters + std::ptrdiff_t(size), newSize - size, 0);
+        for (size_t i = size; i < newSize; ++i) {
+            TreeItemData *const child = plausible(children.at(int(i)));
+            *guard++ = child;
+            *letter++ = lettersOf(child);
+        }
     }
     return same;
 }
@@ -264,21 +279,22 @@ void ScanDataModel::setAllCheckStates(int state)
                 item->checkState = state;
         }
     }
-    announceCheckStates();
+    refreshCheckStates();
 }
 
 void ScanDataModel::refreshCheckStates()
 {
-    announceCheckStates();
+    refreshCheckStates(0, rowCount() - 1);
 }
 
-void ScanDataModel::announceCheckStates()
+void ScanDataModel::refreshCheckStates(int first, int last)
 {
-    const int rows = rowCount();
-    if (rows == 0)
+    first = std::max(first, 0);
+    last = std::min(last, rowCount() - 1);
+    if (first > last)
         return;
     // not index(): it is invalid where a record has died, and then nothing would be repainted
-    emit dataChanged(createIndex(0, 0), createIndex(rows - 1, ColumnCount - 1),
+    emit dataChanged(createIndex(first, 0), createIndex(last, ColumnCount - 1),
                      {Qt::CheckStateRole});
 }
 
@@ -383,6 +399,37 @@ bool ScanDataModel::setData(const QModelIndex &index, const QVariant &value, int
     }
     emit dataChanged(index, index, {Qt::CheckStateRole});
     return false;
+}
+
+QModelIndexList ScanDataModel::match(const QModelIndex &start, int role, const QVariant &value,
+                                     int hits, Qt::MatchFlags flags) const
+{
+    const bool isName = role == NameRole
+        || (role == Qt::DisplayRole && start.column() == NameColumn);
+    if (!start.isValid() || !isName || hits != 1 || flags != (Qt::MatchStartsWith | Qt::MatchWrap))
+        return QAbstractItemModel::match(start, role, value, hits, flags);
+    const QModelIndex found = index(rowOfName(value.toString(), start.row()), start.column());
+    return found.isValid() ? QModelIndexList{found} : QModelIndexList();
+}
+
+int ScanDataModel::rowOfName(const QString &text, int from) const
+{
+    const NameLetters::Pattern pattern(text);
+    const QMutexLocker lock(&m_lock);
+    const auto search = [&](size_t row, size_t end) {
+        for (; row < end; ++row) {
+            const size_t position = positionOf(row);
+            if (!pattern.fits(m_letters[position]))
+                continue;
+            const TreeItemData *const item = m_items[position].data();
+            if (item && item->name.startsWith(text, Qt::CaseInsensitive))
+                return int(row);
+        }
+        return -1;
+    };
+    const size_t first = size_t(from);
+    const int row = search(first, m_items.size());
+    return row >= 0 ? row : search(0, std::min(first, m_items.size()));
 }
 
 QVariant ScanDataModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemModel>
 #include <QMutex>
+#include <QMutexLocker>
 #include <QPointer>
 #include <QVector>
 
@@ -58,6 +59,12 @@ public:
     void setAllCheckStates(int state);
     /// The host has changed check states: announces all rows as one range.
     void refreshCheckStates();
+    /// The same for the rows \a first to \a last.
+    void refreshCheckStates(int first, int last);
+    /// Hands the living records of the rows \a first to \a last to \a visit, in one sweep. \a visit
+    /// must leave the model alone.
+    template <typename Visit>
+    void visitRows(int first, int last, Visit visit) const;
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     QModelIndex parent(const QModelIndex &index) const override;
@@ -68,6 +75,9 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     /// Writes a check state; returns false always, as callers may not rely on the result.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    /// Names are found without reading them all, which is what a view does when the user types.
+    QModelIndexList match(const QModelIndex &start, int role, const QVariant &value, int hits,
+                          Qt::MatchFlags flags) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
@@ -79,19 +89,21 @@ private:
     /// Makes the \a size guards from \a first on those of \a children. Returns how many of the
     /// first ones were right already.
     size_t replacePart(size_t first, size_t size, const QList<TreeItemData *> &children);
+    /// The first row from \a from on, and then from the top, whose name begins with \a text.
+    int rowOfName(const QString &text, int from) const;
     RowSort::Order sortedOrder(const RowSort::Order &known) const;
     /// Gives persistent indexes the rows that their records have now.
     void remapPersistentIndexes(const RowSort::Order &previous);
     QVariant displayText(const TreeItemData &item, int column) const;
-    void announceCheckStates();
 
     const Guard &guardAt(size_t row) const { return m_items[positionOf(row)]; }
     size_t positionOf(size_t row) const { return m_order.empty() ? row : m_order[row]; }
     template <typename Matches>
     int findRow(Matches matches) const;
 
-    std::vector<Guard> m_items; ///< in the host's order: folders, then files
-    RowSort::Order m_order;     ///< position in m_items by row; empty: the same
+    std::vector<Guard> m_items;     ///< in the host's order: folders, then files
+    std::vector<quint32> m_letters; ///< of the names, as they were when the records were listed
+    RowSort::Order m_order;         ///< position in m_items by row; empty: the same
     size_t m_folderCount = 0;
     int m_sortRole = NameRole;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
@@ -100,3 +112,14 @@ private:
     int m_unchangedPrefix = 0;
     bool m_sorted = false;
 };
+
+template <typename Visit>
+void ScanDataModel::visitRows(int first, int last, Visit visit) const
+{
+    const QMutexLocker lock(&m_lock);
+    const size_t end = size_t(qBound(0, last + 1, int(m_items.size())));
+    for (size_t row = size_t(qMax(0, first)); row < end; ++row) {
+        if (TreeItemData *const item = guardAt(row).data())
+            visit(*item);
+    }
+}

@@ -1,0 +1,198 @@
+// Space on large selections, and what a host gets to read of them.
+#include "content/scantableview.h"
+#include "content/sdcardcontentdatawidget.h"
+#include "content/thumbnailgrid.h"
+#include "support/recordtree.h"
+
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using Content = SDCardContentDataWidget;
+
+namespace {
+
+constexpr int Many = 3000;
+
+} // namespace
+
+class TestBulkChecks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void wholeTreeIsOneAnnouncement_data();
+    void wholeTreeIsOneAnnouncement();
+    void partIsAnnouncedItemByItem_data();
+    void partIsAnnouncedItemByItem();
+    void deadRecordsAreLeftOut();
+    void hostMayReplaceTheTreeWhenTold();
+    void selectionIsReadBackByRows();
+
+private:
+    QAbstractItemView *view(int mode)
+    {
+        if (mode == 0)
+            return widget->findChild<ThumbnailGrid *>();
+        return widget->findChild<ScanTableView *>();
+    }
+    QAbstractItemModel *model() { return view(0)->model(); }
+    void select(QAbstractItemView *in, int first, int last)
+    {
+        in->selectionModel()->select({model()->index(first, 0), model()->index(last, 0)},
+                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+    int checkedCount() const
+    {
+        int count = 0;
+        for (const TreeItemData *file : tree->root.childFiles)
+            count += file->checkState == Qt::Checked ? 1 : 0;
+        return count;
+    }
+
+    std::unique_ptr<RecordTree> tree;
+    std::unique_ptr<Content> widget;
+};
+
+void TestBulkChecks::init()
+{
+    qRegisterMetaType<Qt::CheckState>("Qt::CheckState");
+    tree = std::make_unique<RecordTree>();
+    tree->addFiles(Many);
+    widget = std::make_unique<Content>(2);
+    widget->resize(700, 500);
+    widget->show();
+    QVERIFY(QTest::qWaitForWindowExposed(widget.get()));
+    widget->updateData(&tree->root, QString());
+}
+
+void TestBulkChecks::cleanup()
+{
+    widget.reset();
+    tree.reset();
+}
+
+void TestBulkChecks::wholeTreeIsOneAnnouncement_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("searchMode");
+    QTest::addColumn<int>("checkedBefore");
+    QTest::addColumn<int>("state");
+    QTest::newRow("grid") << 0 << false << 0 << int(Qt::Checked);
+    QTest::newRow("grid, some checked") << 0 << false << 7 << int(Qt::Checked);
+    QTest::newRow("grid, all checked") << 0 << false << Many << int(Qt::Unchecked);
+    QTest::newRow("list") << 2 << false << 0 << int(Qt::Checked);
+    QTest::newRow("results of a search") << 0 << true << 0 << int(Qt::Checked);
+}
+
+void TestBulkChecks::wholeTreeIsOneAnnouncement()
+{
+    QFETCH(int, mode);
+    QFETCH(bool, searchMode);
+    QFETCH(int, checkedBefore);
+    QFETCH(int, state);
+    widget->setViewMode(mode);
+    widget->setSearchMode(searchMode);
+    for (int i = 0; i < checkedBefore; ++i)
+        tree->root.childFiles.at(i)->checkState = Qt::Checked;
+    QSignalSpy items(widget.get(), &Content::signalItemDataCheck);
+    QSignalSpy search(widget.get(), &Content::signalSearchSelectAllChecked);
+    QSignalSpy changed(model(), &QAbstractItemModel::dataChanged);
+    QTest::keyClick(view(mode), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(view(mode), Qt::Key_Space);
+
+    QCOMPARE(checkedCount(), state == Qt::Checked ? Many : 0);
+    QCOMPARE(tree->root.checkState, state);
+    QCOMPARE(items.count(), searchMode ? 0 : 1);
+    QCOMPARE(search.count(), searchMode ? 1 : 0);
+    if (!searchMode)
+        QCOMPARE(items.first().first().value<TreeItemData *>(), &tree->root);
+    QCOMPARE(changed.count(), 1);
+    const auto *button = widget->findChild<QPushButton *>(QStringLiteral("allCheckButton"));
+    QCOMPARE(button->property("checkstate").toInt(), state);
+}
+
+void TestBulkChecks::partIsAnnouncedItemByItem_data()
+{
+    QTest::addColumn<bool>("whole");
+    QTest::addColumn<int>("last");
+    QTest::newRow("all but one") << false << Many - 2;
+    // select-all would also mean what is still to come
+    QTest::newRow("all of what has been delivered") << true << Many - 1;
+}
+
+void TestBulkChecks::partIsAnnouncedItemByItem()
+{
+    QFETCH(bool, whole);
+    QFETCH(int, last);
+    if (whole)
+        tree->root.itemCount = 2 * Many;
+    TreeItemData *empty = tree->addFolder(QStringLiteral("EMPTY"));
+    widget->updateData(&tree->root, QString());
+    const int files = last + 1;
+    select(view(0), 0, last + 1); // the folder comes first
+    QSignalSpy items(widget.get(), &Content::signalItemDataCheck);
+    QSignalSpy changed(model(), &QAbstractItemModel::dataChanged);
+    QTest::keyClick(view(0), Qt::Key_Space);
+
+    QCOMPARE(items.count(), files);
+    QCOMPARE(items.at(5).first().value<TreeItemData *>(), tree->root.childFiles.at(5));
+    QCOMPARE(checkedCount(), files);
+    QCOMPARE(empty->checkState, int(Qt::Unchecked));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.first().at(1).toModelIndex().row(), last + 1);
+}
+
+void TestBulkChecks::deadRecordsAreLeftOut()
+{
+    const QList<TreeItemData *> files = tree->root.childFiles;
+    for (int row : {0, 1, 50, Many - 1})
+        tree->kill(files.at(row));
+    select(view(0), 2, Many - 2);
+    QSignalSpy items(widget.get(), &Content::signalItemDataCheck);
+    QTest::keyClick(view(0), Qt::Key_Space);
+    QCOMPARE(items.count(), Many - 4);
+    QCOMPARE(widget->selectedItems().size(), Many - 4);
+    QCOMPARE(files.at(2)->checkState, int(Qt::Checked));
+    QCOMPARE(files.at(Many - 2)->checkState, int(Qt::Checked));
+    tree->root.childFiles = {files.at(2)}; // the others are not for the test to read
+}
+
+void TestBulkChecks::hostMayReplaceTheTreeWhenTold()
+{
+    RecordTree other;
+    other.addFiles(5);
+    other.root.secondaryId = 99;
+    int told = 0;
+    connect(widget.get(), &Content::signalItemDataCheck, this, [&] {
+        if (++told == 10) {
+            widget->updateData(&other.root, QString());
+            tree->clear();
+        }
+    });
+    select(view(0), 0, Many - 2);
+    QTest::keyClick(view(0), Qt::Key_Space);
+    QCOMPARE(told, 10); // the rest has died
+    QCOMPARE(model()->rowCount(), 5);
+    disconnect(widget.get(), &Content::signalItemDataCheck, this, nullptr);
+}
+
+void TestBulkChecks::selectionIsReadBackByRows()
+{
+    const QList<TreeItemData *> files = tree->root.childFiles;
+    select(view(0), 2000, 2001);
+    select(view(0), 10, 12);
+    const QList<TreeItemData *> expected = {files.at(10), files.at(11), files.at(12),
+                                            files.at(2000), files.at(2001)};
+    QCOMPARE(widget->selectedItems(), expected);
+    // one item in the view at most: then the cards of the last multi-selection count
+    view(0)->selectionModel()->select(model()->index(5, 0), QItemSelectionModel::ClearAndSelect);
+    QCOMPARE(widget->selectedItems(), expected);
+    view(0)->selectAll();
+    QCOMPARE(widget->selectedItems(), files);
+}
+
+QTEST_MAIN(TestBulkChecks)
+#include "tst_bulkchecks.moc"

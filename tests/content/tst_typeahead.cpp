@@ -1,0 +1,177 @@
+#include "content/scantableview.h"
+#include "content/thumbnailgrid.h"
+#include "model/scandatamodel.h"
+#include "support/recordtree.h"
+
+#include <QApplication>
+#include <QRandomGenerator>
+#include <QStandardItemModel>
+#include <QTest>
+
+#include <limits>
+
+namespace {
+
+QString randomName(QRandomGenerator &random, const QString &alphabet, int longest)
+{
+    QString name;
+    for (int size = 1 + random.bounded(longest); size > 0; --size)
+        name += alphabet.at(random.bounded(alphabet.size()));
+    return name;
+}
+
+/// The next letter has nothing to do with those before.
+void startAnew()
+{
+    QApplication::setKeyboardInputInterval(0);
+    QTest::qSleep(2);
+}
+
+} // namespace
+
+class TestTypeAhead : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { QApplication::setKeyboardInputInterval(400); }
+    void sameAsStockView_data();
+    void sameAsStockView();
+    void modelFindsWhatReadingFinds_data();
+    void modelFindsWhatReadingFinds();
+    void lettersGoOnWhileResultsStreamIn();
+    void listIsSearchedByName();
+};
+
+void TestTypeAhead::sameAsStockView_data()
+{
+    QTest::addColumn<QString>("alphabet");
+    QTest::newRow("two letters") << "ab";
+    QTest::newRow("letters and digits") << "abc_1";
+}
+
+void TestTypeAhead::sameAsStockView()
+{
+    QFETCH(QString, alphabet);
+    QRandomGenerator random(7);
+    QStandardItemModel model;
+    for (int i = 0; i < 60; ++i)
+        model.appendRow(new QStandardItem(randomName(random, alphabet, 4)));
+    ThumbnailGrid grid;
+    QListView stock;
+    for (QListView *view : {static_cast<QListView *>(&grid), &stock})
+        view->setModel(&model);
+
+    QString before;
+    for (int step = 0; step < 600; ++step) {
+        QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
+        const QString letter = alphabet.at(random.bounded(alphabet.size()));
+        // the stock view stays where it is when a letter is typed again and again
+        if (letter == before || random.bounded(3) == 0)
+            startAnew();
+        before = letter;
+        grid.keyboardSearch(letter);
+        stock.keyboardSearch(letter);
+        QCOMPARE(grid.currentIndex(), stock.currentIndex());
+    }
+}
+
+void TestTypeAhead::modelFindsWhatReadingFinds_data()
+{
+    QTest::addColumn<QString>("alphabet");
+    QTest::newRow("letters of both cases") << "aAbB";
+    QTest::newRow("digits") << "IMG_0123456789";
+    QTest::newRow("longer when lowered") << QString::fromUtf8("İiIı̇ßẞsS");
+    QTest::newRow("many scripts") << QString::fromUtf8("ÄäéΩωςσЖж文件ü9");
+    QTest::newRow("beyond the basic plane") << QString::fromUtf8("😀𐐀𐐨z");
+}
+
+void TestTypeAhead::modelFindsWhatReadingFinds()
+{
+    QFETCH(QString, alphabet);
+    QRandomGenerator random(3);
+    RecordTree tree;
+    for (int i = 0; i < 300; ++i)
+        tree.addFile(randomName(random, alphabet, 14));
+    ScanDataModel model;
+    model.openFolder(&tree.root);
+    tree.addFiles(20, QStringLiteral("b%1"));
+    model.openFolder(&tree.root); // grown
+    for (int i = 5; i < 300; i += 9)
+        tree.kill(tree.root.childFiles.at(i));
+
+    const Qt::MatchFlags flags = Qt::MatchStartsWith | Qt::MatchWrap;
+    for (const bool sorted : {false, true}) {
+        if (sorted)
+            model.sort(ScanDataModel::SizeColumn, Qt::DescendingOrder);
+        for (int i = 0; i < 500; ++i) {
+            const QModelIndex start = model.index(random.bounded(model.rowCount()), 0);
+            if (!start.isValid())
+                continue;
+            // often the beginning of a name that is there, in whatever case
+            const TreeItemData *some = model.itemAt(random.bounded(model.rowCount()));
+            QString text = some && random.bounded(2) > 0
+                ? some->name.left(1 + random.bounded(some->name.size()))
+                : randomName(random, alphabet, 3);
+            if (random.bounded(2) > 0)
+                text = text.toUpper();
+            QCOMPARE(model.match(start, Qt::DisplayRole, text, 1, flags),
+                     model.QAbstractItemModel::match(start, Qt::DisplayRole, text, 1, flags));
+        }
+    }
+}
+
+void TestTypeAhead::lettersGoOnWhileResultsStreamIn()
+{
+    RecordTree tree;
+    for (const char *name : {"alpha", "beta", "bravo", "brook"})
+        tree.addFile(QLatin1String(name));
+    ScanDataModel model;
+    model.openFolder(&tree.root);
+    ThumbnailGrid grid;
+    grid.setModel(&model);
+    QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
+    grid.keyboardSearch(QStringLiteral("b"));
+    QCOMPARE(grid.currentIndex().row(), 1);
+    tree.addFile(QStringLiteral("aardvark"));
+    model.openFolder(&tree.root);
+    grid.setCurrentIndex(model.index(1, 0));
+    grid.keyboardSearch(QStringLiteral("r"));
+    QCOMPARE(grid.currentIndex().row(), 2);
+    grid.keyboardSearch(QStringLiteral("O"));
+    QCOMPARE(grid.currentIndex().row(), 3);
+    grid.keyboardSearch(QStringLiteral("q")); // nothing fits: it stays
+    QCOMPARE(grid.currentIndex().row(), 3);
+    startAnew();
+    grid.keyboardSearch(QStringLiteral("a"));
+    QCOMPARE(grid.currentIndex().row(), 4);
+    QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
+    grid.keyboardSearch(QStringLiteral("a")); // the whole name counts first
+    QCOMPARE(grid.currentIndex().row(), 4);
+    startAnew();
+    for (int row : {1, 2, 3, 1}) { // one letter again and again steps through
+        grid.keyboardSearch(QStringLiteral("b"));
+        QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
+        QCOMPARE(grid.currentIndex().row(), row);
+    }
+}
+
+void TestTypeAhead::listIsSearchedByName()
+{
+    RecordTree tree;
+    for (const char *name : {"zulu", "1998.jpg", "echo"})
+        tree.addFile(QLatin1String(name));
+    ScanDataModel model;
+    model.openFolder(&tree.root);
+    ScanTableView table;
+    table.setModel(&model);
+    table.setCurrentIndex(model.index(0, ScanDataModel::SizeColumn));
+    QTest::keyClick(&table, Qt::Key_1);
+    startAnew();
+    QCOMPARE(table.currentIndex().row(), 1);
+    QTest::keyClick(&table, Qt::Key_E);
+    QCOMPARE(table.currentIndex().row(), 2);
+}
+
+QTEST_MAIN(TestTypeAhead)
+#include "tst_typeahead.moc"
