@@ -104,6 +104,18 @@ void HeaderLook::paintHairline(QPainter *painter, const QRect &header) const
     painter->fillRect(header.left(), header.bottom(), header.width(), 1, m_hairline);
 }
 
+void HeaderLook::paintFocus(QPainter *painter, const QRect &part) const
+{
+    constexpr qreal Radius = 4;
+    constexpr qreal Width = 2;
+    constexpr qreal Inset = Width / 2 + 1;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(QColor(65, 132, 248), Width));
+    painter->drawRoundedRect(QRectF(part).adjusted(Inset, Inset, -Inset, -Inset), Radius, Radius);
+    painter->restore();
+}
+
 const QPixmap &HeaderLook::checkPixmap(int checkState) const
 {
     switch (checkState) {

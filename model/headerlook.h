@@ -28,6 +28,8 @@ public:
     /// Takes colours and pictures of the theme that is set now.
     void updateTheme();
     void paint(QPainter *painter, const HeaderSection &section, const Heading &heading) const;
+    /// Around the part of the header that the keyboard acts on.
+    void paintFocus(QPainter *painter, const QRect &part) const;
     /// Under all of the header, beside its sections too.
     void paintHairline(QPainter *painter, const QRect &header) const;
 

@@ -5,7 +5,9 @@
 #include "common/fontmanager.h"
 #include "common/qssloader.h"
 #include "common/translation.h"
+#include "model/checkbuttonaccessible.h"
 #include "model/sortcycle.h"
+#include "model/spokentext.h"
 #include "ui_headerview.h"
 
 #include <QDebug>
@@ -41,9 +43,13 @@ HeaderView::HeaderView(QWidget *parent)
     ui->rightEndWidget->hide();
     m_sortButtons = {ui->nameButton, ui->sizeButton, ui->typeButton, ui->dateButton};
 
-    for (int section = 0; section < SortCycle::SectionCount; ++section)
-        connect(m_sortButtons[size_t(section)], &QPushButton::clicked, this,
-                [this, section] { onSortClicked(section); });
+    for (int section = 0; section < SortCycle::SectionCount; ++section) {
+        QPushButton *button = m_sortButtons[size_t(section)];
+        button->setAutoDefault(true); // Enter clicks, as Space does
+        connect(button, &QPushButton::clicked, this, [this, section] { onSortClicked(section); });
+    }
+    CheckButtonAccessible::attach(ui->checkAllButton, CheckStateProperty);
+    ui->checkAllButton->setAutoDefault(true);
     connect(ui->checkAllButton, &QPushButton::clicked, this, &HeaderView::onCheckAllClicked);
     ui->checkAllButton->installEventFilter(this);
     ui->rightEndWidget->installEventFilter(this);
@@ -85,6 +91,9 @@ void HeaderView::showSort()
         QPushButton *button = m_sortButtons[size_t(section)];
         button->setProperty(StateProperty,
                             section == sorted ? direction : QStringLiteral("default"));
+        button->setAccessibleDescription(
+            section == sorted ? SpokenText::sortOrder(SortCycle::isDescending(m_sortType))
+                              : QString());
         // a stylesheet reads properties only when a widget is polished
         button->style()->unpolish(button);
         button->style()->polish(button);
@@ -104,7 +113,10 @@ void HeaderView::setCheckState(int state)
         qDebug() << "HeaderView::setCheckState unknown state = " << state;
         return;
     }
+    const bool changed = state != checkState();
     ui->checkAllButton->setProperty(CheckStateProperty, state);
+    if (changed)
+        CheckButtonAccessible::announce(ui->checkAllButton);
     setCheckIcon(checkIconName(state));
 }
 
@@ -216,6 +228,7 @@ void HeaderView::retranslate()
          {ui->nameButton, ui->sizeButton, ui->typeButton, ui->dateButton, ui->pathButton})
         button->setAccessibleName(button->text());
     ui->checkAllButton->setAccessibleName(translatedKey("select_all"));
+    showSort();
 }
 
 void HeaderView::updateFont()

@@ -4,6 +4,7 @@
 #include "model/itemtext.h"
 #include "model/nameletters.h"
 #include "model/recordcheck.h"
+#include "model/spokentext.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -343,6 +344,11 @@ QVariant ScanDataModel::data(const QModelIndex &index, int role) const
         return alignmentOf(index.column());
     case Qt::CheckStateRole:
         return item->checkState;
+    case Qt::AccessibleTextRole:
+        return index.column() == NameColumn ? ItemText::displayName(*item)
+                                            : displayText(*item, index.column());
+    case Qt::AccessibleDescriptionRole:
+        return spokenDescription(*item);
     case PathTextRole:
         return ItemText::displayPath(item, m_rootType);
     case NameRole:
@@ -380,6 +386,17 @@ QVariant ScanDataModel::displayText(const TreeItemData &item, int column) const
     default:
         return {};
     }
+}
+
+QString ScanDataModel::spokenDescription(const TreeItemData &item) const
+{
+    return SpokenText::description(
+        item, m_recoverability ? m_recoverability(item) : recoverabilityOf(&item, false, true));
+}
+
+void ScanDataModel::setRecoverabilitySource(RecoverabilitySource source)
+{
+    m_recoverability = std::move(source);
 }
 
 bool ScanDataModel::setData(const QModelIndex &index, const QVariant &value, int role)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/recoverability.h"
 #include "model/rowsort.h"
 #include "model/scanitemrole.h"
 
@@ -11,6 +12,7 @@
 #include <QPointer>
 #include <QVector>
 
+#include <functional>
 #include <vector>
 
 /// Flat, sortable rows over the host's scan records. The host owns the records and may destroy one
@@ -55,6 +57,10 @@ public:
     /// The rows of many records, found in one sweep: one answer for each, -1 when it is not listed.
     QVector<int> rowsOf(const QVector<TreeItemData *> &items) const;
 
+    /// What the model cannot know by itself, for its accessible description.
+    using RecoverabilitySource = std::function<Recoverability(const TreeItemData &)>;
+    void setRecoverabilitySource(RecoverabilitySource source);
+
     /// Writes \a state into every listed record in one sweep and announces one range.
     void setAllCheckStates(int state);
     /// The host has changed check states: announces all rows as one range.
@@ -95,6 +101,8 @@ private:
     /// Gives persistent indexes the rows that their records have now.
     void remapPersistentIndexes(const RowSort::Order &previous);
     QVariant displayText(const TreeItemData &item, int column) const;
+    QString spokenDescription(const TreeItemData &item) const;
+    void announceCheckStates();
 
     const Guard &guardAt(size_t row) const { return m_items[positionOf(row)]; }
     size_t positionOf(size_t row) const { return m_order.empty() ? row : m_order[row]; }
@@ -107,6 +115,7 @@ private:
     size_t m_folderCount = 0;
     int m_sortRole = NameRole;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    RecoverabilitySource m_recoverability;
     mutable QRecursiveMutex m_lock;
     int m_rootType = 0;
     int m_unchangedPrefix = 0;

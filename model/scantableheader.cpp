@@ -2,6 +2,7 @@
 
 #include "common/translation.h"
 #include "model/columnfit.h"
+#include "model/headeraccessible.h"
 #include "model/headersection.h"
 #include "model/itemtext.h"
 #include "model/scandatamodel.h"
@@ -44,6 +45,8 @@ ScanTableHeader::ScanTableHeader(QWidget *parent)
     : QHeaderView(Qt::Horizontal, parent)
 {
     qRegisterMetaType<HeaderViewSortType>("HeaderViewSortType");
+    HeaderAccessible::install();
+    setFocusPolicy(Qt::TabFocus);
     setFixedHeight(Height);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
@@ -69,8 +72,11 @@ void ScanTableHeader::setCheckState(int state)
         qDebug() << "ScanTableHeader::setCheckState unknown state = " << state;
         return;
     }
+    if (state == m_checkState)
+        return;
     m_checkState = state;
     updateSection(Column::NameColumn);
+    HeaderAccessible::announceCheck(this);
 }
 
 HeaderViewSortType ScanTableHeader::sortType() const
@@ -95,6 +101,7 @@ void ScanTableHeader::resetSort()
 void ScanTableHeader::sortBy(int section)
 {
     setSortType(SortCycle::next(sortType(), section));
+    HeaderAccessible::announceSort(this, section);
     emit signalSortClicked(sortType());
 }
 
@@ -291,7 +298,6 @@ void ScanTableHeader::updateTheme()
 
 void ScanTableHeader::retranslate()
 {
-    setAccessibleName(translatedKey("select_all"));
     if (count() > 0)
         headerDataChanged(Qt::Horizontal, 0, count() - 1);
     refit();
@@ -333,6 +339,8 @@ void ScanTableHeader::paintEvent(QPaintEvent *)
             paintSection(&painter, sectionAt(section).rect, section);
     }
     m_look.paintHairline(&painter, viewport()->rect());
+    if (hasFocus() && count() > 0)
+        m_look.paintFocus(&painter, partRect(m_focusPart));
 }
 
 void ScanTableHeader::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const

@@ -5,6 +5,7 @@
 #include "model/sortcycle.h"
 
 #include <QHeaderView>
+#include <QVector>
 
 struct HeaderSection;
 
@@ -34,6 +35,22 @@ public:
     /// changes nothing, so that a width which the user has given the first column stays.
     void fitColumns(int viewportWidth);
 
+    /// What the keyboard and assistive technology find here: the check box, then the sections.
+    static constexpr int CheckPart = 0;
+    static constexpr int partOf(int section) { return section + 1; }
+    static constexpr int sectionOf(int part) { return part - 1; }
+    QVector<int> shownParts() const;
+    /// False where there is nothing to do.
+    bool takesKeys(int part) const;
+    /// In the viewport.
+    QRect partRect(int part) const;
+    /// What a click on it does.
+    void activate(int part);
+    /// Where the keyboard is, or was when it left.
+    int focusPart() const { return m_focusPart; }
+    void setFocusPart(int part);
+    QString textOf(int logicalIndex) const;
+
     void updateTheme();
     /// The texts are the model's; columns are measured again.
     void retranslate();
@@ -50,6 +67,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const override;
     QSize sectionSizeFromContents(int logicalIndex) const override;
@@ -64,8 +84,8 @@ private:
     void setHoverSection(int section);
     void sortBy(int section);
     void toggleCheck();
+    void moveFocus(bool onward);
 
-    QString textOf(int logicalIndex) const;
     HeaderLook::Mark markOf(int logicalIndex) const;
     void applyHiddenColumns();
     void refit();
@@ -76,6 +96,7 @@ private:
     bool m_resizing = false;
     int m_dragStartX = 0;
     int m_dragStartWidth = 0;
+    int m_focusPart = CheckPart;
     HeaderLook m_look;
     bool m_edgeCursor = false;
     int m_hoverSection = SortCycle::NoSection;

@@ -522,4 +522,88 @@
         <translation>عثر الفحص على ملفات، لكن لا يطابق أي منها عوامل التصفية المحددة.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>محدد</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>محدد جزئيًا</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>غير محدد</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>ملف صوتي</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>فيديو</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>مستند</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>بريد إلكتروني</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>قاعدة بيانات</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>صورة</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>صفحة ويب</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>أرشيف</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ملف</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>ملف %1</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>العناصر: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>مرتب تنازليًا</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>مرتب تصاعديًا</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>شريط التمرير</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>، </translation>
+    </message>
+</context>
 </TS>

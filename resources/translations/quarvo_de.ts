@@ -522,4 +522,88 @@
         <translation>Der Scan hat Dateien gefunden, aber keine davon passt zu den gesetzten Filtern.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Markiert</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Teilweise markiert</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Nicht markiert</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Audiodatei</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Datenbank</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Archiv</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1-Datei</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>Elemente: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Absteigend sortiert</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Aufsteigend sortiert</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Bildlaufleiste</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

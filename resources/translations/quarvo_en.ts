@@ -522,4 +522,88 @@
         <translation>The scan found files, but none of them matches the filters that are set.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Checked</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Partly checked</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Not checked</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Audio file</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Database</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Web page</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Archive</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1 file</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>items: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Sorted in descending order</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Sorted in ascending order</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Scroll bar</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

@@ -522,4 +522,88 @@
         <translation>El análisis encontró archivos, pero ninguno coincide con los filtros aplicados.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Marcado</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Marcado en parte</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Sin marcar</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Archivo de audio</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>Correo electrónico</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Base de datos</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Página web</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Archivo comprimido</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>Archivo %1</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>elementos: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>En orden descendente</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>En orden ascendente</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Barra de desplazamiento</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

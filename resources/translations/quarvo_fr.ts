@@ -522,4 +522,88 @@
         <translation>L’analyse a trouvé des fichiers, mais aucun ne correspond aux filtres appliqués.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Coché</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Partiellement coché</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Non coché</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Fichier audio</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Base de données</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Page web</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Archive</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>Fichier %1</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>éléments : %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Tri décroissant</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Tri croissant</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Barre de défilement</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

@@ -522,4 +522,88 @@
         <translation>स्कैन में फ़ाइलें मिलीं, लेकिन कोई भी लगाए गए फ़िल्टर से मेल नहीं खाती।</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>चुना गया</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>आंशिक रूप से चुना गया</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>नहीं चुना गया</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>ऑडियो फ़ाइल</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>वीडियो</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>दस्तावेज़</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>ईमेल</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>डेटाबेस</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>फ़ोटो</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>वेब पेज</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>संग्रह</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>फ़ाइल</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1 फ़ाइल</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>आइटम: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 में से %1</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>अवरोही क्रम में</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>आरोही क्रम में</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>स्क्रॉल बार</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

@@ -522,4 +522,88 @@
         <translation>Pemindaian menemukan file, tetapi tidak ada yang cocok dengan filter yang dipilih.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Dicentang</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Dicentang sebagian</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Tidak dicentang</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Berkas audio</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokumen</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>Email</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Basis data</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Halaman web</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Arsip</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Berkas</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>Berkas %1</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>item: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 dari %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Diurutkan menurun</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Diurutkan menaik</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Bilah gulir</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

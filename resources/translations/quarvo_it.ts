@@ -522,4 +522,88 @@
         <translation>La scansione ha trovato dei file, ma nessuno corrisponde ai filtri impostati.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Selezionato</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Parzialmente selezionato</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Non selezionato</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>File audio</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Database</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Pagina web</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Archivio</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>File %1</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>elementi: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Ordinato in senso decrescente</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Ordinato in senso crescente</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Barra di scorrimento</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

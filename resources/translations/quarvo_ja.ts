@@ -522,4 +522,88 @@
         <translation>スキャンでファイルが見つかりましたが、設定されたフィルターに一致するものはありません。</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>チェックあり</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>一部チェックあり</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>チェックなし</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>音声ファイル</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>メール</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>データベース</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>ウェブページ</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>圧縮ファイル</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1 ファイル</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>項目数: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 件中 %1 件目</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>降順に並べ替え</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>昇順に並べ替え</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>スクロール バー</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>、</translation>
+    </message>
+</context>
 </TS>

@@ -522,4 +522,88 @@
         <translation>스캔에서 파일을 찾았지만 설정된 필터와 일치하는 파일이 없습니다.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>선택됨</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>일부 선택됨</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>선택 안 됨</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>오디오 파일</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>동영상</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>문서</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>이메일</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>데이터베이스</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>사진</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>웹 페이지</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>압축 파일</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1 파일</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>항목: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2개 중 %1번째</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>내림차순 정렬</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>오름차순 정렬</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>스크롤 막대</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

@@ -522,4 +522,88 @@
         <translation>De scan heeft bestanden gevonden, maar geen ervan voldoet aan de ingestelde filters.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Aangevinkt</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Gedeeltelijk aangevinkt</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Niet aangevinkt</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Audiobestand</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Database</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Webpagina</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Archief</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1-bestand</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>items: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Aflopend gesorteerd</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Oplopend gesorteerd</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Schuifbalk</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

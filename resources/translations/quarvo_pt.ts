@@ -522,4 +522,88 @@
         <translation>A análise encontrou ficheiros, mas nenhum corresponde aos filtros aplicados.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Marcado</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Parcialmente marcado</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Não marcado</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Arquivo de áudio</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Banco de dados</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Página da Web</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Arquivo compactado</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>Arquivo %1</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>itens: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Em ordem decrescente</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Em ordem crescente</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Barra de rolagem</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

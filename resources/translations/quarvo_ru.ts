@@ -522,4 +522,88 @@
         <translation>Сканирование нашло файлы, но ни один из них не соответствует заданным фильтрам.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Отмечено</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Отмечено частично</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Не отмечено</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Аудиофайл</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Видео</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Документ</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>Электронное письмо</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>База данных</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Фото</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Веб-страница</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Архив</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>Файл %1</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>элементов: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Сортировка по убыванию</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Сортировка по возрастанию</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Полоса прокрутки</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

@@ -522,4 +522,88 @@
         <translation>Genomsökningen hittade filer, men ingen av dem matchar de valda filtren.</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>Markerad</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>Delvis markerad</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Inte markerad</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>Ljudfil</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-post</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Databas</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Webbsida</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>Arkiv</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fil</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1-fil</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>objekt: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 av %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Fallande sortering</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Stigande sortering</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Rullningslist</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

@@ -522,4 +522,88 @@
         <translation>การสแกนพบไฟล์ แต่ไม่มีไฟล์ใดตรงกับตัวกรองที่ตั้งไว้</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>ทำเครื่องหมายแล้ว</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>ทำเครื่องหมายบางส่วน</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>ไม่ได้ทำเครื่องหมาย</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>ไฟล์เสียง</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>วิดีโอ</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>เอกสาร</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>อีเมล</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>ฐานข้อมูล</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>รูปภาพ</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>หน้าเว็บ</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>ไฟล์บีบอัด</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ไฟล์</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>ไฟล์ %1</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>รายการ: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 จาก %2</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>เรียงจากมากไปน้อย</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>เรียงจากน้อยไปมาก</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>แถบเลื่อน</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>, </translation>
+    </message>
+</context>
 </TS>

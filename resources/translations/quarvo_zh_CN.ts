@@ -522,4 +522,88 @@
         <translation>扫描已找到文件，但没有文件符合当前的筛选条件。</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>已勾选</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>部分勾选</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未勾选</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>音频文件</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>邮件</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>数据库</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>网页</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>压缩文件</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1 文件</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>项目数：%1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 项，共 %2 项</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>降序排列</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>升序排列</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>滚动条</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>，</translation>
+    </message>
+</context>
 </TS>

@@ -522,4 +522,88 @@
         <translation>掃描已找到檔案，但沒有檔案符合目前的篩選條件。</translation>
     </message>
 </context>
+<context>
+    <name>SpokenText</name>
+    <message>
+        <source>Checked</source>
+        <translation>已勾選</translation>
+    </message>
+    <message>
+        <source>Partly checked</source>
+        <translation>部分勾選</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未勾選</translation>
+    </message>
+    <message>
+        <source>Audio file</source>
+        <translation>音訊檔案</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>電子郵件</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>資料庫</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>相片</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>網頁</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation>壓縮檔</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>%1 file</source>
+        <translation>%1 檔案</translation>
+    </message>
+    <message>
+        <source>items: %1</source>
+        <translation>項目數：%1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 項，共 %2 項</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>遞減排序</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>遞增排序</translation>
+    </message>
+    <message>
+        <source>Scroll bar</source>
+        <translation>捲軸</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a spoken description</comment>
+        <translation>，</translation>
+    </message>
+</context>
 </TS>
