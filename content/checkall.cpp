@@ -2,6 +2,7 @@
 
 #include "common/checkicon.h"
 #include "common/commonfunction.h"
+#include "model/checkbuttonaccessible.h"
 #include "model/headerview.h"
 #include "model/scantableheader.h"
 
@@ -20,6 +21,8 @@ CheckAll::CheckAll(QPushButton *button, HeaderView *bar, ScanTableHeader *header
     , m_bar(bar)
     , m_header(header)
 {
+    CheckButtonAccessible::attach(button, StateProperty);
+    button->setAutoDefault(true); // Enter clicks, as Space does
     bar->setCheckButtonVisible(false);
     setState(Qt::Unchecked);
     connect(button, &QPushButton::clicked, this,
@@ -35,7 +38,10 @@ int CheckAll::state() const
 
 void CheckAll::setState(int state)
 {
+    const bool changed = state != this->state();
     m_button->setProperty(StateProperty, state);
+    if (changed)
+        CheckButtonAccessible::announce(m_button);
     refresh();
     m_bar->setCheckState(state);
     m_header->setCheckState(state);

@@ -9,10 +9,15 @@
 #include "content/viewkeys.h"
 #include "delegates/listdelegate.h"
 #include "detail/itemdetailview.h"
+#include "model/recoverability.h"
 #include "model/scandatamodel.h"
+#include "model/scantableheader.h"
+#include "thumbnails/scanpluginpreviewmanager.h"
 #include "ui_sdcardcontentdatawidget.h"
 
 #include <QScrollBar>
+
+#include <type_traits>
 
 ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel *model,
                            QWidget *parent)
@@ -34,10 +39,8 @@ ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel
     form.listModeHeaderView->hide();
     form.iconModeHederView->hide();
 
-    QWidget::setTabOrder(form.allCheckButton, form.iconModeHederView);
-    QWidget::setTabOrder(form.iconModeHederView, form.listView);
-    QWidget::setTabOrder(form.listView, m_list->table());
-    QWidget::setTabOrder(m_list->table(), m_list->pane());
+    orderTabs();
+    describeItems();
     relay(m_grid);
     relay(m_list);
     connectKeys();
@@ -45,6 +48,37 @@ ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel
     connect(bar, &QScrollBar::rangeChanged, this, [this](int minimum, int maximum) {
         m_list->delegate()->setGridCanScroll(maximum > minimum);
     });
+}
+
+void ContentViews::orderTabs()
+{
+    // Widgets follow each other as they were made, but for these two.
+    QWidget::setTabOrder(m_form.iconModeHederView, m_form.allCheckButton);
+    QWidget::setTabOrder(m_list->header(), m_list->table());
+}
+
+void ContentViews::describeItems()
+{
+    m_model->setRecoverabilitySource([this](const TreeItemData &item) {
+        const bool hasThumbnail =
+            !ScanPluginPreviewManager::instance()->gridThumbnail(item.fileId).isNull();
+        return recoverabilityOf(&item, hasThumbnail, m_assessmentFinished);
+    });
+    const auto connectActions = [this](const auto *view) {
+        using View = std::remove_const_t<std::remove_pointer_t<decltype(view)>>;
+        connect(view, &View::toggleRequested, this, &ContentViews::itemToggleWanted);
+        connect(view, &View::openRequested, this, [this](const QModelIndex &index) {
+            emit openRequested(m_model->itemAt(index), QStringLiteral("double_click"));
+        });
+    };
+    connectActions(m_grid->view());
+    connectActions(m_list->table());
+}
+
+void ContentViews::setName(const QString &name)
+{
+    m_grid->view()->setAccessibleName(name);
+    m_list->table()->setAccessibleName(name);
 }
 
 void ContentViews::connectKeys()
@@ -135,6 +169,7 @@ void ContentViews::recall()
 
 void ContentViews::setAssessmentFinished(bool finished)
 {
+    m_assessmentFinished = finished;
     m_grid->setAssessmentFinished(finished);
     m_list->setAssessmentFinished(finished);
 }

@@ -45,6 +45,8 @@ public:
     void remember();
     void recall();
 
+    /// What assistive technology calls the views.
+    void setName(const QString &name);
     void setAssessmentFinished(bool finished);
     void setSearchKeyword(const QString &keyword);
     void showThumbnail(qint64 fileId);
@@ -60,6 +62,8 @@ signals:
     void tooltipWanted(const QString &text);
     void thumbnailMissing(TreeItemData *item);
     void contextMenuWanted(const QModelIndex &index);
+    /// By assistive technology.
+    void itemToggleWanted(const QModelIndex &index);
     // By key.
     void toggleWanted();
     void menuWanted();
@@ -68,6 +72,8 @@ private:
     template <typename View>
     void relay(const View *view);
     void connectKeys();
+    void orderTabs();
+    void describeItems();
     ViewPlace &placeInUse() const;
     /// Of the view in use; the other takes its selection over when it is shown.
     ViewMemory &memory() { return m_mode == GridOnly ? m_gridMemory : m_tableMemory; }
@@ -80,4 +86,5 @@ private:
     ViewMemory m_gridMemory;
     ViewMemory m_tableMemory;
     int m_mode = GridOnly;
+    bool m_assessmentFinished = false;
 };

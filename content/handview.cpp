@@ -1,5 +1,7 @@
 #include "content/handview.h"
 
+#include "content/viewaccessible.h"
+
 #include "content/layeredselection.h"
 
 #include <QApplication>
@@ -137,7 +139,8 @@ void HandView<View>::currentChanged(const QModelIndex &current, const QModelInde
 {
     if (!m_band.isActive())
         m_anchor = current;
-    View::currentChanged(current, previous);
+    QAbstractItemView::currentChanged(current, previous); // a table's own announces cells
+    ViewAccessible::currentChanged(this, current, previous);
 }
 
 template <typename View>
@@ -145,7 +148,8 @@ void HandView<View>::selectionChanged(const QItemSelection &selected,
                                       const QItemSelection &deselected)
 {
     m_selectionTouched = true;
-    View::selectionChanged(selected, deselected);
+    QAbstractItemView::selectionChanged(selected, deselected);
+    ViewAccessible::selectionChanged(this, selected, deselected);
 }
 
 template <typename View>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "content/itemactions.h"
 #include "content/rubberband.h"
 #include "content/typeahead.h"
 #include "content/viewplace.h"
@@ -13,7 +14,7 @@
 /// at the edges, type-ahead, Escape, ranges by Ctrl and Shift, and the state that outlives a reset
 /// of the model by way of ViewPlace. \a View is an item view that scrolls by pixels.
 template <typename View>
-class HandView : public View, public ViewPlace
+class HandView : public View, public ViewPlace, public ItemActions
 {
 public:
     /// \a bandDistance: pixels from a press to the rubber band.

@@ -52,12 +52,23 @@ void ItemChecks::toggleSelected(const QModelIndex &current)
             m_control->choose(CheckToggle::nextForAll(*m_model));
             return;
         }
-        const CheckToggle::Result toggled = CheckToggle::toggle(*m_model, rows);
-        for (const auto &item : toggled.items) {
-            if (item) // a slot of the host may have replaced the tree
-                emit itemChecked(item, toggled.state);
-        }
+        toggleRows(rows);
     });
+}
+
+void ItemChecks::toggle(const QModelIndex &index)
+{
+    if (index.isValid())
+        guarded(Q_FUNC_INFO, [&] { toggleRows({{index.row(), index.row()}}); });
+}
+
+void ItemChecks::toggleRows(const QVector<SelectedRows::Run> &rows)
+{
+    const CheckToggle::Result toggled = CheckToggle::toggle(*m_model, rows);
+    for (const auto &item : toggled.items) {
+        if (item) // a slot of the host may have replaced the tree
+            emit itemChecked(item, toggled.state);
+    }
 }
 
 void ItemChecks::refresh()

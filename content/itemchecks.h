@@ -3,12 +3,12 @@
 #include "content/selectedrows.h"
 #include "platform/item/treeitemdata.h"
 
+#include <QModelIndex>
 #include <QObject>
 #include <QPointer>
 
 class CheckAll;
 class ContentViews;
-class QModelIndex;
 class ScanDataModel;
 
 /// The check states of what a content area shows: select-all, the key that toggles all selected
@@ -27,6 +27,8 @@ public:
     /// Checks or unchecks the selected items together; \a current where nothing is selected. Each
     /// is announced, but for a large tree that is selected as a whole: that is select-all.
     void toggleSelected(const QModelIndex &current);
+    /// Checks or unchecks one item.
+    void toggle(const QModelIndex &index);
     /// The host has changed check states: shows them, and the root's on the select-all control.
     void refresh();
     /// The state of select-all from the states of the root's children.
@@ -38,6 +40,7 @@ signals:
 
 private:
     void setAll(Qt::CheckState state);
+    void toggleRows(const QVector<SelectedRows::Run> &rows);
     bool isLargeWholeTree(const QVector<SelectedRows::Run> &rows) const;
 
     ScanDataModel *m_model;

@@ -1,6 +1,9 @@
 #include "content/overlayscrollbar.h"
 
+#include "model/spokentext.h"
+
 #include <QAbstractItemView>
+#include <QEvent>
 
 namespace {
 
@@ -14,6 +17,7 @@ OverlayScrollBar::OverlayScrollBar(QAbstractItemView *view, QWidget *parent)
 {
     setObjectName(QStringLiteral("listViewOverlayScrollBar"));
     setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(SpokenText::scrollBar());
     hide();
 
     QScrollBar *own = view->verticalScrollBar();
@@ -43,4 +47,11 @@ void OverlayScrollBar::sync()
     setGeometry(x, corner.y(), Width, m_view->height());
     show();
     raise();
+}
+
+void OverlayScrollBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        setAccessibleName(SpokenText::scrollBar());
+    QScrollBar::changeEvent(event);
 }

@@ -18,6 +18,9 @@ public:
     /// Takes range, value and place from the view; hides where there is nothing to scroll.
     void sync();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     QAbstractItemView *m_view;
 };

@@ -1,6 +1,7 @@
 #include "content/scantableview.h"
 
 #include "content/gridnavigation.h"
+#include "content/viewaccessible.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>
@@ -36,6 +37,7 @@ ScanTableView::ScanTableView(QWidget *parent)
     setVerticalScrollMode(ScrollPerPixel);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false); // Tab leads on to the pane
+    ViewAccessible::install();
     m_rubberBand->hide();
 }
 
@@ -80,6 +82,14 @@ void ScanTableView::currentChanged(const QModelIndex &current, const QModelIndex
         if (index.isValid())
             repaintRow(index.row());
     }
+}
+
+void ScanTableView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                const QVector<int> &roles)
+{
+    HandView::dataChanged(topLeft, bottomRight, roles);
+    if (roles.isEmpty() || roles.contains(Qt::CheckStateRole))
+        ViewAccessible::checksChanged(this, topLeft.row(), bottomRight.row());
 }
 
 void ScanTableView::paintEvent(QPaintEvent *event)

@@ -28,6 +28,14 @@ public:
 
     void selectAll() override;
 
+    void requestToggle(const QModelIndex &index) override { emit toggleRequested(index); }
+    void requestOpen(const QModelIndex &index) override { emit openRequested(index); }
+
+signals:
+    /// Assistive technology wants the item checked or unchecked, or opened.
+    void toggleRequested(const QModelIndex &index);
+    void openRequested(const QModelIndex &index);
+
 protected:
     QModelIndex indexOf(int row) const override;
     QItemSelection itemsIn(const QRect &band) const override;
@@ -42,6 +50,8 @@ protected:
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles) override;
 
 private:
     void repaintRow(int row);

@@ -17,6 +17,7 @@
 #include "content/thumbnailrequests.h"
 #include "delegates/delegateitem.h"
 #include "delegates/listdelegate.h"
+#include "model/itemtext.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
 #include "ui_sdcardcontentdatawidget.h"
@@ -83,6 +84,7 @@ void SDCardContentDataWidget::connectParts()
     });
     connect(m_views, &ContentViews::toggleWanted, this,
             [this] { m_checks->toggleSelected(m_current->index()); });
+    connect(m_views, &ContentViews::itemToggleWanted, m_checks, &ItemChecks::toggle);
     connect(m_views, &ContentViews::menuWanted, this,
             [this] { m_menu->openAtCurrent(*m_views->inUse()); });
     connect(m_menu, &ContextMenu::openRequested, this, &SDCardContentDataWidget::openItem);
@@ -269,6 +271,7 @@ void SDCardContentDataWidget::updateData(TreeItemData *root, const QString &keyw
         const bool shownAlready = m_current->belongsTo(*root) && m_model->rowCount() > 0;
         if (shownAlready)
             m_views->remember();
+        m_views->setName(ItemText::displayName(*root));
         m_model->openFolder(root);
         m_current->restore(*root);
         if (shownAlready)

@@ -1,8 +1,7 @@
 #include "content/thumbnailgrid.h"
 
-#include "content/gridaccessible.h"
+#include "content/viewaccessible.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -30,7 +29,7 @@ ThumbnailGrid::ThumbnailGrid(QWidget *parent)
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_Hover);
-    GridAccessible::install();
+    ViewAccessible::install();
 }
 
 ThumbnailGrid::~ThumbnailGrid() = default;
@@ -382,44 +381,11 @@ bool ThumbnailGrid::severalSelected() const
     return false;
 }
 
-void ThumbnailGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    HandView::currentChanged(current, previous);
-    if (current.isValid() && hasFocus())
-        announce(QAccessible::Focus, current.row());
-}
-
-void ThumbnailGrid::selectionChanged(const QItemSelection &selected,
-                                     const QItemSelection &deselected)
-{
-    HandView::selectionChanged(selected, deselected);
-    // a range is told by its first item: one event a row would be a million
-    if (!deselected.isEmpty())
-        announce(QAccessible::SelectionRemove, deselected.first().top());
-    if (!selected.isEmpty())
-        announce(QAccessible::SelectionAdd, selected.first().top());
-}
-
-void ThumbnailGrid::announce(QAccessible::Event type, int row)
-{
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent event(this, type);
-    event.setChild(row);
-    QAccessible::updateAccessibility(&event);
-}
-
 void ThumbnailGrid::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                 const QVector<int> &roles)
 {
-    if (QAccessible::isActive() && (roles.isEmpty() || roles.contains(Qt::CheckStateRole))
-        && currentIndex().row() >= topLeft.row() && currentIndex().row() <= bottomRight.row()) {
-        QAccessible::State changed;
-        changed.checked = true;
-        QAccessibleStateChangeEvent event(this, changed);
-        event.setChild(currentIndex().row());
-        QAccessible::updateAccessibility(&event);
-    }
+    if (roles.isEmpty() || roles.contains(Qt::CheckStateRole))
+        ViewAccessible::checksChanged(this, topLeft.row(), bottomRight.row());
     if (!isVisible())
         return;
     const QPair<int, int> visible = visibleRows();

@@ -4,8 +4,6 @@
 #include "content/gridnavigation.h"
 #include "content/handview.h"
 
-#include <QAccessible>
-
 /// The grid of thumbnail cards: a QListView in icon mode whose geometry is computed from the row
 /// number and never stored, so that a million rows cost what a hundred do. One column of a flat
 /// model; every cell has the delegate's size hint for the first row; right-to-left mirrors the
@@ -38,7 +36,13 @@ public:
     void selectAll() override;
     void setModel(QAbstractItemModel *model) override;
 
+    void requestToggle(const QModelIndex &index) override { emit toggleRequested(index); }
+    void requestOpen(const QModelIndex &index) override { emit openRequested(index); }
+
 signals:
+    /// Assistive technology wants the item checked or unchecked, or opened.
+    void toggleRequested(const QModelIndex &index);
+    void openRequested(const QModelIndex &index);
     /// A selection of several items was made by hand or by key.
     void signalMutilSelectEvent();
     /// By hand or by key one item was selected, or none.
@@ -63,9 +67,6 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles) override;
-    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
-    void selectionChanged(const QItemSelection &selected,
-                          const QItemSelection &deselected) override;
 
     bool viewportEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -82,7 +83,6 @@ private:
     void layOutIfDue() const;
     QRect contentViewport() const { return viewport()->rect().translated(offset()); }
     bool severalSelected() const;
-    void announce(QAccessible::Event type, int row);
 
     void paintCards(QPainter *painter, const QRegion &region);
     void paintFocus(QPainter *painter, const QStyleOptionViewItem &option);

@@ -190,7 +190,15 @@ void ThumbnailGrid::keyPressEvent(QKeyEvent *event)
 
 void ThumbnailGrid::focusInEvent(QFocusEvent *event)
 {
-    m_showFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
-        || event->reason() == Qt::ShortcutFocusReason;
+    switch (event->reason()) {
+    case Qt::MouseFocusReason:
+        m_showFocus = false;
+        break;
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+        break; // the user comes back to where he was
+    default:
+        m_showFocus = true;
+    }
     QListView::focusInEvent(event);
 }

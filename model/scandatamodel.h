@@ -102,7 +102,6 @@ private:
     void remapPersistentIndexes(const RowSort::Order &previous);
     QVariant displayText(const TreeItemData &item, int column) const;
     QString spokenDescription(const TreeItemData &item) const;
-    void announceCheckStates();
 
     const Guard &guardAt(size_t row) const { return m_items[positionOf(row)]; }
     size_t positionOf(size_t row) const { return m_order.empty() ? row : m_order[row]; }
