@@ -3,6 +3,7 @@
 #include "common/fontmanager.h"
 #include "common/qssloader.h"
 #include "detail/flowlayout.h"
+#include "model/spokentext.h"
 #include "ui_chipinfoitem.h"
 
 namespace {
@@ -25,6 +26,7 @@ ChipInfoItem::~ChipInfoItem() = default;
 
 void ChipInfoItem::setTitle(const QString &title)
 {
+    setAccessibleName(title);
     ui->labTitle->setFullText(title);
 }
 
@@ -33,6 +35,7 @@ void ChipInfoItem::setChips(const QStringList &texts)
     if (texts == m_texts)
         return;
     m_texts = texts;
+    setAccessibleDescription(SpokenText::joined(texts));
     while (QLayoutItem *item = m_flow->takeAt(0)) {
         delete item->widget();
         delete item;

@@ -22,6 +22,8 @@ DataInfoItem::~DataInfoItem() = default;
 void DataInfoItem::setTitle(const QString &title)
 {
     ui->labTitle->setFullText(title);
+    setAccessibleName(title);
+    ui->labValue->setAccessibleDescription(title);
 }
 
 QString DataInfoItem::title() const
@@ -32,6 +34,7 @@ QString DataInfoItem::title() const
 void DataInfoItem::setValue(const QString &value)
 {
     ui->labValue->setFullText(value.isEmpty() ? QStringLiteral("--") : value);
+    setAccessibleDescription(this->value());
 }
 
 QString DataInfoItem::value() const

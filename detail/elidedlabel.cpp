@@ -1,5 +1,6 @@
 #include "detail/elidedlabel.h"
 
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -22,11 +23,56 @@ QString inOneLine(const QString &text)
     return line.simplified();
 }
 
+/// Assistive technology hears the whole text, and can follow a link.
+class LabelAccessible : public QAccessibleWidget
+{
+public:
+    explicit LabelAccessible(ElidedLabel *label)
+        : QAccessibleWidget(label)
+    {
+    }
+
+    QAccessible::Role role() const override
+    {
+        return label()->isLink() ? QAccessible::Link : QAccessible::StaticText;
+    }
+    QStringList actionNames() const override
+    {
+        const QStringList names = QAccessibleWidget::actionNames();
+        return label()->isLink() ? QStringList{pressAction()} + names : names;
+    }
+    void doAction(const QString &action) override
+    {
+        if (action == pressAction() && label()->isLink())
+            emit label()->linkClicked();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    ElidedLabel *label() const { return static_cast<ElidedLabel *>(object()); }
+};
+
+QAccessibleInterface *makeAccessible(const QString &, QObject *object)
+{
+    auto *label = qobject_cast<ElidedLabel *>(object);
+    return label ? new LabelAccessible(label) : nullptr;
+}
+
+void installAccessibleOnce()
+{
+    static bool installed = false;
+    if (!installed)
+        QAccessible::installFactory(makeAccessible);
+    installed = true;
+}
+
 } // namespace
 
 ElidedLabel::ElidedLabel(QWidget *parent)
     : QLabel(parent)
 {
+    installAccessibleOnce();
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -61,6 +107,7 @@ void ElidedLabel::setLink(bool link)
     if (link == m_link)
         return;
     m_link = link;
+    setFocusPolicy(link ? Qt::StrongFocus : Qt::ClickFocus);
     setProperty("link", link);
     if (link)
         setCursor(Qt::PointingHandCursor);

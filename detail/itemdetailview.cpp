@@ -78,6 +78,7 @@ ItemDetailView::ItemDetailView(QWidget *parent)
     m_rest.setSingleShot(true);
     m_rest.setInterval(RestMs);
     connect(&m_rest, &QTimer::timeout, this, &ItemDetailView::request);
+    ui->openButton->setAutoDefault(true); // Enter clicks, as Space does
     connect(ui->openButton, &QPushButton::clicked, this, [this] {
         if (m_item)
             emit signalClickedOpen(m_item);
@@ -164,7 +165,9 @@ void ItemDetailView::fillFacts()
     ui->namelabel->setFullText(file || m_item->itemCount < 0
                                    ? name
                                    : name + QStringLiteral(" (%1)").arg(m_item->itemCount));
-    ui->iconlabel->setAccessibleName(name);
+    for (QWidget *part : {static_cast<QWidget *>(this), static_cast<QWidget *>(ui->scrollArea),
+                          static_cast<QWidget *>(ui->iconlabel)})
+        part->setAccessibleName(name);
 
     const QString location = detailLocation(*m_item);
     m_path->setValue(location);
