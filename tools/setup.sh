@@ -5,7 +5,7 @@
 package_groups() {
     cat <<'GROUPS'
 to build|build-essential cmake ninja-build pkg-config
-the windows and their tools|qtbase5-dev qttools5-dev qttools5-dev-tools
+the windows and their tools|qtbase5-dev qtbase5-private-dev qttools5-dev qttools5-dev-tools
 to read WebP, TIFF and more|qt5-image-formats-plugins
 to play the animations|librlottie-dev
 to render the pictures|librsvg2-bin pngquant
