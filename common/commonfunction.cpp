@@ -3,10 +3,10 @@
 #include "common/masklayer.h"
 #include "common/translation.h"
 
+#include <QApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QScreen>
 #include <QTimeZone>
 #include <QVariant>
@@ -228,4 +228,36 @@ QWidget *CommonFunction::createMaskLayer(QWidget *parent)
 QWidget *CommonFunction::createMaskLayer(QWidget *parent, int cornerRadius)
 {
     return parent ? new MaskLayer(parent, cornerRadius) : nullptr;
+}
+
+QWidget *CommonFunction::mainWindow(QWidget *widget)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->property("MainWindowID").isValid()
+            || window->property("ZVQuarvoWindowID").isValid())
+            return window;
+    }
+    return widget ? widget->window() : nullptr;
+}
+
+QWidget *CommonFunction::createWindowMask(QWidget *window)
+{
+    const bool round = window && window->testAttribute(Qt::WA_TranslucentBackground);
+    return createMaskLayer(window, round ? MaskCornerRadius : 0);
+}
+
+void CommonFunction::placeOver(QWidget *dialog, const QWidget *window)
+{
+    const QPoint middle = window->mapToGlobal(window->rect().center());
+    QRect place(QPoint(), dialog->size());
+    place.moveCenter(middle);
+    if (const QScreen *screen = window->screen()) {
+        const QRect all = screen->availableGeometry();
+        place.moveRight(std::min(place.right(), all.right()));
+        place.moveBottom(std::min(place.bottom(), all.bottom()));
+        place.moveLeft(std::max(place.left(), all.left()));
+        place.moveTop(std::max(place.top(), all.top()));
+    }
+    dialog->move(place.topLeft());
 }

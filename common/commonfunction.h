@@ -50,4 +50,12 @@ public:
     /// Null for a null parent.
     static QWidget *createMaskLayer(QWidget *parent);
     static QWidget *createMaskLayer(QWidget *parent, int cornerRadius);
+
+    /// The application's main window, which marks itself with one of its properties
+    /// "MainWindowID" and "ZVQuarvoWindowID"; without one the window of \a widget.
+    static QWidget *mainWindow(QWidget *widget);
+    /// A mask layer for a whole window, round at the corners where the window is.
+    static QWidget *createWindowMask(QWidget *window);
+    /// Moves \a dialog into the middle of \a window, as far as the screen holds all of it.
+    static void placeOver(QWidget *dialog, const QWidget *window);
 };
