@@ -523,6 +523,13 @@
     </message>
 </context>
 <context>
+    <name>SearchDialog</name>
+    <message>
+        <source>Close</source>
+        <translation>ปิด</translation>
+    </message>
+</context>
+<context>
     <name>SpokenText</name>
     <message>
         <source>Checked</source>

@@ -1,0 +1,16 @@
+#include "popups/hintpicture.h"
+
+#include "common/commonfunction.h"
+
+#include <QDebug>
+#include <QLabel>
+
+bool showHintPicture(QLabel *label, const QString &base)
+{
+    const QString path = CommonFunction::getHighDpiPath(base, QStringLiteral("png"));
+    const QPixmap picture = CommonFunction::loadPixmap(path);
+    label->setPixmap(picture);
+    if (picture.isNull())
+        qWarning() << "missing picture" << path;
+    return !picture.isNull();
+}
