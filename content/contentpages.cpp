@@ -4,6 +4,8 @@
 #include "common/fontmanager.h"
 #include "common/translation.h"
 #include "content/scananimation.h"
+#include "popups/aisearchhintframe.h"
+#include "popups/searchhintframe.h"
 #include "ui_sdcardcontentdatawidget.h"
 
 using PageChoice::Page;
@@ -51,7 +53,11 @@ Page ContentPages::current() const
         return Page::NoData;
     if (page == m_form.loadingpage)
         return Page::Loading;
-    return page == m_form.nofilterpage ? Page::NoFilter : Page::Results;
+    if (page == m_form.nofilterpage)
+        return Page::NoFilter;
+    if (page && page == m_searchHint)
+        return Page::SearchHint;
+    return page && page == m_aiSearchHint ? Page::AISearchHint : Page::Results;
 }
 
 void ContentPages::show(Page page)
@@ -72,6 +78,12 @@ void ContentPages::show(Page page)
     case Page::NoFilter:
         widget = m_form.nofilterpage;
         break;
+    case Page::SearchHint:
+        widget = searchHint();
+        break;
+    case Page::AISearchHint:
+        widget = aiSearchHint();
+        break;
     }
     m_form.stackedWidget->setCurrentWidget(widget);
     if (page == Page::Scanning) {
@@ -83,6 +95,24 @@ void ContentPages::show(Page page)
         m_animation->stop();
     }
     emit shown();
+}
+
+QWidget *ContentPages::searchHint()
+{
+    if (!m_searchHint) {
+        m_searchHint = new SearchHintFrame(m_form.stackedWidget);
+        m_form.stackedWidget->addWidget(m_searchHint);
+    }
+    return m_searchHint;
+}
+
+QWidget *ContentPages::aiSearchHint()
+{
+    if (!m_aiSearchHint) {
+        m_aiSearchHint = new AISearchHintFrame(m_form.stackedWidget);
+        m_form.stackedWidget->addWidget(m_aiSearchHint);
+    }
+    return m_aiSearchHint;
 }
 
 void ContentPages::loadImages()
@@ -118,4 +148,16 @@ void ContentPages::retranslate()
     m_form.labLoadingText->setText(translatedKey("ai_tags_loading_desc"));
     m_form.labNoFilterTitle->setText(translatedKey("filter_empty_title"));
     m_form.labNoFilterText->setText(translatedKey("filter_empty_desc"));
+    if (m_searchHint)
+        m_searchHint->doChangeLanguage();
+    if (m_aiSearchHint)
+        m_aiSearchHint->doChangeLanguage();
+}
+
+void ContentPages::updateTheme()
+{
+    if (m_searchHint)
+        m_searchHint->updateTheme();
+    if (m_aiSearchHint)
+        m_aiSearchHint->updateTheme();
 }

@@ -4,7 +4,9 @@
 
 #include <QObject>
 
+class AISearchHintFrame;
 class ScanAnimation;
+class SearchHintFrame;
 
 namespace Ui {
 class SDCardContentDataWidgetClass;
@@ -41,16 +43,21 @@ public:
 
     void applyFonts();
     void retranslate();
+    void updateTheme();
 
 signals:
     void shown();
 
 private:
+    QWidget *searchHint();
+    QWidget *aiSearchHint();
     void loadImages();
     PageChoice::Situation situation(const TreeItemData *root) const;
 
     Ui::SDCardContentDataWidgetClass &m_form;
     ScanAnimation *m_animation;
+    SearchHintFrame *m_searchHint = nullptr;
+    AISearchHintFrame *m_aiSearchHint = nullptr;
     const FilterCondition *m_filter = nullptr;
     const bool m_searchSide;
     bool m_searchMode = false;

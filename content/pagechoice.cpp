@@ -49,8 +49,10 @@ Page forTree(const Situation &situation)
 {
     if (hasItems(situation.root))
         return Page::Results;
-    if (situation.searchSide)
-        return Page::NoData;
+    if (situation.searchSide) {
+        const bool described = situation.filter && situation.filter->aiSearch;
+        return described ? Page::AISearchHint : Page::SearchHint;
+    }
     return situation.scanFinished ? nothingFound(situation) : Page::Scanning;
 }
 

@@ -6,7 +6,7 @@ class TreeItemData;
 /// Which page of a content area fits what is known. Plain decisions, no widgets.
 namespace PageChoice {
 
-enum class Page { Results, Scanning, NoData, Loading, NoFilter };
+enum class Page { Results, Scanning, NoData, Loading, NoFilter, SearchHint, AISearchHint };
 
 /// What the decisions depend on. \a filter and \a root may be null.
 struct Situation

@@ -155,6 +155,7 @@ void SDCardContentDataWidget::updateTheme(THEMETYPE)
         m_checkAll->refresh();
         ui->iconModeHederView->updateTheme();
         m_views->list()->updateTheme();
+        m_pages->updateTheme();
         m_menu->updateTheme();
         m_views->repaint();
     });

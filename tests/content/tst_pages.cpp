@@ -9,7 +9,7 @@
 
 namespace {
 
-enum Step { Start, Finish, Stop, Empty, Full, Unknown, Load, Reset, SearchMode, Filter };
+enum Step { Start, Finish, Stop, Empty, Full, Unknown, Load, Reset, SearchMode, Filter, Describe };
 
 } // namespace
 
@@ -25,6 +25,7 @@ private slots:
     void page();
     void filterActivity_data();
     void filterActivity();
+    void hintPagesAreMadeOnce();
     void nullRootChangesNothing();
     void missingAnimationLeavesAUsablePage();
 };
@@ -59,6 +60,13 @@ void TestPages::page_data()
     row("loading of a search", 1, {SearchMode, Start, Full, Finish, Load}, "scandatapage");
     row("reset", 1, {Start, Empty, Finish, Reset}, "scandatapage");
     row("search with items", 2, {Full}, "scandatapage");
+    row("search without", 2, {Empty}, "SearchHintFrame");
+    row("filtered search without", 2, {Filter, Empty}, "SearchHintFrame");
+    row("described search without", 2, {Describe, Empty}, "AISearchHintFrame");
+    row("by name, then described", 2, {Empty, Describe, Empty}, "AISearchHintFrame");
+    row("found after all", 2, {Empty, Full}, "scandatapage");
+    row("hint page after the end", 2, {Empty, Finish}, "SearchHintFrame");
+    row("no hint on the scan side", 1, {Describe, Start, Finish, Empty}, "nodatapage");
 }
 
 void TestPages::page()
@@ -74,7 +82,6 @@ void TestPages::page()
     unknown.addFiles(3);
     unknown.root.itemCount = -1;
     FilterCondition filter;
-    filter.minSize = 1;
 
     SDCardContentDataWidget widget(side);
     for (int step : qAsConst(steps)) {
@@ -107,6 +114,11 @@ void TestPages::page()
             widget.setSearchMode(true);
             break;
         case Filter:
+            filter.minSize = 1;
+            widget.setFilterCondition(&filter);
+            break;
+        case Describe:
+            filter.aiSearch = true;
             widget.setFilterCondition(&filter);
             break;
         }
@@ -147,6 +159,21 @@ void TestPages::filterActivity()
     QFETCH(bool, active);
     QCOMPARE(PageChoice::isFilterActive(&filter), active);
     QVERIFY(!PageChoice::isFilterActive(nullptr));
+}
+
+void TestPages::hintPagesAreMadeOnce()
+{
+    RecordTree empty;
+    FilterCondition filter;
+    SDCardContentDataWidget widget(2);
+    widget.setFilterCondition(&filter);
+    const auto *stack = widget.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+    const int before = stack->count();
+    for (bool described : {false, true, false, true}) {
+        filter.aiSearch = described;
+        widget.updateData(&empty.root, QStringLiteral("x"));
+    }
+    QCOMPARE(stack->count(), before + 2);
 }
 
 void TestPages::nullRootChangesNothing()
