@@ -20,12 +20,14 @@ function(scan_translations target)
 endfunction()
 
 # update-texts: brings every catalogue up to date with the sources, for a translator to go on from.
-# By hand only: it writes into the source tree.
+# By hand only: it writes into the source tree. A test that does the same to copies finds the
+# arguments in the global property TARGET_ARGUMENTS.
 function(scan_update_texts target folder)
+    set(arguments -silent -no-obsolete -locations none -source-language en ${ARGN})
+    set_property(GLOBAL PROPERTY ${target}_ARGUMENTS "${arguments}")
     file(GLOB catalogues "${folder}/*.ts")
     add_custom_target(${target}
-        COMMAND Qt5::lupdate -silent -no-obsolete -locations none -source-language en
-                ${ARGN} -ts ${catalogues}
+        COMMAND Qt5::lupdate ${arguments} -ts ${catalogues}
         WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
         COMMENT "Updating the catalogues" VERBATIM)
 endfunction()

@@ -1,11 +1,18 @@
 #include "host/ui/texts.h"
 
+#include "platform/lang/zvlang.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
+// By the library that the plug-in asks too: one file must not have two sizes in one window.
 QString Texts::size(qint64 bytes)
 {
-    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
+    const QString request = QStringLiteral("{\"lang\":\"%1\",\"bytes\":%2,\"precision\":1}");
+    char answer[LangAnswerSize] = {};
+    Lang_GetStorageStr(request.arg(QLocale().name()).arg(bytes).toUtf8().constData(), answer,
+                       nullptr);
+    return QString::fromUtf8(answer);
 }
 
 QString Texts::number(qint64 number)

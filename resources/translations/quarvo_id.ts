@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Audio file</source>
-        <translation>Berkas audio</translation>
+        <translation>File audio</translation>
     </message>
     <message>
         <source>Video</source>
@@ -577,11 +577,11 @@
     </message>
     <message>
         <source>File</source>
-        <translation>Berkas</translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>%1 file</source>
-        <translation>Berkas %1</translation>
+        <translation>File %1</translation>
     </message>
     <message>
         <source>items: %1</source>

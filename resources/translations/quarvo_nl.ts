@@ -281,7 +281,7 @@
     <message>
         <source>recoverability_assessing</source>
         <extracomment>The level is not known yet, in a small label on a card</extracomment>
-        <translation>Beoordelen…</translation>
+        <translation>Beoordeling</translation>
     </message>
     <message>
         <source>scanning</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>items: %1</source>
-        <translation>items: %1</translation>
+        <translation>onderdelen: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>

@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Audio file</source>
-        <translation>Arquivo de áudio</translation>
+        <translation>Ficheiro de áudio</translation>
     </message>
     <message>
         <source>Video</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>Database</source>
-        <translation>Banco de dados</translation>
+        <translation>Base de dados</translation>
     </message>
     <message>
         <source>Photo</source>
@@ -569,19 +569,19 @@
     </message>
     <message>
         <source>Web page</source>
-        <translation>Página da Web</translation>
+        <translation>Página Web</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation>Arquivo compactado</translation>
-    </message>
-    <message>
-        <source>File</source>
         <translation>Arquivo</translation>
     </message>
     <message>
+        <source>File</source>
+        <translation>Ficheiro</translation>
+    </message>
+    <message>
         <source>%1 file</source>
-        <translation>Arquivo %1</translation>
+        <translation>Ficheiro %1</translation>
     </message>
     <message>
         <source>items: %1</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>Scroll bar</source>
-        <translation>Barra de rolagem</translation>
+        <translation>Barra de deslocamento</translation>
     </message>
     <message>
         <source>, </source>

@@ -281,7 +281,7 @@
     <message>
         <source>recoverability_assessing</source>
         <extracomment>The level is not known yet, in a small label on a card</extracomment>
-        <translation>Оценка…</translation>
+        <translation>Оценка</translation>
     </message>
     <message>
         <source>scanning</source>

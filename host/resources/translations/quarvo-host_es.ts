@@ -115,6 +115,10 @@
         <translation>Marcar todo en «%1»</translation>
     </message>
     <message>
+        <source>Check everything here</source>
+        <translation>Marcar todo aquí</translation>
+    </message>
+    <message>
         <source>Check everything found</source>
         <translation>Marcar todo lo encontrado</translation>
     </message>

@@ -115,6 +115,10 @@
         <translation>Cocher tout dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
+        <source>Check everything here</source>
+        <translation>Cocher tout ici</translation>
+    </message>
+    <message>
         <source>Check everything found</source>
         <translation>Cocher tout ce qui a été trouvé</translation>
     </message>

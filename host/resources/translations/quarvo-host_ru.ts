@@ -120,6 +120,10 @@
         <translation>Отметить всё в «%1»</translation>
     </message>
     <message>
+        <source>Check everything here</source>
+        <translation>Отметить всё здесь</translation>
+    </message>
+    <message>
         <source>Check everything found</source>
         <translation>Отметить всё найденное</translation>
     </message>

@@ -115,6 +115,10 @@
         <translation>Markera allt i ”%1”</translation>
     </message>
     <message>
+        <source>Check everything here</source>
+        <translation>Markera allt här</translation>
+    </message>
+    <message>
         <source>Check everything found</source>
         <translation>Markera allt som hittats</translation>
     </message>
