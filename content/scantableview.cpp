@@ -109,9 +109,7 @@ void ScanTableView::paintCurrentRow()
         return;
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
-    QColor color(65, 132, 248);
-    color.setAlphaF(hasFocus() ? 0.9 : 0.45);
-    painter.setPen(color);
+    painter.setPen(hasFocus() ? m_focusedRowColor : m_currentRowColor);
     painter.drawRoundedRect(outline.adjusted(0.5, 0.5, -0.5, -0.5), OutlineRadius, OutlineRadius);
 }
 

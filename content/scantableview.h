@@ -2,6 +2,8 @@
 
 #include "content/handview.h"
 
+#include <QColor>
+
 class QRubberBand;
 
 /// The table of the list modes: rows with a hovered cell for the delegate to paint, and a rubber
@@ -10,6 +12,9 @@ class QRubberBand;
 class ScanTableView : public HandView<QTableView>
 {
     Q_OBJECT
+    // for the stylesheet: the outline of the current row, with the keyboard in the table or not
+    Q_PROPERTY(QColor focusedRowColor MEMBER m_focusedRowColor)
+    Q_PROPERTY(QColor currentRowColor MEMBER m_currentRowColor)
 
 public:
     explicit ScanTableView(QWidget *parent = nullptr);
@@ -63,4 +68,6 @@ private:
     int m_hoverRow = -1;
     int m_hoverColumn = -1;
     QRubberBand *m_rubberBand;
+    QColor m_focusedRowColor = Qt::blue;
+    QColor m_currentRowColor = Qt::gray;
 };

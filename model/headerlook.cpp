@@ -5,11 +5,9 @@
 #include "common/fontmanager.h"
 #include "model/headersection.h"
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
-#include <QVariant>
 #include <QtMath>
 
 #include <algorithm>
@@ -51,12 +49,6 @@ HeaderLook::HeaderLook()
 
 void HeaderLook::updateTheme()
 {
-    const QCoreApplication *app = QCoreApplication::instance();
-    const bool dark = app && app->property("ThemeType").toInt() == 1;
-    m_text = dark ? QColor(255, 255, 255, 178) : QColor(0, 0, 0, 178);
-    m_strongText = dark ? QColor(255, 255, 255, 224) : QColor(0, 0, 0, 217);
-    m_hairline = dark ? QColor(255, 255, 255, 20) : QColor(13, 44, 110, 26);
-
     m_checked = CommonFunction::themePixmap(checkIconName(Qt::Checked));
     m_unchecked = CommonFunction::themePixmap(checkIconName(Qt::Unchecked));
     m_halfChecked = CommonFunction::themePixmap(checkIconName(Qt::PartiallyChecked));
@@ -88,7 +80,7 @@ void HeaderLook::paint(QPainter *painter, const HeaderSection &section,
     if (!section.checkBox.isNull())
         painter->drawPixmap(section.checkBox, checkPixmap(heading.checkState));
     painter->setFont(font);
-    painter->setPen(sorted || heading.hovered ? m_strongText : m_text);
+    painter->setPen(sorted || heading.hovered ? heading.strongText : heading.plainText);
     painter->drawText(
         textRect,
         int(QStyle::visualAlignment(section.direction, Qt::AlignLeft)) | Qt::AlignVCenter
@@ -99,19 +91,19 @@ void HeaderLook::paint(QPainter *painter, const HeaderSection &section,
     painter->restore();
 }
 
-void HeaderLook::paintHairline(QPainter *painter, const QRect &header) const
+void HeaderLook::paintHairline(QPainter *painter, const QRect &header, const QColor &color)
 {
-    painter->fillRect(header.left(), header.bottom(), header.width(), 1, m_hairline);
+    painter->fillRect(header.left(), header.bottom(), header.width(), 1, color);
 }
 
-void HeaderLook::paintFocus(QPainter *painter, const QRect &part) const
+void HeaderLook::paintFocus(QPainter *painter, const QRect &part, const QColor &color)
 {
     constexpr qreal Radius = 4;
     constexpr qreal Width = 2;
     constexpr qreal Inset = Width / 2 + 1;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(QColor(65, 132, 248), Width));
+    painter->setPen(QPen(color, Width));
     painter->drawRoundedRect(QRectF(part).adjusted(Inset, Inset, -Inset, -Inset), Radius, Radius);
     painter->restore();
 }

@@ -21,17 +21,19 @@ public:
         Mark mark = NoMark;
         bool hovered = false;
         int checkState = 0; ///< of the box, where the section has one
+        QColor plainText;
+        QColor strongText; ///< of the section that is sorted by, and of the one under the mouse
     };
 
     HeaderLook();
 
-    /// Takes colours and pictures of the theme that is set now.
+    /// Takes the pictures of the theme that is set now.
     void updateTheme();
     void paint(QPainter *painter, const HeaderSection &section, const Heading &heading) const;
     /// Around the part of the header that the keyboard acts on.
-    void paintFocus(QPainter *painter, const QRect &part) const;
+    static void paintFocus(QPainter *painter, const QRect &part, const QColor &color);
     /// Under all of the header, beside its sections too.
-    void paintHairline(QPainter *painter, const QRect &header) const;
+    static void paintHairline(QPainter *painter, const QRect &header, const QColor &color);
 
     /// The same whether the section is sorted by or not, so that nothing moves when that changes.
     static int textWidth(const QString &text);
@@ -44,5 +46,4 @@ private:
 
     QPixmap m_checked, m_unchecked, m_halfChecked;
     QPixmap m_sortDefault, m_sortAscend, m_sortDescend;
-    QColor m_text, m_strongText, m_hairline;
 };

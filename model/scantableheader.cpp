@@ -338,16 +338,16 @@ void ScanTableHeader::paintEvent(QPaintEvent *)
         if (!isSectionHidden(section))
             paintSection(&painter, sectionAt(section).rect, section);
     }
-    m_look.paintHairline(&painter, viewport()->rect());
+    HeaderLook::paintHairline(&painter, viewport()->rect(), m_hairlineColor);
     if (hasFocus() && count() > 0)
-        m_look.paintFocus(&painter, partRect(m_focusPart));
+        HeaderLook::paintFocus(&painter, partRect(m_focusPart), m_focusColor);
 }
 
 void ScanTableHeader::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const
 {
     if (!rect.isValid())
         return;
-    m_look.paint(
-        painter, HeaderSection(rect, logicalIndex, layoutDirection()),
-        {textOf(logicalIndex), markOf(logicalIndex), logicalIndex == m_hoverSection, m_checkState});
+    m_look.paint(painter, HeaderSection(rect, logicalIndex, layoutDirection()),
+                 {textOf(logicalIndex), markOf(logicalIndex), logicalIndex == m_hoverSection,
+                  m_checkState, m_textColor, m_strongTextColor});
 }

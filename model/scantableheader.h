@@ -15,6 +15,11 @@ struct HeaderSection;
 class ScanTableHeader : public QHeaderView
 {
     Q_OBJECT
+    // for the stylesheet
+    Q_PROPERTY(QColor textColor MEMBER m_textColor)
+    Q_PROPERTY(QColor strongTextColor MEMBER m_strongTextColor)
+    Q_PROPERTY(QColor hairlineColor MEMBER m_hairlineColor)
+    Q_PROPERTY(QColor focusColor MEMBER m_focusColor)
 
 public:
     explicit ScanTableHeader(QWidget *parent = nullptr);
@@ -101,5 +106,9 @@ private:
     bool m_edgeCursor = false;
     int m_hoverSection = SortCycle::NoSection;
     bool m_detailPaneShown = false;
-    int m_fittedWidth = -1; ///< of the viewport; -1: the columns want fitting
+    int m_fittedWidth = -1;        ///< of the viewport; -1: the columns want fitting
+    QColor m_textColor = Qt::gray; ///< on a page of either theme, where no stylesheet has come
+    QColor m_strongTextColor = Qt::gray;
+    QColor m_hairlineColor = Qt::gray;
+    QColor m_focusColor = Qt::gray;
 };

@@ -64,6 +64,14 @@ const std::vector<Page> &all()
              stage.click(1);
              stage.hover(3, 4);
          }},
+        {"list-links",
+         [](Stage &stage) {
+             stage.showSearch(&stage.records().matches, Records::keyword(),
+                              Interface::ListWithDetailView);
+             stage.click(4);
+             stage.hover(4, 3);
+             Stage::settle(PaneRestMs);
+         }},
         {"scanning",
          [](Stage &stage) {
              stage.view()->setScanState(Interface::ScanStarted);

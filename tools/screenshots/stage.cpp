@@ -16,6 +16,7 @@ Stage::Stage(const QSize &size)
     m_window.resize(size);
     auto *layout = new QHBoxLayout(&m_window);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetNoConstraint); // a window is as small as its user wants
     m_records = std::make_unique<Records>(m_window.devicePixelRatioF());
 }
 
