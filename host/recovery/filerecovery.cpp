@@ -1,12 +1,12 @@
 #include "host/recovery/filerecovery.h"
 
 #include "host/recovery/recoverytexts.h"
+#include "host/tree/texts.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QLocale>
 
 #include <chrono>
 #include <filesystem>
@@ -118,12 +118,9 @@ bool FileRecovery::isPointless(qint64 size, QString *reason)
         m_report.stopReason = RecoveryTexts::tr("There is no room left at %1.").arg(folder);
         *reason = m_report.stopReason;
     } else {
-        const QLocale locale;
         *reason = RecoveryTexts::tr(
                       "There is not enough room at %1: the file needs %2, %3 are free.")
-                      .arg(folder,
-                           locale.formattedDataSize(size, 1, QLocale::DataSizeTraditionalFormat),
-                           locale.formattedDataSize(room, 1, QLocale::DataSizeTraditionalFormat));
+                      .arg(folder, Texts::size(size), Texts::size(room));
     }
     return true;
 }

@@ -1,20 +1,24 @@
 #include "host/ui/bottombar.h"
 
+#include "host/tree/texts.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
-#include "host/ui/texts.h"
 
+#include <QDir>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStyle>
+#include <QToolButton>
 #include <QVariant>
 
 namespace {
 constexpr int ProgressSteps = 1000;
 constexpr int ProgressWidth = 120;
 constexpr int IconSide = 18;
+constexpr int WarningSide = 14;
 } // namespace
 
 BottomBar::BottomBar(QWidget *parent)
@@ -25,14 +29,18 @@ BottomBar::BottomBar(QWidget *parent)
     , m_stop(new QPushButton(this))
     , m_checked(new QLabel(this))
     , m_checkedDetail(new QLabel(this))
+    , m_warning(new QLabel(this))
+    , m_choose(new QToolButton(this))
     , m_recover(new QPushButton(this))
 {
     setObjectName(QStringLiteral("bottomBar"));
     m_detail->setObjectName(QStringLiteral("caption"));
-    m_checkedDetail->setObjectName(QStringLiteral("caption"));
+    m_checkedDetail->setObjectName(QStringLiteral("targetLine"));
     m_checked->setObjectName(QStringLiteral("emphasis"));
     m_bar->setTextVisible(false);
     m_bar->setFixedWidth(ProgressWidth);
+    m_choose->setProperty("iconOnly", true);
+    m_choose->setIconSize({IconSide, IconSide});
     m_recover->setProperty("primary", true);
     m_recover->setIconSize({IconSide, IconSide});
 
@@ -42,8 +50,13 @@ BottomBar::BottomBar(QWidget *parent)
     found->addWidget(m_detail);
     auto *chosen = new QVBoxLayout;
     chosen->setSpacing(0);
-    chosen->addWidget(m_checked, 0, Qt::AlignRight);
-    chosen->addWidget(m_checkedDetail, 0, Qt::AlignRight);
+    auto *line = new QHBoxLayout;
+    line->setSpacing(4);
+    line->addStretch();
+    line->addWidget(m_warning);
+    line->addWidget(m_checkedDetail);
+    chosen->addWidget(m_checked, 0, Qt::AlignTrailing);
+    chosen->addLayout(line);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 10, 12, 10);
     row->setSpacing(12);
@@ -52,9 +65,11 @@ BottomBar::BottomBar(QWidget *parent)
     row->addWidget(m_stop);
     row->addStretch();
     row->addLayout(chosen);
+    row->addWidget(m_choose);
     row->addWidget(m_recover);
 
     connect(m_stop, &QPushButton::clicked, this, &BottomBar::stopRequested);
+    connect(m_choose, &QToolButton::clicked, this, &BottomBar::targetRequested);
     connect(m_recover, &QPushButton::clicked, this, &BottomBar::recoverRequested);
     retranslate();
 }
@@ -87,13 +102,45 @@ void BottomBar::setChecked(int files, qint64 bytes, int hidden)
     m_files = files;
     m_bytes = bytes;
     m_hidden = hidden;
-    m_recover->setEnabled(files > 0);
-    m_checked->setText(files > 0 ? tr("%Ln file(s) checked", nullptr, files) : QString());
-    QString detail = files > 0 ? Texts::size(bytes) : tr("Nothing checked");
-    if (hidden > 0)
-        detail += QStringLiteral(" · ") + tr("%Ln hidden by the filter", nullptr, hidden);
+    refreshChecked();
+}
+
+void BottomBar::setTarget(const QString &folder, qint64 freeBytes)
+{
+    m_target = folder;
+    m_free = freeBytes;
+    refreshChecked();
+}
+
+void BottomBar::refreshChecked()
+{
+    m_recover->setEnabled(m_files > 0);
+    QString checked = m_files > 0 ? tr("%Ln file(s) checked", nullptr, m_files) : QString();
+    if (m_hidden > 0)
+        checked += QStringLiteral(" · ") + tr("%Ln hidden by the filter", nullptr, m_hidden);
+    m_checked->setText(checked);
+    m_checked->setVisible(m_files > 0);
+
+    QString detail = tr("Nothing checked");
+    if (m_files > 0 && m_free < 0)
+        detail = Texts::size(m_bytes);
+    else if (m_files > 0)
+        detail = (isTooMuch() ? tr("%1 needed, only %2 free at the target")
+                              : tr("%1 of %2 free at the target", "needed, free"))
+                     .arg(Texts::size(m_bytes), Texts::size(m_free));
     m_checkedDetail->setText(detail);
-    m_checked->setVisible(files > 0);
+    m_checkedDetail->setToolTip(QDir::toNativeSeparators(m_target));
+    m_warning->setVisible(isTooMuch());
+    if (m_checkedDetail->property("warns").toBool() != isTooMuch()) {
+        m_checkedDetail->setProperty("warns", isTooMuch());
+        m_checkedDetail->style()->unpolish(m_checkedDetail);
+        m_checkedDetail->style()->polish(m_checkedDetail);
+    }
+    m_choose->setToolTip(
+        m_target.isEmpty()
+            ? tr("Choose the folder to recover to")
+            : tr("Recover to %1. Choose another folder…").arg(QDir::toNativeSeparators(m_target)));
+    m_choose->setAccessibleName(m_choose->toolTip());
 }
 
 void BottomBar::retranslate()
@@ -102,7 +149,7 @@ void BottomBar::retranslate()
     m_recover->setText(tr("Recover…"));
     m_bar->setAccessibleName(tr("Progress of the scan"));
     setProgress(m_progress, m_scanning);
-    setChecked(m_files, m_bytes, m_hidden);
+    refreshChecked();
 }
 
 void BottomBar::changeEvent(QEvent *event)
@@ -115,5 +162,8 @@ void BottomBar::changeEvent(QEvent *event)
 void BottomBar::setTheme(const HostTheme &theme)
 {
     theme.applyTo(this);
+    m_choose->setIcon(glyphIcon(Glyph::OpenFolder, theme.icon));
+    m_warning->setPixmap(glyphIcon(Glyph::Warning, theme.warn)
+                             .pixmap(window()->windowHandle(), {WarningSide, WarningSide}));
     m_recover->setIcon(glyphIcon(Glyph::Recover, Qt::white, theme.offText));
 }

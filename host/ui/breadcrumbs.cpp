@@ -1,9 +1,8 @@
 #include "host/ui/breadcrumbs.h"
 
-#include "host/tree/itemkinds.h"
+#include "host/tree/texts.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
-#include "host/ui/texts.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -41,12 +40,6 @@ Breadcrumbs::Breadcrumbs(const ItemTree &tree, QWidget *parent)
     });
 }
 
-QString Breadcrumbs::titleOf(const ItemRecord &record) const
-{
-    const QString title = record.rootType != 0 ? ItemKinds::titleOf(record.rootType) : record.name;
-    return title.isEmpty() ? tr("Card") : title;
-}
-
 void Breadcrumbs::follow(ItemRecord *shown)
 {
     m_shown = shown;
@@ -79,7 +72,7 @@ void Breadcrumbs::addPlacesMenu(QToolButton *button)
     const auto add = [this, menu](ItemRecord *root, Glyph glyph) {
         QAction *action = menu->addAction(
             glyphIcon(glyph, m_icon, m_off),
-            QStringLiteral("%1 (%2)").arg(titleOf(*root), Texts::number(root->itemCount)));
+            QStringLiteral("%1 (%2)").arg(Texts::titleOf(*root), Texts::number(root->itemCount)));
         connect(action, &QAction::triggered, this, [this, root] { emit picked(root); });
     };
     connect(menu, &QMenu::aboutToShow, this, [this, menu, add] {
@@ -121,7 +114,7 @@ void Breadcrumbs::rebuild()
         way.prepend(record);
     for (int i = 0; i < way.size(); ++i) {
         ItemRecord *record = way[i];
-        QToolButton *crumb = addCrumb(titleOf(*record), i == way.size() - 1);
+        QToolButton *crumb = addCrumb(Texts::titleOf(*record), i == way.size() - 1);
         if (i == 0)
             addPlacesMenu(crumb);
         else

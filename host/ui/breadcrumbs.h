@@ -30,7 +30,6 @@ protected:
     QSize minimumSizeHint() const override;
 
 private:
-    QString titleOf(const ItemRecord &record) const;
     QToolButton *addCrumb(const QString &text, bool last);
     void addPlacesMenu(QToolButton *button);
     void rebuild();

@@ -1,6 +1,7 @@
 #include "host/ui/bulkmenu.h"
 
 #include "host/tree/itemkinds.h"
+#include "host/tree/texts.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
 
@@ -62,13 +63,10 @@ void BulkMenu::refresh()
     if (m_session.search().isActive()) {
         m_shown->setText(tr("Check everything found"));
     } else {
-        QString title = shown && shown->rootType != 0 ? ItemKinds::titleOf(shown->rootType)
-            : shown                                   ? shown->name
-                                                      : QString();
+        QString title = shown ? Texts::titleOf(*shown) : QString();
         title = fontMetrics().elidedText(title, Qt::ElideMiddle, MaxNameWidth);
         title.replace(QLatin1Char('&'), QLatin1String("&&"));
-        m_shown->setText(title.isEmpty() ? tr("Check everything here")
-                                         : tr("Check everything in “%1”").arg(title));
+        m_shown->setText(tr("Check everything in “%1”").arg(title));
     }
     m_shown->setEnabled(shown && shown->itemCount > 0);
     m_photos->setEnabled(photos && photos->itemCount > 0);

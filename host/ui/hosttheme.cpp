@@ -45,7 +45,7 @@ HostTheme HostTheme::light()
     theme.accentPress = QColor(36, 99, 214);
     theme.accentText = QColor(33, 99, 216);
     theme.accentVeil = veil(theme.accent, 12);
-    theme.warn = QColor(196, 118, 8);
+    theme.warn = QColor(150, 86, 0);
     theme.good = QColor(46, 148, 98);
     theme.bad = QColor(206, 66, 63);
     return theme;

@@ -2,12 +2,12 @@
 
 #include "host/app/hostsettings.h"
 #include "host/app/languages.h"
+#include "host/recovery/targetcheck.h"
 #include "host/scan/filecategory.h"
 #include "host/ui/bottombar.h"
 #include "host/ui/breadcrumbs.h"
 #include "host/ui/bulkmenu.h"
 #include "host/ui/filterbar.h"
-#include "host/ui/messagebanner.h"
 #include "host/ui/pictureviewer.h"
 #include "host/ui/recoverydialog.h"
 #include "host/ui/sidepanel.h"
@@ -17,6 +17,7 @@
 #include <QCursor>
 #include <QFileDialog>
 #include <QHBoxLayout>
+#include <QMessageBox>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStandardPaths>
@@ -50,6 +51,10 @@ MainWindow::MainWindow(ContentPlugin &plugin, Session &session)
     connectBars();
     connectSession();
     addShortcuts();
+    const QString target = HostSettings::target();
+    m_room.setFolder(target.isEmpty()
+                         ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                         : target);
     setTheme(THEMETYPE(qApp->property("ThemeType").toInt()));
 }
 
@@ -112,8 +117,11 @@ void MainWindow::connectBars()
     connect(m_side, &SidePanel::picked, &m_session, &Session::show);
     connect(m_crumbs, &Breadcrumbs::picked, &m_session, &Session::show);
     connect(m_bottomBar, &BottomBar::stopRequested, &m_session, &Session::cancelScan);
+    connect(m_bottomBar, &BottomBar::targetRequested, this, &MainWindow::pickTarget);
+    connect(&m_room, &FreeSpace::changed, this,
+            [this] { m_bottomBar->setTarget(m_room.folder(), m_room.bytes()); });
     connect(m_bottomBar, &BottomBar::recoverRequested, this,
-            [this] { chooseTarget(m_session.checkedForRecovery()); });
+            [this] { recoverChosen(m_session.checkedForRecovery()); });
 }
 
 void MainWindow::connectSession()
@@ -134,7 +142,7 @@ void MainWindow::connectSession()
     connect(&m_session, &Session::fileActivated, this, &MainWindow::openFile);
     connect(
         &m_session, &Session::recoverRequested, this,
-        [this] { chooseTarget(m_session.selectedForRecovery()); },
+        [this] { recoverChosen(m_session.selectedForRecovery()); },
         Qt::QueuedConnection); // a dialog must not open inside the plug-in's signal
     connect(&m_session, &Session::noticed, this,
             [this](const QString &text) { m_banner->tell(MessageBanner::Hint, text); });
@@ -299,20 +307,61 @@ void MainWindow::chooseImage()
         openSource(path);
 }
 
-void MainWindow::chooseTarget(const QVector<FoundItem> &items)
+QString MainWindow::pickTarget()
+{
+    QString target = m_room.folder();
+    while (true) {
+        target = QFileDialog::getExistingDirectory(this, tr("Recover to"), target);
+        if (target.isEmpty())
+            return target;
+        const QString reason = TargetCheck::refusal(m_session.path(), target);
+        if (reason.isEmpty())
+            break;
+        QMessageBox::warning(this, tr("Recover to"), reason);
+    }
+    HostSettings::setTarget(target);
+    m_room.setFolder(target);
+    return target;
+}
+
+void MainWindow::recoverChosen(const QVector<FoundItem> &items)
 {
     if (items.isEmpty()) {
         m_banner->tell(MessageBanner::Hint, [] { return tr("There is nothing to recover."); });
         return;
     }
-    const QString home = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
-    const QString target = QFileDialog::getExistingDirectory(this, tr("Recover to"), home);
+    const QString target = pickTarget();
     if (!target.isEmpty())
         recover(items, target);
 }
 
+/// Nothing has been written: every file is told as failed.
+void MainWindow::refuse(const QVector<FoundItem> &items, const MessageBanner::Words &reason)
+{
+    RecoveryReport report;
+    report.stopReason = reason();
+    for (const FoundItem &item : items)
+        report.failed.append({item.fullPath(), report.stopReason});
+    m_banner->tell(MessageBanner::Failure, reason);
+    emit recovered(report);
+}
+
 void MainWindow::recover(const QVector<FoundItem> &items, const QString &target)
 {
+    const QString source = m_session.path();
+    qint64 bytes = 0;
+    for (const FoundItem &item : items)
+        bytes += item.size;
+    const auto onCard = [source, target] { return TargetCheck::refusal(source, target); };
+    const auto tooMuch = [bytes, target] { return TargetCheck::refusalForSize(bytes, target); };
+    if (!onCard().isEmpty()) {
+        refuse(items, onCard);
+        return;
+    }
+    if (!tooMuch().isEmpty()) {
+        refuse(items, tooMuch);
+        return;
+    }
     auto *dialog = new RecoveryDialog(m_session.source(), m_theme, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::WindowModal);
@@ -354,6 +403,18 @@ void MainWindow::resizeEvent(QResizeEvent *event)
     QMainWindow::resizeEvent(event);
     m_side->setVisible(width() >= SidePanelFrom);
     m_bulk->setCompact(width() < BulkTextFrom);
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    m_room.setWatching(true);
+}
+
+void MainWindow::hideEvent(QHideEvent *event)
+{
+    QMainWindow::hideEvent(event);
+    m_room.setWatching(false);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

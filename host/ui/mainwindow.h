@@ -1,9 +1,11 @@
 #pragma once
 
 #include "host/app/fileopener.h"
+#include "host/app/freespace.h"
 #include "host/app/session.h"
 #include "host/recovery/recoveryreport.h"
 #include "host/ui/hosttheme.h"
+#include "host/ui/messagebanner.h"
 
 #include <QMainWindow>
 
@@ -11,7 +13,6 @@ class BottomBar;
 class Breadcrumbs;
 class BulkMenu;
 class FilterBar;
-class MessageBanner;
 class QStackedWidget;
 class SidePanel;
 class TopBar;
@@ -40,6 +41,8 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -50,7 +53,10 @@ private:
     void switchLanguage(const QString &name);
     void chooseFolder();
     void chooseImage();
-    void chooseTarget(const QVector<FoundItem> &items);
+    /// The folder that the user picks; empty when it is none.
+    QString pickTarget();
+    void recoverChosen(const QVector<FoundItem> &items);
+    void refuse(const QVector<FoundItem> &items, const MessageBanner::Words &reason);
     void openFile(const ItemRecord *file);
     void refreshSide();
     void refreshChecks();
@@ -62,6 +68,7 @@ private:
     ContentPlugin &m_plugin;
     Session &m_session;
     FileOpener m_opener;
+    FreeSpace m_room;
     HostTheme m_theme = HostTheme::light();
     TopBar *m_topBar;
     MessageBanner *m_banner;

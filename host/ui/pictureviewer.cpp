@@ -1,8 +1,8 @@
 #include "host/ui/pictureviewer.h"
 
 #include "host/media/mediajobs.h"
+#include "host/tree/texts.h"
 #include "host/ui/glyphs.h"
-#include "host/ui/texts.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 #include "host/ui/recoverydialog.h"
 
+#include "host/tree/texts.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
-#include "host/ui/texts.h"
 
 #include <QDesktopServices>
 #include <QDir>

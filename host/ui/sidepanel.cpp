@@ -2,9 +2,9 @@
 
 #include "host/tree/itemkinds.h"
 #include "host/tree/itemtree.h"
+#include "host/tree/texts.h"
 #include "host/ui/hosttheme.h"
 #include "host/ui/segments.h"
-#include "host/ui/texts.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -122,9 +122,7 @@ void SidePanel::refreshRow(QTreeWidgetItem *row)
     const ItemRecord *record = recordOf(row);
     if (!record)
         return;
-    const QString title = record->rootType != 0 ? ItemKinds::titleOf(record->rootType)
-                                                : record->name;
-    row->setText(NameColumn, title.isEmpty() ? tr("Card") : title);
+    row->setText(NameColumn, Texts::titleOf(*record));
     row->setToolTip(NameColumn, row->text(NameColumn));
     row->setIcon(NameColumn, iconOf(*record));
     row->setText(CountColumn, Texts::number(record->itemCount));

@@ -26,6 +26,8 @@ private slots:
     void recoversWhatIsChecked();
     void aSecondRecoveryOverwritesNothing();
     void aTargetThatCannotBeWritten();
+    void aTargetOnTheCardIsRefused_data();
+    void aTargetOnTheCardIsRefused();
     void screenshotOfTheChosenSize();
     void runsWithoutADisplay();
 
@@ -230,6 +232,26 @@ void TestHostCli::aTargetThatCannotBeWritten()
     QCOMPARE(result.exitCode, 1);
     QCOMPARE(report()["failed"].toArray().size(), 3);
     QVERIFY(!report()["failed"].toArray().first().toObject()["reason"].toString().isEmpty());
+}
+
+void TestHostCli::aTargetOnTheCardIsRefused_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("in the folder") << "card/DCIM/out";
+    QTest::newRow("through a link") << "link/out";
+}
+
+void TestHostCli::aTargetOnTheCardIsRefused()
+{
+    QFETCH(QString, target);
+    QVERIFY(QFile::link(source(), m_folder->filePath("link")));
+    const Result result = run({source(), "--check", "*.txt", "--recover-to",
+                               m_folder->filePath(target), "--report",
+                               m_folder->filePath("report.json"), "--quit"});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.messages.contains("scanned"), qPrintable(result.messages));
+    QCOMPARE(report()["failed"].toArray().size(), 3);
+    QVERIFY(!QFile::exists(m_folder->filePath(target)));
 }
 
 void TestHostCli::screenshotOfTheChosenSize()

@@ -115,10 +115,6 @@
         <translation>Check everything in “%1”</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Check everything here</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Check everything found</translation>
     </message>

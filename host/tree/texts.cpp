@@ -1,5 +1,7 @@
-#include "host/ui/texts.h"
+#include "host/tree/texts.h"
 
+#include "host/tree/itemkinds.h"
+#include "host/tree/itemrecord.h"
 #include "platform/lang/zvlang.h"
 
 #include <QCoreApplication>
@@ -23,6 +25,12 @@ QString Texts::number(qint64 number)
 QString Texts::files(int count)
 {
     return QCoreApplication::translate("Texts", "%Ln file(s)", nullptr, count);
+}
+
+QString Texts::titleOf(const ItemRecord &record)
+{
+    const QString title = record.rootType != 0 ? ItemKinds::titleOf(record.rootType) : record.name;
+    return title.isEmpty() ? QCoreApplication::translate("SidePanel", "Card") : title;
 }
 
 QString Texts::folders(int count)
