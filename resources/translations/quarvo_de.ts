@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>scandataview_file_not_found_hint</source>
-        <translation>Es wurden keine Dateien dieser Art gefunden. Bitte prüfen, ob der richtige Datenträger zum Scannen gewählt ist.</translation>
+        <translation>Keine Dateien dieser Art gefunden. Bitte prüfen, ob der richtige Datenträger gewählt ist.</translation>
     </message>
     <message>
         <source>ai_tags_loading_title</source>
@@ -344,15 +344,15 @@
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Eine andere Beschreibung versuchen, etwa mit Dateityp, Datum oder Größe.</translation>
+        <translation>Anders beschreiben, etwa mit Dateityp, Datum oder Größe.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Solange der Scan noch läuft, abwarten, bis weitere Dateien gefunden sind.</translation>
+        <translation>Läuft der Scan noch, auf weitere Dateien warten.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>
-        <translation>Die Ergebnisse mit dem Filter oder der Suche nach Namen eingrenzen.</translation>
+        <translation>Die Ergebnisse filtern oder nach Namen suchen.</translation>
     </message>
     <message>
         <source>how_to_find_in_reconstructed</source>
@@ -360,7 +360,7 @@
     </message>
     <message>
         <source>reconstructed_tip_intro</source>
-        <translation>Manche Dateien haben ihren Namen verloren und lassen sich nicht mehr danach suchen. So sind sie trotzdem zu finden:</translation>
+        <translation>Manche Dateien haben ihren Namen verloren. So sind sie ohne Namenssuche zu finden:</translation>
     </message>
     <message>
         <source>click_reconstructed</source>
@@ -503,7 +503,7 @@
     </message>
     <message>
         <source>Sorry, the file type could not be found. Please check if the correct disk is selected for scanning.</source>
-        <translation>Es wurden keine Dateien dieser Art gefunden. Bitte prüfen, ob der richtige Datenträger zum Scannen gewählt ist.</translation>
+        <translation>Keine Dateien dieser Art gefunden. Bitte prüfen, ob der richtige Datenträger gewählt ist.</translation>
     </message>
     <message>
         <source>Loading Files...</source>

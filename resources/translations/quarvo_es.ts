@@ -344,15 +344,15 @@
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Pruebe con otra descripción, como un tipo de archivo, una fecha o un tamaño.</translation>
+        <translation>Pruebe otra descripción: tipo de archivo, fecha o tamaño.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Si el análisis sigue en curso, espere a que se encuentren más archivos.</translation>
+        <translation>Si el análisis sigue en curso, espere más resultados.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>
-        <translation>También puede acotar los resultados con el filtro o buscar por nombre.</translation>
+        <translation>También puede usar el filtro o buscar por nombre.</translation>
     </message>
     <message>
         <source>how_to_find_in_reconstructed</source>

@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>scandataview_file_not_found_hint</source>
-        <translation>Aucun fichier de ce type n’a été trouvé. Vérifiez que le bon disque a été choisi pour l’analyse.</translation>
+        <translation>Aucun fichier de ce type trouvé. Vérifiez que le bon disque est choisi pour l’analyse.</translation>
     </message>
     <message>
         <source>ai_tags_loading_title</source>
@@ -340,19 +340,19 @@
     </message>
     <message>
         <source>ai_search_empty_desc</source>
-        <translation>Aucun fichier des résultats actuels de l’analyse ne correspond à votre description.</translation>
+        <translation>Aucun des fichiers trouvés ne correspond à votre description.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Essayez une autre description, par exemple un type de fichier, une date ou une taille.</translation>
+        <translation>Essayez une autre description&#xa0;: type de fichier, date, taille.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Si l’analyse est encore en cours, attendez que d’autres fichiers soient trouvés.</translation>
+        <translation>Si l’analyse est en cours, attendez d’autres fichiers.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>
-        <translation>Vous pouvez aussi affiner les résultats avec le filtre ou la recherche par nom.</translation>
+        <translation>Affinez les résultats avec le filtre ou cherchez par nom.</translation>
     </message>
     <message>
         <source>how_to_find_in_reconstructed</source>
@@ -360,7 +360,7 @@
     </message>
     <message>
         <source>reconstructed_tip_intro</source>
-        <translation>Certains fichiers ont perdu leur nom et ne peuvent plus être retrouvés par celui-ci. Voici comment trouver les vôtres&#xa0;:</translation>
+        <translation>Certains fichiers ont perdu leur nom et ne se cherchent plus ainsi. Voici comment trouver les vôtres&#xa0;:</translation>
     </message>
     <message>
         <source>click_reconstructed</source>
@@ -503,7 +503,7 @@
     </message>
     <message>
         <source>Sorry, the file type could not be found. Please check if the correct disk is selected for scanning.</source>
-        <translation>Aucun fichier de ce type n’a été trouvé. Vérifiez que le bon disque a été choisi pour l’analyse.</translation>
+        <translation>Aucun fichier de ce type trouvé. Vérifiez que le bon disque est choisi pour l’analyse.</translation>
     </message>
     <message>
         <source>Loading Files...</source>

@@ -340,19 +340,19 @@
     </message>
     <message>
         <source>ai_search_empty_desc</source>
-        <translation>Tidak ada yang cocok dengan deskripsi Anda dalam hasil pemindaian saat ini.</translation>
+        <translation>Tidak ada hasil saat ini yang cocok dengan deskripsi Anda.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Coba deskripsi lain, misalnya jenis file, tanggal, atau ukuran.</translation>
+        <translation>Coba deskripsi lain: jenis file, tanggal, atau ukuran.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Jika pemindaian masih berjalan, tunggu hingga lebih banyak file ditemukan.</translation>
+        <translation>Jika pemindaian masih berjalan, tunggu file berikutnya.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>
-        <translation>Anda juga dapat mempersempit hasil dengan filter atau mencari berdasarkan nama.</translation>
+        <translation>Gunakan juga filter atau cari berdasarkan nama.</translation>
     </message>
     <message>
         <source>how_to_find_in_reconstructed</source>
@@ -360,7 +360,7 @@
     </message>
     <message>
         <source>reconstructed_tip_intro</source>
-        <translation>Beberapa file kehilangan namanya sehingga tidak dapat dicari berdasarkan nama. Begini cara menemukan file Anda:</translation>
+        <translation>Beberapa file kehilangan namanya sehingga tidak dapat dicari. Begini cara menemukannya:</translation>
     </message>
     <message>
         <source>click_reconstructed</source>

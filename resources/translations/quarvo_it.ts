@@ -340,15 +340,15 @@
     </message>
     <message>
         <source>ai_search_empty_desc</source>
-        <translation>Nei risultati attuali della scansione nulla corrisponde alla tua descrizione.</translation>
+        <translation>Nulla nei risultati attuali corrisponde alla descrizione.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Prova con un’altra descrizione, ad esempio un tipo di file, una data o una dimensione.</translation>
+        <translation>Prova un’altra descrizione: tipo di file, data, dimensione.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Se la scansione è ancora in corso, attendi che vengano trovati altri file.</translation>
+        <translation>Se la scansione è in corso, attendi che trovi altri file.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>

@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>scandataview_file_not_found_hint</source>
-        <translation>この種類のファイルは見つかりませんでした。スキャンするディスクが正しく選択されているか確認してください。</translation>
+        <translation>この種類のファイルは見つかりませんでした。スキャンするディスクを確認してください。</translation>
     </message>
     <message>
         <source>ai_tags_loading_title</source>
@@ -503,7 +503,7 @@
     </message>
     <message>
         <source>Sorry, the file type could not be found. Please check if the correct disk is selected for scanning.</source>
-        <translation>この種類のファイルは見つかりませんでした。スキャンするディスクが正しく選択されているか確認してください。</translation>
+        <translation>この種類のファイルは見つかりませんでした。スキャンするディスクを確認してください。</translation>
     </message>
     <message>
         <source>Loading Files...</source>

@@ -344,11 +344,11 @@
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Probeer een andere beschrijving, zoals een bestandstype, een datum of een grootte.</translation>
+        <translation>Probeer een andere beschrijving: type, datum of grootte.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Wacht tot er meer bestanden zijn gevonden als de scan nog bezig is.</translation>
+        <translation>Is de scan nog bezig, wacht dan op meer bestanden.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>

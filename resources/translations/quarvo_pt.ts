@@ -340,19 +340,19 @@
     </message>
     <message>
         <source>ai_search_empty_desc</source>
-        <translation>Nada nos resultados atuais da análise corresponde à sua descrição.</translation>
+        <translation>Nada nos resultados atuais corresponde à sua descrição.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Experimente outra descrição, por exemplo um tipo de ficheiro, uma data ou um tamanho.</translation>
+        <translation>Experimente outra descrição: tipo, data ou tamanho.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Se a análise ainda estiver a decorrer, aguarde que sejam encontrados mais ficheiros.</translation>
+        <translation>Se a análise ainda decorre, aguarde por mais ficheiros.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>
-        <translation>Também pode restringir os resultados com o filtro ou pesquisar pelo nome.</translation>
+        <translation>Use também o filtro ou pesquise pelo nome.</translation>
     </message>
     <message>
         <source>how_to_find_in_reconstructed</source>

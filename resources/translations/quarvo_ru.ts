@@ -340,19 +340,19 @@
     </message>
     <message>
         <source>ai_search_empty_desc</source>
-        <translation>В текущих результатах сканирования нет ничего, что подходит под ваше описание.</translation>
+        <translation>Ничего в текущих результатах не подходит под описание.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Попробуйте другое описание, например тип файла, дату или размер.</translation>
+        <translation>Опишите иначе: тип файла, дата или размер.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Если сканирование ещё идёт, подождите, пока найдутся новые файлы.</translation>
+        <translation>Если сканирование ещё идёт, подождите новых файлов.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>
-        <translation>Результаты также можно сузить с помощью фильтра или поиска по имени.</translation>
+        <translation>Воспользуйтесь фильтром или поиском по имени.</translation>
     </message>
     <message>
         <source>how_to_find_in_reconstructed</source>

@@ -344,15 +344,15 @@
     </message>
     <message>
         <source>ai_search_empty_tip1</source>
-        <translation>Prova en annan beskrivning, till exempel en filtyp, ett datum eller en storlek.</translation>
+        <translation>Prova en annan beskrivning: filtyp, datum eller storlek.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip2</source>
-        <translation>Om genomsökningen fortfarande pågår kan du vänta tills fler filer hittas.</translation>
+        <translation>Pågår genomsökningen, vänta tills fler filer hittas.</translation>
     </message>
     <message>
         <source>ai_search_empty_tip3</source>
-        <translation>Du kan också begränsa resultaten med filtret eller söka på namn.</translation>
+        <translation>Begränsa resultaten med filtret eller sök på namn.</translation>
     </message>
     <message>
         <source>how_to_find_in_reconstructed</source>
