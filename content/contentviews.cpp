@@ -9,6 +9,7 @@
 #include "content/viewkeys.h"
 #include "delegates/listdelegate.h"
 #include "detail/itemdetailview.h"
+#include "model/headerview.h"
 #include "model/recoverability.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
@@ -53,7 +54,7 @@ ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel
 void ContentViews::orderTabs()
 {
     // Widgets follow each other as they were made, but for these two.
-    QWidget::setTabOrder(m_form.iconModeHederView, m_form.allCheckButton);
+    m_form.iconModeHederView->setTabAfter(m_form.allCheckButton);
     QWidget::setTabOrder(m_list->header(), m_list->table());
 }
 

@@ -12,6 +12,7 @@
 class ThumbnailGrid : public HandView<QListView>
 {
     Q_OBJECT
+    Q_PROPERTY(QColor focusColor MEMBER m_focusColor) ///< from the stylesheet
 
 public:
     explicit ThumbnailGrid(QWidget *parent = nullptr);
@@ -85,7 +86,6 @@ private:
     bool severalSelected() const;
 
     void paintCards(QPainter *painter, const QRegion &region);
-    void paintFocus(QPainter *painter, const QStyleOptionViewItem &option);
     void paintBand(QPainter *painter);
 
     void rememberTop();
@@ -93,6 +93,7 @@ private:
     void clearHover();
     void changeHover(const QModelIndex &index);
 
+    QColor m_focusColor = Qt::blue;
     QSize m_cell;
     int m_columns = 0;
     int m_reservedWidth = 0;

@@ -1,6 +1,8 @@
 // Painting and events of ThumbnailGrid.
 #include "content/thumbnailgrid.h"
 
+#include "common/focusring.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -8,12 +10,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyle>
-
-namespace {
-constexpr int FocusInset = 1;
-constexpr qreal FocusWidth = 2;
-constexpr qreal FocusRadius = 4;
-} // namespace
 
 void ThumbnailGrid::paintEvent(QPaintEvent *event)
 {
@@ -53,21 +49,9 @@ void ThumbnailGrid::paintCards(QPainter *painter, const QRegion &region)
                                                             : QPalette::Disabled);
             itemDelegate(index)->paint(painter, option, index);
             if (focused && m_showFocus && index == current)
-                paintFocus(painter, option);
+                paintFocusRing(painter, option.rect, m_focusColor);
         }
     }
-}
-
-void ThumbnailGrid::paintFocus(QPainter *painter, const QStyleOptionViewItem &option)
-{
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(option.palette.color(QPalette::Highlight), FocusWidth));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(
-        QRectF(option.rect).adjusted(FocusInset, FocusInset, -FocusInset, -FocusInset), FocusRadius,
-        FocusRadius);
-    painter->restore();
 }
 
 void ThumbnailGrid::paintBand(QPainter *painter)

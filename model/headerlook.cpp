@@ -96,18 +96,6 @@ void HeaderLook::paintHairline(QPainter *painter, const QRect &header, const QCo
     painter->fillRect(header.left(), header.bottom(), header.width(), 1, color);
 }
 
-void HeaderLook::paintFocus(QPainter *painter, const QRect &part, const QColor &color)
-{
-    constexpr qreal Radius = 4;
-    constexpr qreal Width = 2;
-    constexpr qreal Inset = Width / 2 + 1;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(color, Width));
-    painter->drawRoundedRect(QRectF(part).adjusted(Inset, Inset, -Inset, -Inset), Radius, Radius);
-    painter->restore();
-}
-
 const QPixmap &HeaderLook::checkPixmap(int checkState) const
 {
     switch (checkState) {

@@ -30,8 +30,6 @@ public:
     /// Takes the pictures of the theme that is set now.
     void updateTheme();
     void paint(QPainter *painter, const HeaderSection &section, const Heading &heading) const;
-    /// Around the part of the header that the keyboard acts on.
-    static void paintFocus(QPainter *painter, const QRect &part, const QColor &color);
     /// Under all of the header, beside its sections too.
     static void paintHairline(QPainter *painter, const QRect &header, const QColor &color);
 

@@ -152,6 +152,16 @@ bool HeaderView::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
+void HeaderView::setTabAfter(QWidget *widget)
+{
+    setTabOrder(widget, ui->checkAllButton);
+    QWidget *before = ui->checkAllButton;
+    for (QPushButton *button : m_sortButtons) {
+        setTabOrder(before, button);
+        before = button;
+    }
+}
+
 // Layout ---------------------------------------------------------------------------------------
 
 QWidget *HeaderView::rightEndWidget() const

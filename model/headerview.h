@@ -34,6 +34,8 @@ public:
     int checkState() const;
     /// Where another select-all is on screen, this one is hidden.
     void setCheckButtonVisible(bool visible);
+    /// The Tab key comes to the bar's buttons from \a widget.
+    void setTabAfter(QWidget *widget);
     /// The place at the bar's right end, for what its owner wants to put there; hidden at first.
     QWidget *rightEndWidget() const;
 

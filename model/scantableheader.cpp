@@ -1,5 +1,6 @@
 #include "model/scantableheader.h"
 
+#include "common/focusring.h"
 #include "common/translation.h"
 #include "model/columnfit.h"
 #include "model/headeraccessible.h"
@@ -340,7 +341,7 @@ void ScanTableHeader::paintEvent(QPaintEvent *)
     }
     HeaderLook::paintHairline(&painter, viewport()->rect(), m_hairlineColor);
     if (hasFocus() && count() > 0)
-        HeaderLook::paintFocus(&painter, partRect(m_focusPart), m_focusColor);
+        paintFocusRing(&painter, partRect(m_focusPart).adjusted(1, 1, -1, -1), m_focusColor);
 }
 
 void ScanTableHeader::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const
