@@ -77,6 +77,7 @@ void HeaderLook::paint(QPainter *painter, const HeaderSection &section,
 
     painter->save();
     painter->setClipRect(section.rect, Qt::IntersectClip);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform); // between whole scales
     if (!section.checkBox.isNull())
         painter->drawPixmap(section.checkBox, checkPixmap(heading.checkState));
     painter->setFont(font);

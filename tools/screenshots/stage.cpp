@@ -11,8 +11,15 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <qpa/qwindowsysteminterface.h>
+
 Stage::Stage(const QSize &size)
 {
+    // The screen of the offscreen platform is a small one, and dialogs are kept on it.
+    const QRect screen(QPoint(), QSize(8192, 8192));
+    QWindowSystemInterface::handleScreenGeometryChange(QGuiApplication::primaryScreen(), screen,
+                                                       screen);
+    QApplication::processEvents();
     m_window.resize(size);
     auto *layout = new QHBoxLayout(&m_window);
     layout->setContentsMargins(0, 0, 0, 0);
