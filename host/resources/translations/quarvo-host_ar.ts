@@ -135,10 +135,6 @@
         <translation>تحديد كل ما في «%1»</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>تحديد كل ما هنا</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>تحديد كل ما عُثر عليه</translation>
     </message>

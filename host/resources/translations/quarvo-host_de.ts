@@ -115,10 +115,6 @@
         <translation>Alles in „%1“ auswählen</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Alles hier auswählen</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Alles Gefundene auswählen</translation>
     </message>

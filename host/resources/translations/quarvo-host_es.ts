@@ -115,10 +115,6 @@
         <translation>Marcar todo en «%1»</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Marcar todo aquí</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Marcar todo lo encontrado</translation>
     </message>

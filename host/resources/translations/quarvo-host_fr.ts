@@ -115,10 +115,6 @@
         <translation>Cocher tout dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Cocher tout ici</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Cocher tout ce qui a été trouvé</translation>
     </message>
@@ -209,7 +205,7 @@
     </message>
     <message>
         <source>Any kind</source>
-        <translation>Tout genre</translation>
+        <translation>Tout type</translation>
     </message>
     <message>
         <source>Deleted only</source>
@@ -221,7 +217,7 @@
     </message>
     <message>
         <source>Kind</source>
-        <translation>Genre</translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Size</source>
@@ -776,11 +772,11 @@
     </message>
     <message>
         <source>By kind</source>
-        <translation>Par genre</translation>
+        <translation>Par type</translation>
     </message>
     <message>
         <source>By place</source>
-        <translation>Par lieu</translation>
+        <translation>Par dossier</translation>
     </message>
     <message>
         <source>Where to look</source>

@@ -115,10 +115,6 @@
         <translation>“%1” में सब कुछ चुनें</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>यहाँ सब कुछ चुनें</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>मिला हुआ सब कुछ चुनें</translation>
     </message>

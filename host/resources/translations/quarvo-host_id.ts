@@ -110,10 +110,6 @@
         <translation>Centang semua di “%1”</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Centang semua di sini</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Centang semua yang ditemukan</translation>
     </message>

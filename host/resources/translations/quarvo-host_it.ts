@@ -115,10 +115,6 @@
         <translation>Seleziona tutto in “%1”</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Seleziona tutto qui</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Seleziona tutto ciò che è stato trovato</translation>
     </message>

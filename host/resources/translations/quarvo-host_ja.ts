@@ -110,10 +110,6 @@
         <translation>「%1」内をすべて選択</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>ここをすべて選択</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>見つかったものをすべて選択</translation>
     </message>

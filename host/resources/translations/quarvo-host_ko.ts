@@ -110,10 +110,6 @@
         <translation>‘%1’의 모든 항목 선택</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>여기의 모든 항목 선택</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>찾은 항목 모두 선택</translation>
     </message>

@@ -115,10 +115,6 @@
         <translation>Alles in ‘%1’ aanvinken</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Alles hier aanvinken</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Alles wat gevonden is aanvinken</translation>
     </message>

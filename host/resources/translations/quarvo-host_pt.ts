@@ -115,10 +115,6 @@
         <translation>Marcar tudo em “%1”</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Marcar tudo aqui</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Marcar tudo o que foi encontrado</translation>
     </message>

@@ -120,10 +120,6 @@
         <translation>Отметить всё в «%1»</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Отметить всё здесь</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Отметить всё найденное</translation>
     </message>
@@ -214,7 +210,7 @@
     </message>
     <message>
         <source>Any kind</source>
-        <translation>Любой вид</translation>
+        <translation>Любой тип</translation>
     </message>
     <message>
         <source>Deleted only</source>
@@ -226,7 +222,7 @@
     </message>
     <message>
         <source>Kind</source>
-        <translation>Вид</translation>
+        <translation>Тип</translation>
     </message>
     <message>
         <source>Size</source>
@@ -788,11 +784,11 @@
     </message>
     <message>
         <source>By kind</source>
-        <translation>По виду</translation>
+        <translation>По типу</translation>
     </message>
     <message>
         <source>By place</source>
-        <translation>По месту</translation>
+        <translation>По папкам</translation>
     </message>
     <message>
         <source>Where to look</source>

@@ -115,10 +115,6 @@
         <translation>Markera allt i ”%1”</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>Markera allt här</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>Markera allt som hittats</translation>
     </message>
@@ -209,7 +205,7 @@
     </message>
     <message>
         <source>Any kind</source>
-        <translation>Alla slag</translation>
+        <translation>Alla typer</translation>
     </message>
     <message>
         <source>Deleted only</source>
@@ -221,7 +217,7 @@
     </message>
     <message>
         <source>Kind</source>
-        <translation>Slag</translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Size</source>
@@ -776,7 +772,7 @@
     </message>
     <message>
         <source>By kind</source>
-        <translation>Efter slag</translation>
+        <translation>Efter typ</translation>
     </message>
     <message>
         <source>By place</source>

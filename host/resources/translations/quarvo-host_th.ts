@@ -110,10 +110,6 @@
         <translation>เลือกทุกอย่างใน “%1”</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>เลือกทุกอย่างที่นี่</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>เลือกทุกอย่างที่พบ</translation>
     </message>

@@ -110,10 +110,6 @@
         <translation>勾选“%1”中的全部</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>勾选此处全部</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>勾选找到的全部文件</translation>
     </message>

@@ -110,10 +110,6 @@
         <translation>勾選「%1」中的全部</translation>
     </message>
     <message>
-        <source>Check everything here</source>
-        <translation>勾選此處全部</translation>
-    </message>
-    <message>
         <source>Check everything found</source>
         <translation>勾選找到的全部檔案</translation>
     </message>
