@@ -137,8 +137,11 @@ QFont FontManager::getFixedFont(int pixelSize, int weight)
 
 QFont FontManager::getFont(bool semibold) const
 {
-    const bool hasSemibold = m_family == DefaultFamily;
-    return QFont(semibold && hasSemibold ? QStringLiteral("Segoe UI Semibold") : m_family);
+    if (!semibold || m_family != DefaultFamily)
+        return QFont(m_family);
+    QFont font(QStringLiteral("Segoe UI Semibold"));
+    font.setWeight(QFont::DemiBold); // what stands in for the family elsewhere has all weights
+    return font;
 }
 
 void FontManager::setWidgetFont(QWidget *widget, int pixelSize, int weight) const

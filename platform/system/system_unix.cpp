@@ -32,8 +32,8 @@ const QVector<Substitute> &substitutes()
          {"Open Sans", "Noto Sans", "DejaVu Sans", "Noto Sans Arabic", "Noto Sans Thai",
           "Noto Sans Devanagari"}},
         {"Segoe UI Semibold",
-         {"Open Sans Semibold", "Open Sans SemiBold", "Noto Sans SemiBold", "Noto Sans Medium",
-          "Open Sans", "Noto Sans", "DejaVu Sans", "Noto Sans Arabic", "Noto Sans Thai",
+         // the same families: one that is semibold by name passes for a thin one and is thickened
+         {"Open Sans", "Noto Sans", "DejaVu Sans", "Noto Sans Arabic", "Noto Sans Thai",
           "Noto Sans Devanagari"}},
         {"Yu Gothic UI", {"Noto Sans CJK JP", "Noto Sans JP", "IPAGothic"}},
         {"Malgun Gothic", {"Noto Sans CJK KR", "Noto Sans KR", "NanumGothic"}},
