@@ -254,10 +254,15 @@ void CommonFunction::placeOver(QWidget *dialog, const QWidget *window)
     place.moveCenter(middle);
     if (const QScreen *screen = window->screen()) {
         const QRect all = screen->availableGeometry();
-        place.moveRight(std::min(place.right(), all.right()));
-        place.moveBottom(std::min(place.bottom(), all.bottom()));
-        place.moveLeft(std::max(place.left(), all.left()));
-        place.moveTop(std::max(place.top(), all.top()));
+        // A window larger than its screen reaches over others, which have room too.
+        if (window->width() <= all.width()) {
+            place.moveRight(std::min(place.right(), all.right()));
+            place.moveLeft(std::max(place.left(), all.left()));
+        }
+        if (window->height() <= all.height()) {
+            place.moveBottom(std::min(place.bottom(), all.bottom()));
+            place.moveTop(std::max(place.top(), all.top()));
+        }
     }
     dialog->move(place.topLeft());
 }

@@ -170,8 +170,10 @@ void SearchDialog::fitIntoSurroundings()
     const QScreen *screen = window->screen();
     QSize available = screen ? screen->availableSize() : QSize(DesignWidth, DesignWidth);
     if (window != this)
-        available = available.boundedTo(window->size().expandedTo(LeastWindow)
-                                        - 2 * QSize(AroundDialog, AroundDialog));
+        available = available
+                        .expandedTo(window->size()) // which may reach over several screens
+                        .boundedTo(window->size().expandedTo(LeastWindow)
+                                   - 2 * QSize(AroundDialog, AroundDialog));
     fitInto(available);
 }
 
