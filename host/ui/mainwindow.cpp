@@ -35,7 +35,8 @@ MainWindow::MainWindow(ContentPlugin &plugin, Session &session)
     : m_plugin(plugin)
     , m_session(session)
     , m_topBar(new TopBar(this))
-    , m_banner(new MessageBanner(this))
+    , m_banner(new MessageBanner(MessageBanner::Bar, this))
+    , m_toast(new MessageBanner(MessageBanner::Floating, this))
     , m_navBar(new QFrame(this))
     , m_crumbs(new Breadcrumbs(session.tree(), m_navBar))
     , m_filters(new FilterBar(m_navBar))
@@ -94,6 +95,7 @@ void MainWindow::buildLayout()
     column->addLayout(middle, 1);
     column->addWidget(m_bottomBar);
     setCentralWidget(whole);
+    m_sides->installEventFilter(this);
     whole->setFocusPolicy(Qt::ClickFocus);
     whole->setFocus(); // else the first button would begin with a focus frame
 }
@@ -127,6 +129,7 @@ void MainWindow::connectBars()
 void MainWindow::connectSession()
 {
     connect(&m_session, &Session::opened, m_banner, &QWidget::hide);
+    connect(&m_session, &Session::opened, m_toast, &QWidget::hide);
     connect(&m_session, &Session::scanProgressed, this,
             [this] { m_bottomBar->setProgress(m_session.progress(), m_session.isScanning()); });
     connect(&m_session, &Session::scanFinished, this, &MainWindow::tellOutcome);
@@ -189,6 +192,7 @@ void MainWindow::setTheme(THEMETYPE type)
     m_theme.applyTo(m_navBar);
     m_topBar->setTheme(m_theme);
     m_banner->setTheme(m_theme);
+    m_toast->setTheme(m_theme);
     m_crumbs->setTheme(m_theme);
     m_filters->setTheme(m_theme);
     m_bulk->setTheme(m_theme);
@@ -224,7 +228,7 @@ void MainWindow::refreshChecks()
 
 void MainWindow::offerUndo(int checkedFiles, int uncheckedFiles)
 {
-    m_banner->offer(
+    m_toast->offer(
         [checkedFiles, uncheckedFiles] {
             if (uncheckedFiles == 0)
                 return tr("%Ln file(s) checked.", nullptr, checkedFiles);
@@ -238,19 +242,19 @@ void MainWindow::offerUndo(int checkedFiles, int uncheckedFiles)
 void MainWindow::undoChecks()
 {
     if (m_session.undoChecks())
-        m_banner->offer([] { return tr("The change was undone."); }, [] { return tr("Redo"); },
-                        [this] { redoChecks(); });
+        m_toast->offer([] { return tr("The change was undone."); }, [] { return tr("Redo"); },
+                       [this] { redoChecks(); });
     else
-        m_banner->tell(MessageBanner::Hint, [] { return tr("There is nothing to undo."); });
+        m_toast->offer([] { return tr("There is nothing to undo."); }, {}, {});
 }
 
 void MainWindow::redoChecks()
 {
     if (m_session.redoChecks())
-        m_banner->offer([] { return tr("The change was made again."); }, [] { return tr("Undo"); },
-                        [this] { undoChecks(); });
+        m_toast->offer([] { return tr("The change was made again."); }, [] { return tr("Undo"); },
+                       [this] { undoChecks(); });
     else
-        m_banner->tell(MessageBanner::Hint, [] { return tr("There is nothing to redo."); });
+        m_toast->offer([] { return tr("There is nothing to redo."); }, {}, {});
 }
 
 void MainWindow::tellOutcome(const ScanOutcome &outcome)
@@ -396,6 +400,18 @@ void MainWindow::openFile(const ItemRecord *file)
         pictures.append(file->found());
     auto *viewer = new PictureViewer(m_session.source(), this);
     viewer->open(pictures, current);
+}
+
+void MainWindow::placeToast()
+{
+    m_toast->setRoom(QRect(m_sides->mapTo(this, QPoint()), m_sides->size()));
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_sides && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        placeToast();
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::resizeEvent(QResizeEvent *event)

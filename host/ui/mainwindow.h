@@ -40,6 +40,7 @@ signals:
     void recovered(const RecoveryReport &report);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -63,6 +64,7 @@ private:
     void offerUndo(int checkedFiles, int uncheckedFiles);
     void undoChecks();
     void redoChecks();
+    void placeToast();
     void tellOutcome(const ScanOutcome &outcome);
 
     ContentPlugin &m_plugin;
@@ -72,6 +74,7 @@ private:
     HostTheme m_theme = HostTheme::light();
     TopBar *m_topBar;
     MessageBanner *m_banner;
+    MessageBanner *m_toast;
     QFrame *m_navBar;
     Breadcrumbs *m_crumbs;
     FilterBar *m_filters;

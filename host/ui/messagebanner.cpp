@@ -12,16 +12,18 @@
 namespace {
 constexpr int IconSide = 20;
 constexpr int OfferMs = 8000;
+constexpr int Distance = 16;
 } // namespace
 
-MessageBanner::MessageBanner(QWidget *parent)
+MessageBanner::MessageBanner(Form form, QWidget *parent)
     : QFrame(parent)
+    , m_form(form)
     , m_icon(new QLabel(this))
     , m_text(new QLabel(this))
     , m_act(new QToolButton(this))
     , m_close(new QToolButton(this))
 {
-    setObjectName(QStringLiteral("banner"));
+    setObjectName(form == Bar ? QStringLiteral("banner") : QStringLiteral("toast"));
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 8, 8, 8);
     row->setSpacing(10);
@@ -29,7 +31,7 @@ MessageBanner::MessageBanner(QWidget *parent)
     row->addWidget(m_text, 1);
     row->addWidget(m_act);
     row->addWidget(m_close);
-    m_text->setWordWrap(true);
+    m_text->setWordWrap(form == Bar);
     m_text->setTextFormat(Qt::PlainText); // names on a card are not ours to interpret
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_act->setObjectName(QStringLiteral("bannerAction"));
@@ -75,7 +77,7 @@ void MessageBanner::offer(const Words &words, const Words &title,
     tell(Hint, words);
     m_title = title;
     m_action = action;
-    m_act->show();
+    m_act->setVisible(bool(action));
     retranslate();
     m_leave.start();
 }
@@ -88,6 +90,25 @@ void MessageBanner::retranslate()
     setAccessibleName(m_text->text());
     m_act->setText(m_action ? m_title() : QString());
     m_act->setAccessibleName(m_act->text());
+    place();
+}
+
+void MessageBanner::setRoom(const QRect &room)
+{
+    m_room = room;
+    place();
+}
+
+void MessageBanner::place()
+{
+    if (m_form == Bar)
+        return;
+    layout()->activate();
+    QRect box(QPoint(), sizeHint().boundedTo(m_room.size() - QSize(2 * Distance, 0)));
+    box.moveCenter(m_room.center());
+    box.moveBottom(m_room.bottom() - Distance);
+    setGeometry(box);
+    raise();
 }
 
 void MessageBanner::changeEvent(QEvent *event)

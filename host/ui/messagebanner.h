@@ -9,7 +9,8 @@ class QLabel;
 class QToolButton;
 struct HostTheme;
 
-/// One message over the results, until the user has read it.
+/// One message, until the user has read it: a bar above the results, or a card that floats over
+/// them and moves nothing.
 class MessageBanner : public QFrame
 {
     Q_OBJECT
@@ -19,14 +20,18 @@ public:
     /// Says the message in the language of the moment.
     using Words = std::function<QString()>;
 
-    explicit MessageBanner(QWidget *parent = nullptr);
+    enum Form { Bar, Floating };
+
+    explicit MessageBanner(Form form, QWidget *parent = nullptr);
 
     /// Replaces what stands there.
     void tell(Kind kind, const Words &words);
     void tell(Kind kind, const QString &text);
-    /// The same with a button that does \a action. Goes by itself after some seconds, but not from
-    /// under the mouse or the keyboard.
+    /// The same as a hint that goes by itself after some seconds, but not from under the mouse or
+    /// the keyboard; with a button that does \a action, where there is one.
     void offer(const Words &words, const Words &title, const std::function<void()> &action);
+    /// Floating: the middle of the lower edge of \a room, in the parent's coordinates.
+    void setRoom(const QRect &room);
     void setTheme(const HostTheme &theme);
 
 protected:
@@ -35,7 +40,10 @@ protected:
 private:
     void retranslate();
     void refreshIcon();
+    void place();
 
+    const Form m_form;
+    QRect m_room;
     QLabel *m_icon;
     QLabel *m_text;
     QToolButton *m_act;

@@ -39,7 +39,7 @@ TopBar::TopBar(QWidget *parent)
     row->setSpacing(10);
     row->addWidget(m_source);
     row->addStretch(1);
-    row->addWidget(m_search, 3);
+    row->addWidget(m_search, 8);
     row->addStretch(1);
     row->addWidget(m_views);
     row->addWidget(m_language);
