@@ -6,6 +6,7 @@
 #include "content/scantableview.h"
 #include "content/selectedrows.h"
 #include "content/thumbnailgrid.h"
+#include "content/touchinput.h"
 #include "content/viewkeys.h"
 #include "delegates/listdelegate.h"
 #include "detail/itemdetailview.h"
@@ -42,6 +43,7 @@ ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel
 
     orderTabs();
     describeItems();
+    connectTouch();
     relay(m_grid);
     relay(m_list);
     connectKeys();
@@ -74,6 +76,13 @@ void ContentViews::describeItems()
     };
     connectActions(m_grid->view());
     connectActions(m_list->table());
+}
+
+void ContentViews::connectTouch()
+{
+    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_grid->view()),
+                                    static_cast<QAbstractItemView *>(m_list->table())})
+        connect(new TouchInput(view), &TouchInput::longPressed, this, &ContentViews::longPressed);
 }
 
 void ContentViews::setName(const QString &name)

@@ -62,6 +62,8 @@ signals:
     void tooltipWanted(const QString &text);
     void thumbnailMissing(TreeItemData *item);
     void contextMenuWanted(const QModelIndex &index);
+    /// By a finger or a pen that rests.
+    void longPressed(const QModelIndex &index, const QPoint &globalPos);
     /// By assistive technology.
     void itemToggleWanted(const QModelIndex &index);
     // By key.
@@ -74,6 +76,7 @@ private:
     void connectKeys();
     void orderTabs();
     void describeItems();
+    void connectTouch();
     ViewPlace &placeInUse() const;
     /// Of the view in use; the other takes its selection over when it is shown.
     ViewMemory &memory() { return m_mode == GridOnly ? m_gridMemory : m_tableMemory; }

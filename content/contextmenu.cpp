@@ -41,6 +41,12 @@ void ContextMenu::openAtMouse(const QModelIndex &index)
     m_dialog->show();
 }
 
+void ContextMenu::openByTouch(const QModelIndex &index, const QPoint &globalPos)
+{
+    if (prepare(index))
+        m_dialog->openByTouch(globalPos, index);
+}
+
 void ContextMenu::openAtCurrent(const QAbstractItemView &view)
 {
     const QModelIndex index = view.currentIndex();

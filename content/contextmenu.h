@@ -7,6 +7,7 @@
 
 class QAbstractItemView;
 class QModelIndex;
+class QPoint;
 class QWidget;
 class RightMenuDialog;
 class ScanDataModel;
@@ -24,6 +25,8 @@ public:
 
     /// At the mouse. Nothing happens for anything but a file.
     void openAtMouse(const QModelIndex &index);
+    /// Under a finger or a pen that is still down; its release chooses nothing.
+    void openByTouch(const QModelIndex &index, const QPoint &globalPos);
     /// Beside the current item of \a view, with an entry highlighted.
     void openAtCurrent(const QAbstractItemView &view);
     void updateTheme();

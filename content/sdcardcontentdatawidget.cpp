@@ -103,6 +103,7 @@ void SDCardContentDataWidget::connectViews()
     // After the press has changed the selection, which the menu is about.
     connect(m_views, &ContentViews::contextMenuWanted, m_menu, &ContextMenu::openAtMouse,
             Qt::QueuedConnection);
+    connect(m_views, &ContentViews::longPressed, m_menu, &ContextMenu::openByTouch);
     connect(m_views->list(), &ListMode::locationClicked, this,
             &SDCardContentDataWidget::goToLocation);
     connect(m_views->list(), &ListMode::metaDataWanted, this,

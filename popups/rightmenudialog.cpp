@@ -113,6 +113,7 @@ void RightMenuDialog::showPoint(const QPoint &globalPos, const QModelIndex &inde
         createWinId();
         m_index = index;
         m_mouseRests = false;
+        m_releaseIsDue = false;
         setAccessibleName(index.data(Qt::DisplayRole).toString());
 
         const QSize body = bodySize();
@@ -128,15 +129,29 @@ void RightMenuDialog::showPoint(const QPoint &globalPos, const QModelIndex &inde
     });
 }
 
+void RightMenuDialog::showPointOnScreen(const QPoint &globalPos, const QModelIndex &index)
+{
+    const QScreen *screen = screenOf(globalPos);
+    const Qt::LayoutDirection direction = parentWidget() ? parentWidget()->layoutDirection()
+                                                         : layoutDirection();
+    showPoint(screen ? menuCorner(globalPos, bodySize(), screen->availableGeometry(), direction)
+                     : globalPos,
+              index);
+}
+
+void RightMenuDialog::openByTouch(const QPoint &globalPos, const QModelIndex &index)
+{
+    guarded(Q_FUNC_INFO, [&] {
+        showPointOnScreen(globalPos, index);
+        m_releaseIsDue = true;
+        show();
+    });
+}
+
 void RightMenuDialog::openByKeyboard(const QPoint &globalPos, const QModelIndex &index)
 {
     guarded(Q_FUNC_INFO, [&] {
-        const QScreen *screen = screenOf(globalPos);
-        const Qt::LayoutDirection direction = parentWidget() ? parentWidget()->layoutDirection()
-                                                             : layoutDirection();
-        showPoint(screen ? menuCorner(globalPos, bodySize(), screen->availableGeometry(), direction)
-                         : globalPos,
-                  index);
+        showPointOnScreen(globalPos, index);
         m_restingMouse = QCursor::pos();
         m_mouseRests = true;
         show();
@@ -219,6 +234,11 @@ bool RightMenuDialog::eventFilter(QObject *watched, QEvent *event)
             return true;
         m_mouseRests = false;
         highlight(qobject_cast<RightMenuFrame *>(watched));
+    } else if (watched != this && event->type() == QEvent::MouseButtonPress) {
+        m_releaseIsDue = false;
+    } else if (watched != this && event->type() == QEvent::MouseButtonRelease && m_releaseIsDue) {
+        m_releaseIsDue = false;
+        return true;
     }
     return QDialog::eventFilter(watched, event);
 }
@@ -260,9 +280,16 @@ void RightMenuDialog::mousePressEvent(QMouseEvent *event)
         && !ui->frame->geometry().contains(event->pos());
     // a left press elsewhere closes and does nothing more; another may open the next menu
     setAttribute(Qt::WA_NoMouseReplay, event->button() == Qt::LeftButton);
+    m_releaseIsDue = false;
     QDialog::mousePressEvent(event);
     if (onShadow)
         close();
+}
+
+void RightMenuDialog::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_releaseIsDue = false;
+    QDialog::mouseReleaseEvent(event);
 }
 
 void RightMenuDialog::showEvent(QShowEvent *event)

@@ -27,6 +27,9 @@ public:
     /// Shows the menu near \a globalPos, whole on that screen, with the first entry highlighted.
     void openByKeyboard(const QPoint &globalPos, const QModelIndex &index);
 
+    /// The same without a highlight, under a finger or a pen whose release is still to come.
+    void openByTouch(const QPoint &globalPos, const QModelIndex &index);
+
     /// 0 nothing yet, 1 preview, 2 recover. Keeps its value until the next choice.
     int selectedAction() const { return m_selectedAction; }
     /// What the menu was opened on; invalid once that row is gone.
@@ -55,6 +58,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -62,6 +66,8 @@ private:
     void loadStyleSheet();
     RightMenuFrame *addEntry(const QString &name, int y);
     QSize bodySize() const;
+    /// showPoint() where the whole menu is on the screen.
+    void showPointOnScreen(const QPoint &globalPos, const QModelIndex &index);
     void showShadow();
     void highlight(RightMenuFrame *entry);
     RightMenuFrame *highlighted() const;
@@ -76,4 +82,5 @@ private:
     /// Where the mouse rested when a key opened the menu; until it moves it highlights nothing.
     QPoint m_restingMouse;
     bool m_mouseRests = false;
+    bool m_releaseIsDue = false; ///< of the press that has opened the menu
 };
