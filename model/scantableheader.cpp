@@ -264,9 +264,11 @@ void ScanTableHeader::fitColumns(int viewportWidth)
     m_fittedWidth = viewportWidth;
 
     std::vector<ColumnFit::Column> others;
-    const auto add = [&](int column, int cellWidth) {
+    // half a number is none: only a path gives way, before the table begins to scroll
+    const auto add = [&](int column, int cellWidth, bool givesWay = false) {
         const int heading = sectionSizeFromContents(column).width();
-        others.push_back({std::max(heading, cellWidth), heading});
+        const int wanted = std::max(heading, cellWidth);
+        others.push_back({wanted, givesWay ? heading : wanted});
     };
     add(Column::SizeColumn, longestSize());
     add(Column::TypeColumn,
@@ -275,7 +277,7 @@ void ScanTableHeader::fitColumns(int viewportWidth)
     add(Column::DateColumn,
         HeaderLook::cellWidth(ItemText::modified(LongTime)) + LocationImageRoom);
     if (!m_detailPaneShown)
-        add(Column::PathColumn, viewportWidth * LocationShare / 100);
+        add(Column::PathColumn, viewportWidth * LocationShare / 100, true);
 
     const std::vector<int> widths = ColumnFit::fit(viewportWidth, NameMinimum, others);
     for (size_t column = 0; column < widths.size(); ++column)
