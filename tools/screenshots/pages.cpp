@@ -110,6 +110,18 @@ const std::vector<Page> &all()
              stage.showScan(&stage.records().photos, Interface::GridView);
              stage.openMenu(8);
          }},
+        {"text-menu",
+         [](Stage &stage) {
+             stage.showScan(&stage.records().photos, Interface::ListWithDetailView);
+             stage.click(16);
+             stage.askForMenu(QStringLiteral("namelabel"));
+         }},
+        {"tooltip",
+         [](Stage &stage) {
+             stage.showScan(&stage.records().photos, Interface::ListWithDetailView);
+             stage.click(12);
+             stage.askForTooltip(QStringLiteral("namelabel"));
+         }},
     };
     return pages;
 }

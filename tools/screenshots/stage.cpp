@@ -1,9 +1,11 @@
 #include "stage.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QDir>
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLibrary>
 #include <QMouseEvent>
@@ -176,19 +178,59 @@ void Stage::openMenu(int row)
     settle(0);
 }
 
+void Stage::lookThenClose()
+{
+    QTimer::singleShot(0, this, [this] {
+        settle(0);
+        if (m_onDialog)
+            m_onDialog();
+        for (QWidget *over :
+             {QApplication::activePopupWidget(), QApplication::activeModalWidget()}) {
+            if (over)
+                over->close();
+        }
+    });
+}
+
+QWidget *Stage::seen(const QString &name) const
+{
+    const auto found = front()->findChildren<QWidget *>(name);
+    for (QWidget *widget : found) {
+        if (widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
+void Stage::askForMenu(const QString &name)
+{
+    QWidget *widget = seen(name);
+    if (!widget)
+        return;
+    const QPoint place = widget->rect().center();
+    lookThenClose();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget->mapToGlobal(place));
+    QApplication::sendEvent(widget, &event);
+}
+
+void Stage::askForTooltip(const QString &name)
+{
+    QWidget *widget = seen(name);
+    if (!widget)
+        return;
+    const QPoint place = widget->rect().center();
+    QHelpEvent event(QEvent::ToolTip, place, widget->mapToGlobal(place));
+    QApplication::sendEvent(widget, &event);
+    settle(0);
+}
+
 void Stage::followLink()
 {
     const auto labels = front()->findChildren<QLabel *>();
     for (QLabel *label : labels) {
         if (!label->isVisible() || !label->text().contains(QLatin1String("<a ")))
             continue;
-        QTimer::singleShot(0, this, [this] {
-            settle(0);
-            if (m_onDialog)
-                m_onDialog();
-            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
-                dialog->reject();
-        });
+        lookThenClose();
         emit label->linkActivated(QStringLiteral("#"));
         return;
     }

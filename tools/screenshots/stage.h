@@ -45,6 +45,9 @@ public:
     /// Follows the link of the page in front. The dialog that it opens is shown to whoever looks,
     /// and closed again.
     void followLink();
+    /// The menu and the tooltip of the label called \a name, in the same way.
+    void askForMenu(const QString &name);
+    void askForTooltip(const QString &name);
     /// \a look is called while a modal dialog is open.
     void setOnDialog(std::function<void()> look) { m_onDialog = std::move(look); }
     /// Lets timers and queued calls do what they have to.
@@ -60,6 +63,9 @@ private slots:
 
 private:
     QFrame *front() const;
+    QWidget *seen(const QString &name) const;
+    /// For what comes and holds the thread until it goes.
+    void lookThenClose();
     QPoint placeOf(int row, int column) const;
     void send(QEvent::Type type, const QPoint &place, Qt::MouseButton button,
               Qt::KeyboardModifiers modifiers = Qt::NoModifier);
