@@ -19,6 +19,7 @@ class SearchHintFrame : public QFrame
     Q_OBJECT
     /// Of the link in the first tip, which the stylesheet sets: rich text knows the application's
     /// link colour only. A colour in the translated text itself goes before it.
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(QColor linkColor READ linkColor WRITE setLinkColor)
 
 public:

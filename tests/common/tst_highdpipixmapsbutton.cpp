@@ -1,5 +1,6 @@
 #include "common/highdpipixmapsbutton.h"
 
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -173,12 +174,11 @@ void TestHighDpiPixmapsButton::missingPictureIsLoggedOnce()
 
 void TestHighDpiPixmapsButton::mayBeDeletedByItsReceiver()
 {
-    auto *button = new HighDpiPixmapsButton(QStringLiteral(":/none"), s_names);
-    bool gone = false;
-    connect(button, &QObject::destroyed, this, [&] { gone = true; });
-    connect(button, &HighDpiPixmapsButton::buttonClicked, this, [&] { delete button; });
+    const QPointer<HighDpiPixmapsButton> button = new HighDpiPixmapsButton(QStringLiteral(":/none"),
+                                                                           s_names);
+    connect(button, &HighDpiPixmapsButton::buttonClicked, this, [button] { delete button; });
     button->click();
-    QVERIFY(gone);
+    QVERIFY(!button);
 }
 
 QTEST_MAIN(TestHighDpiPixmapsButton)

@@ -15,7 +15,6 @@ namespace {
 
 Means s_means;
 QAtomicInt s_looks;
-QStringList s_log;
 
 Means means()
 {
@@ -23,9 +22,15 @@ Means means()
     return s_means;
 }
 
+QStringList &keptLog()
+{
+    static QStringList log;
+    return log;
+}
+
 void keepLog(QtMsgType, const QMessageLogContext &, const QString &line)
 {
-    s_log.append(line);
+    keptLog().append(line);
 }
 
 QColor colourOf(int frame)
@@ -133,14 +138,14 @@ void TestHighDpiPixmapsManager::skips()
     QFETCH(bool, forbidden);
     QFETCH(bool, skipped);
     s_means = {memory, forbidden};
-    s_log.clear();
+    keptLog().clear();
     HighDpiPixmapsManager manager(&means);
     const QtMessageHandler before = qInstallMessageHandler(&keepLog);
     manager.startAnalysisPixmapItemList();
     qInstallMessageHandler(before);
 
-    QCOMPARE(s_log.first(), QStringLiteral("startAnalysisPixmapItemList start"));
-    QCOMPARE(s_log.last(), QStringLiteral("startAnalysisPixmapItemList end"));
+    QCOMPARE(keptLog().constFirst(), QStringLiteral("startAnalysisPixmapItemList start"));
+    QCOMPARE(keptLog().constLast(), QStringLiteral("startAnalysisPixmapItemList end"));
     QCOMPARE(manager.frames(Sheet::Searching).isEmpty(), skipped);
 }
 
@@ -213,7 +218,8 @@ void TestHighDpiPixmapsManager::cutOnAPoolThreadWhileItIsAskedFor()
     const QVector<QPixmap> frames = manager.frames(Sheet::Searching);
     QCOMPARE(frames.size(), 41);
     // made once, then shared
-    QCOMPARE(manager.frames(Sheet::Searching).first().cacheKey(), frames.first().cacheKey());
+    QCOMPARE(manager.frames(Sheet::Searching).constFirst().cacheKey(),
+             frames.constFirst().cacheKey());
 }
 
 void TestHighDpiPixmapsManager::pixmapAtTheScreensScale()
