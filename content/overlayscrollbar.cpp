@@ -53,5 +53,7 @@ void OverlayScrollBar::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         setAccessibleName(SpokenText::scrollBar());
+    else if (event->type() == QEvent::LayoutDirectionChange && isVisible())
+        sync();
     QScrollBar::changeEvent(event);
 }

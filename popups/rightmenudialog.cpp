@@ -105,22 +105,26 @@ QSize RightMenuDialog::bodySize() const
     return {std::max(m_previewEntry->width(), m_recoverEntry->width()), ui->frame->height()};
 }
 
+void RightMenuDialog::place(const QPoint &globalPos)
+{
+    if (parentWidget())
+        setLayoutDirection(parentWidget()->layoutDirection());
+    const QSize body = bodySize();
+    const QRect whole = QRect(QPoint(), body).marginsAdded(Around);
+    ui->frame->setGeometry(QRect(QPoint(Around.left(), Around.top()), body));
+    ui->labelDropShadow->setGeometry(QRect(QPoint(), whole.size()));
+    setGeometry(whole.translated(globalPos));
+}
+
 void RightMenuDialog::showPoint(const QPoint &globalPos, const QModelIndex &index)
 {
     guarded(Q_FUNC_INFO, [&] {
-        if (parentWidget())
-            setLayoutDirection(parentWidget()->layoutDirection());
         createWinId();
         m_index = index;
         m_mouseRests = false;
         m_releaseIsDue = false;
         setAccessibleName(index.data(Qt::DisplayRole).toString());
-
-        const QSize body = bodySize();
-        const QRect whole = QRect(QPoint(), body).marginsAdded(Around);
-        ui->frame->setGeometry(QRect(QPoint(Around.left(), Around.top()), body));
-        ui->labelDropShadow->setGeometry(QRect(QPoint(), whole.size()));
-        setGeometry(whole.translated(globalPos));
+        place(globalPos);
         const QScreen *screen = screenOf(globalPos);
         if (screen && !qFuzzyCompare(screen->devicePixelRatio(), m_shadowRatio)) {
             m_shadowRatio = screen->devicePixelRatio();
@@ -173,6 +177,8 @@ void RightMenuDialog::doChangLanguage()
         m_previewEntry->setFixedWidth(width);
         m_recoverEntry->setFixedWidth(width);
         ui->frame->setFixedWidth(width);
+        if (isVisible())
+            place(geometry().topLeft() + QPoint(Around.left(), Around.top()));
     });
     if (m_shadowRatio <= 0)
         m_shadowRatio = devicePixelRatioF();

@@ -68,6 +68,8 @@ private:
     QSize bodySize() const;
     /// showPoint() where the whole menu is on the screen.
     void showPointOnScreen(const QPoint &globalPos, const QModelIndex &index);
+    /// The body's corner comes to \a globalPos.
+    void place(const QPoint &globalPos);
     void showShadow();
     void highlight(RightMenuFrame *entry);
     RightMenuFrame *highlighted() const;
