@@ -1,6 +1,7 @@
 #include "host/ui/bottombar.h"
 
 #include "host/tree/texts.h"
+#include "host/ui/elidedlabel.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
 
@@ -16,7 +17,7 @@
 
 namespace {
 constexpr int ProgressSteps = 1000;
-constexpr int ProgressWidth = 120;
+constexpr int TextsFrom = 820; // below this width the icon of a button has to do
 constexpr int IconSide = 18;
 constexpr int WarningSide = 14;
 } // namespace
@@ -24,11 +25,11 @@ constexpr int WarningSide = 14;
 BottomBar::BottomBar(QWidget *parent)
     : QFrame(parent)
     , m_bar(new QProgressBar(this))
-    , m_counts(new QLabel(this))
-    , m_detail(new QLabel(this))
+    , m_counts(new ElidedLabel(this))
+    , m_detail(new ElidedLabel(this))
     , m_stop(new QPushButton(this))
-    , m_checked(new QLabel(this))
-    , m_checkedDetail(new QLabel(this))
+    , m_checked(new ElidedLabel(this))
+    , m_checkedDetail(new ElidedLabel(this))
     , m_warning(new QLabel(this))
     , m_choose(new QToolButton(this))
     , m_recover(new QPushButton(this))
@@ -36,9 +37,13 @@ BottomBar::BottomBar(QWidget *parent)
     setObjectName(QStringLiteral("bottomBar"));
     m_detail->setObjectName(QStringLiteral("caption"));
     m_checkedDetail->setObjectName(QStringLiteral("targetLine"));
+    for (QLabel *label : {m_checked, m_checkedDetail})
+        label->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     m_checked->setObjectName(QStringLiteral("emphasis"));
     m_bar->setTextVisible(false);
-    m_bar->setFixedWidth(ProgressWidth);
+    QSizePolicy policy = m_bar->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // nothing moves when the scan ends
+    m_bar->setSizePolicy(policy);
     m_choose->setProperty("iconOnly", true);
     m_choose->setIconSize({IconSide, IconSide});
     m_recover->setProperty("primary", true);
@@ -52,23 +57,25 @@ BottomBar::BottomBar(QWidget *parent)
     chosen->setSpacing(0);
     auto *line = new QHBoxLayout;
     line->setSpacing(4);
-    line->addStretch();
     line->addWidget(m_warning);
     line->addWidget(m_checkedDetail);
-    chosen->addWidget(m_checked, 0, Qt::AlignTrailing);
+    chosen->addWidget(m_checked);
     chosen->addLayout(line);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 10, 12, 10);
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(16, 8, 12, 10);
     row->setSpacing(12);
-    row->addWidget(m_bar);
     row->addLayout(found);
     row->addWidget(m_stop);
     row->addStretch();
     row->addLayout(chosen);
     row->addWidget(m_choose);
     row->addWidget(m_recover);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_bar);
+    column->addLayout(row);
 
-    connect(m_stop, &QPushButton::clicked, this, &BottomBar::stopRequested);
     connect(m_choose, &QToolButton::clicked, this, &BottomBar::targetRequested);
     connect(m_recover, &QPushButton::clicked, this, &BottomBar::recoverRequested);
     retranslate();
@@ -145,7 +152,9 @@ void BottomBar::refreshChecked()
 
 void BottomBar::retranslate()
 {
-    m_stop->setText(tr("Stop"));
+    m_stop->setText(m_isCompact ? QString() : tr("Stop"));
+    m_stop->setToolTip(m_isCompact ? tr("Stop") : QString());
+    m_stop->setAccessibleName(tr("Stop"));
     m_recover->setText(tr("Recover…"));
     m_bar->setAccessibleName(tr("Progress of the scan"));
     setProgress(m_progress, m_scanning);
@@ -159,9 +168,30 @@ void BottomBar::changeEvent(QEvent *event)
         retranslate();
 }
 
+void BottomBar::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    const bool compact = width() < TextsFrom;
+    if (compact == m_isCompact)
+        return;
+    m_isCompact = compact;
+    refreshStop();
+    retranslate();
+}
+
+void BottomBar::refreshStop()
+{
+    m_stop->setIcon(m_isCompact ? m_stopIcon : QIcon());
+    m_stop->setProperty("iconOnly", m_isCompact);
+    m_stop->style()->unpolish(m_stop);
+    m_stop->style()->polish(m_stop);
+}
+
 void BottomBar::setTheme(const HostTheme &theme)
 {
     theme.applyTo(this);
+    m_stopIcon = glyphIcon(Glyph::Stop, theme.icon);
+    refreshStop();
     m_choose->setIcon(glyphIcon(Glyph::OpenFolder, theme.icon));
     m_warning->setPixmap(glyphIcon(Glyph::Warning, theme.warn)
                              .pixmap(window()->windowHandle(), {WarningSide, WarningSide}));

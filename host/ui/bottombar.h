@@ -3,6 +3,7 @@
 #include "host/scan/scanrunner.h"
 
 #include <QFrame>
+#include <QIcon>
 
 class QLabel;
 class QProgressBar;
@@ -32,9 +33,11 @@ signals:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void retranslate();
+    void refreshStop();
     void refreshChecked();
     bool isTooMuch() const { return m_files > 0 && m_free >= 0 && m_bytes > m_free; }
 
@@ -47,6 +50,8 @@ private:
     QLabel *m_warning;
     QToolButton *m_choose;
     QPushButton *m_recover;
+    QIcon m_stopIcon;
+    bool m_isCompact = false;
     ScanProgress m_progress;
     bool m_scanning = false;
     int m_files = 0;

@@ -154,6 +154,9 @@ QPainterPath outlineOf(Glyph glyph)
         addLines(path, {{5.75, 8}, {10, 12.25}, {14.25, 8}});
         addLines(path, {{3, 13}, {3, 16.5}, {17, 16.5}, {17, 13}});
         break;
+    case Glyph::Stop:
+        path.addRoundedRect(5.5, 5.5, 9, 9, 1, 1);
+        break;
     case Glyph::CheckMany:
         path.addRoundedRect(2.5, 6.5, 11, 11, 2, 2);
         addLines(path, {{5.25, 12}, {7.25, 14}, {11, 9.75}});

@@ -31,6 +31,7 @@ enum class Glyph {
     Other,
     Deleted,
     Recover,
+    Stop,
     CheckMany,
     Warning,
     Done,
