@@ -8,6 +8,7 @@
 #include "host/ui/breadcrumbs.h"
 #include "host/ui/bulkmenu.h"
 #include "host/ui/filterbar.h"
+#include "host/ui/glyphs.h"
 #include "host/ui/pictureviewer.h"
 #include "host/ui/recoverydialog.h"
 #include "host/ui/sidepanel.h"
@@ -18,6 +19,7 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStandardPaths>
@@ -27,6 +29,7 @@ namespace {
 constexpr QSize MinimumSize{640, 480};
 constexpr QSize FirstSize{1280, 800};
 constexpr int SidePanelFrom = 860; // below this width the results need the room
+constexpr int IconSide = 28;
 constexpr int BulkTextFrom = 1000;
 enum Side { ScanPage, SearchPage };
 } // namespace
@@ -311,6 +314,19 @@ void MainWindow::chooseImage()
         openSource(path);
 }
 
+/// In front of the folder dialog, which opens again after it.
+void MainWindow::tellRefusal(const QString &reason)
+{
+    QMessageBox box(QMessageBox::NoIcon, tr("Recover to"), reason, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setIconPixmap(
+        glyphIcon(Glyph::Warning, m_theme.bad).pixmap(windowHandle(), {IconSide, IconSide}));
+    box.button(QMessageBox::Ok)->setIcon(QIcon());
+    box.button(QMessageBox::Ok)->setProperty("primary", true);
+    m_theme.applyTo(&box);
+    box.exec();
+}
+
 QString MainWindow::pickTarget()
 {
     QString target = m_room.folder();
@@ -321,7 +337,7 @@ QString MainWindow::pickTarget()
         const QString reason = TargetCheck::refusal(m_session.path(), target);
         if (reason.isEmpty())
             break;
-        QMessageBox::warning(this, tr("Recover to"), reason);
+        tellRefusal(reason);
     }
     HostSettings::setTarget(target);
     m_room.setFolder(target);

@@ -56,6 +56,7 @@ private:
     void chooseImage();
     /// The folder that the user picks; empty when it is none.
     QString pickTarget();
+    void tellRefusal(const QString &reason);
     void recoverChosen(const QVector<FoundItem> &items);
     void refuse(const QVector<FoundItem> &items, const MessageBanner::Words &reason);
     void openFile(const ItemRecord *file);
