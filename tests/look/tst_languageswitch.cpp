@@ -64,8 +64,9 @@ void TestLanguageSwitch::pages_data()
 
     const QStringList names = Pages::names();
     for (const QString &page : names) {
-        // one moves, the other is gone again when it can be looked at
-        if (page == QLatin1String("scanning") || page == QLatin1String("how-to-find"))
+        // what moves, or goes away when anything happens, cannot be compared
+        static const QStringList s_fleeting{"scanning", "how-to-find", "text-menu", "tooltip"};
+        if (s_fleeting.contains(page))
             continue;
         const QByteArray name = page.toLatin1();
         QTest::addRow("%s to German", name.constData()) << page << "English"
