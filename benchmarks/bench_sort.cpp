@@ -161,6 +161,13 @@ int main(int argc, char **argv)
     });
     add("sortPaths/ours", [](auto &state) { sortOurs(state, ScanDataModel::PathColumn); });
     add("sortPaths/stock", [](auto &state) {
+        sortStock(state, [](const TreeItemData *a, const TreeItemData *b) {
+            return a->path.toLower() < b->path.toLower();
+        });
+    });
+    // without lowering, which our order of paths does not need either
+    add("sortPathsPlain/ours", [](auto &state) { sortOurs(state, ScanDataModel::PathColumn); });
+    add("sortPathsPlain/stock", [](auto &state) {
         sortStock(state,
                   [](const TreeItemData *a, const TreeItemData *b) { return a->path < b->path; });
     });

@@ -3,6 +3,7 @@
 #include "model/inparallel.h"
 #include "model/itemtext.h"
 #include "model/scanitemrole.h"
+#include "model/textgroups.h"
 #include "model/textkeys.h"
 #include "platform/item/treeitemdata.h"
 
@@ -173,6 +174,8 @@ Order sorted(const Records &records, int sortRole, Qt::SortOrder order, const Or
     case NameRole:
     case KindRole:
     case PathTextRole: {
+        if (std::optional<Order> grouped = TextGroups::sorted(records, sortRole, order))
+            return std::move(*grouped);
         const TextKeys texts(records, sortRole);
         if (order == Qt::AscendingOrder)
             return sortedTexts(texts, known, ComesBefore<Qt::AscendingOrder>{texts});

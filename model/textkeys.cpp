@@ -16,21 +16,6 @@ constexpr ushort FirstTwoByteUnit = 0x80;
 constexpr ushort FirstThreeByteUnit = 0x800;
 constexpr size_t MostBytesPerUnit = 3;
 
-const QString &textOf(const TreeItemData *record, int sortRole)
-{
-    static const QString none;
-    if (!record)
-        return none;
-    switch (sortRole) {
-    case PathTextRole:
-        return record->path;
-    case KindRole:
-        return record->extension;
-    default:
-        return record->name;
-    }
-}
-
 char *encode(char *out, ushort unit)
 {
     if (unit < FirstTwoByteUnit) {
@@ -63,6 +48,21 @@ size_t commonLength(const char *a, size_t lengthA, const char *b, size_t lengthB
 }
 
 } // namespace
+
+const QString &TextKeys::textOf(const TreeItemData *record, int sortRole)
+{
+    static const QString none;
+    if (!record)
+        return none;
+    switch (sortRole) {
+    case PathTextRole:
+        return record->path;
+    case KindRole:
+        return record->extension;
+    default:
+        return record->name;
+    }
+}
 
 TextKeys::TextKeys(const std::vector<const TreeItemData *> &records, int sortRole)
     : m_middle(records.size() / 2)

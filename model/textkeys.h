@@ -24,6 +24,9 @@ class TextKeys
 public:
     TextKeys(const std::vector<const TreeItemData *> &records, int sortRole);
 
+    /// What is compared for \a sortRole, as the record has it; empty for a null one.
+    static const QString &textOf(const TreeItemData *record, int sortRole);
+
     const std::vector<TextKey> &keys() const { return m_keys; }
     /// Less than, equal to or greater than zero, as the text of \a a stands to that of \a b.
     int compare(const TextKey &a, const TextKey &b) const;

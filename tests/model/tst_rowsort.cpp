@@ -132,6 +132,9 @@ void tst_RowSort::sameAsPlain_data()
     QTest::newRow("beyond the basic plane")
         << 3000 << "" << (QString::fromUtf8("😀𐐀z") + QChar(0xFFFD) + QChar(0xE000)) << 20;
     QTest::newRow("many scripts") << 3000 << "" << QString::fromUtf8("ÄäéΩωЖж文件ü9") << 20;
+    // few texts for so many records: these are compared once each
+    QTest::newRow("texts that many share") << 9000 << "/Volume/" << QStringLiteral("aAb") << 4;
+    QTest::newRow("shared, longer when lowered") << 9000 << "" << QString::fromUtf8("İiIı̇ẞ") << 3;
     QTest::newRow("enough for two threads") << 50001 << "IMG_" << ascii << 12;
 }
 
