@@ -1,68 +1,34 @@
+#include "benchmarks/millionfiles.h"
 #include "benchmarks/ratio.h"
 #include "model/itemtext.h"
 #include "model/rowsort.h"
 #include "model/scandatamodel.h"
-#include "model/scanitemrole.h"
-#include "platform/item/treeitemdata.h"
 
 #include <QPointer>
-#include <QRandomGenerator>
 
 #include <algorithm>
-#include <memory>
 #include <vector>
 
 namespace {
 
-constexpr int RecordCount = 1'000'000;
+constexpr int RecordCount = MillionFiles::Count;
 constexpr int Updates = 100;
 
-/// A card of a million files as cameras and people name them.
-struct Scan
+const MillionFiles &scan()
 {
-    Scan()
-    {
-        static const char *const words[] = {"IMG_", "DSC_", "Holiday ", "scan-", "VID_", "Report "};
-        QRandomGenerator random(1);
-        records.reserve(RecordCount);
-        for (int i = 0; i < RecordCount; ++i) {
-            auto record = std::make_unique<TreeItemData>();
-            record->kind = 2;
-            record->fileId = i;
-            record->extension = i % 3 ? QStringLiteral("JPG") : QStringLiteral("mp4");
-            record->name = QLatin1String(words[random.bounded(6)])
-                + QString::number(random.bounded(100'000'000)) + QLatin1Char('.')
-                + record->extension;
-            record->path = QStringLiteral("/Volume/DCIM/%1CANON").arg(100 + random.bounded(900));
-            record->fileSize = random.bounded(50'000'000);
-            record->modifiedTime = 1'500'000'000 + random.bounded(200'000'000);
-            all.append(record.get());
-            records.push_back(std::move(record));
-        }
-    }
-
-    std::vector<std::unique_ptr<TreeItemData>> records;
-    QList<TreeItemData *> all;
-};
-
-const Scan &scan()
-{
-    static const Scan instance;
-    return instance;
+    return MillionFiles::instance();
 }
 
 TreeItemData &folder(int files)
 {
-    static TreeItemData root;
-    root.childFiles = scan().all.mid(0, files);
-    return root;
+    return scan().folder(files);
 }
 
 template <typename Less>
 void sortStock(benchmark::State &state, Less less)
 {
     for (auto _ : state) {
-        QList<TreeItemData *> rows = scan().all;
+        QList<TreeItemData *> rows = scan().all();
         std::sort(rows.begin(), rows.end(), less);
         benchmark::DoNotOptimize(rows);
     }
@@ -125,24 +91,6 @@ void growStock(benchmark::State &state)
     }
 }
 
-void checkAllOurs(benchmark::State &state)
-{
-    ScanDataModel model;
-    model.openFolder(&folder(RecordCount));
-    for (auto _ : state)
-        model.setAllCheckStates(Qt::Checked);
-}
-
-void checkAllStock(benchmark::State &state)
-{
-    ScanDataModel model;
-    model.openFolder(&folder(RecordCount));
-    for (auto _ : state) {
-        for (int row = 0; row < RecordCount; ++row)
-            model.setData(model.index(row, 0), Qt::Checked, Qt::CheckStateRole);
-    }
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -182,8 +130,6 @@ int main(int argc, char **argv)
     add("fivePercentNewNames/stock", sortNamesStock);
     add("hundredGrowingUpdates/ours", growOurs);
     add("hundredGrowingUpdates/stock", growStock);
-    add("checkAll/ours", checkAllOurs);
-    add("checkAll/stock", checkAllStock);
 
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;

@@ -9,7 +9,7 @@
 
 /// Runs all benchmarks and then prints, for each pair "Name/ours" and "Name/stock" (with whatever
 /// arguments follow), how many times faster ours was in this run: by the clock where the benchmark
-/// asks for real time, else by the processor's.
+/// asks for real time, by its own count where it keeps one, else by the processor's.
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:
@@ -18,9 +18,9 @@ public:
         ConsoleReporter::ReportRuns(runs);
         for (const Run &run : runs) {
             if (run.run_type == Run::RT_Iteration)
-                m_times[run.benchmark_name()] = run.run_name.time_type == "real_time"
-                    ? run.GetAdjustedRealTime()
-                    : run.GetAdjustedCPUTime();
+                m_times[run.benchmark_name()] = run.run_name.time_type.empty()
+                    ? run.GetAdjustedCPUTime()
+                    : run.GetAdjustedRealTime();
         }
     }
 
