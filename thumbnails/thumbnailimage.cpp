@@ -1,5 +1,7 @@
 #include "thumbnails/thumbnailimage.h"
 
+#include "thumbnails/smallpng.h"
+
 #include <QFile>
 #include <QImageReader>
 #include <QThread>
@@ -40,6 +42,24 @@ bool paysToReduceWhileReading(const QByteArray &format, qint64 pixels, const QSi
     return pixels >= LargePixels;
 }
 
+QImage scaledTo(const QSize &target, const QImage &image)
+{
+    return image.size() == target
+        ? image
+        : image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// Null for all that is not a small PNG file, which is read from its beginning then.
+QImage readSmallPng(QFile &file)
+{
+    if (file.size() > SmallPng::MostBytes || !SmallPng::isPng(file.peek(8)))
+        return {};
+    const QImage image = SmallPng::read(file.readAll());
+    if (image.isNull())
+        file.seek(0);
+    return image;
+}
+
 QImage readyForPixmap(const QImage &image)
 {
     return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
@@ -66,6 +86,10 @@ QImage load(const QString &path)
     InterruptibleFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
+    const QImage small = readSmallPng(file);
+    if (!small.isNull())
+        return readyForPixmap(scaledTo(targetSize(small.size()), small));
+
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
@@ -79,12 +103,8 @@ QImage load(const QString &path)
     if (paysToReduceWhileReading(reader.format(), pixels, target))
         reader.setScaledSize(turned ? target.transposed() : target);
 
-    QImage image = reader.read();
-    if (image.isNull())
-        return {};
-    if (image.size() != target)
-        image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return readyForPixmap(image);
+    const QImage image = reader.read();
+    return image.isNull() ? QImage() : readyForPixmap(scaledTo(target, image));
 }
 
 } // namespace ThumbnailImage
