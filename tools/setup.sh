@@ -15,6 +15,7 @@ to read and write videos|libavformat-dev libavcodec-dev libavutil-dev libswscale
 to take frames from videos|libffmpegthumbnailer-dev
 to make the sample card|dosfstools mtools
 so that texts are visible|fonts-open-sans fonts-noto-core fonts-noto-cjk
+for Qt's own words in other languages|qttranslations5-l10n
 for the benchmarks|libbenchmark-dev
 for tests with other file systems|e2fsprogs exfatprogs
 GROUPS

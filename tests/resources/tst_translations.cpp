@@ -335,6 +335,8 @@ void TestTranslations::cataloguesKnowTheSources()
     const QSet<QString> current = QSet<QString>(after.texts.keyBegin(), after.texts.keyEnd());
     const QStringList missing = (current - old).values();
     QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char('\n'))));
+    const QStringList leftOver = (old - current).values();
+    QVERIFY2(leftOver.isEmpty(), qPrintable(leftOver.join(QLatin1Char('\n'))));
     for (auto it = after.texts.begin(); it != after.texts.end(); ++it)
         QVERIFY2(it->isFinished && !it->forms.contains(QString()), qPrintable(it.key()));
 }

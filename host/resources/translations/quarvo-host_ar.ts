@@ -89,10 +89,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>البطاقة</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>إلى الأعلى</translation>
     </message>

@@ -73,10 +73,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Karte</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Nach oben</translation>
     </message>

@@ -73,10 +73,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Card</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Up</translation>
     </message>

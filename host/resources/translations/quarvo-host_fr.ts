@@ -73,10 +73,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Carte</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Niveau supérieur</translation>
     </message>

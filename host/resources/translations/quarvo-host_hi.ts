@@ -73,10 +73,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>कार्ड</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>ऊपर</translation>
     </message>

@@ -69,10 +69,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Kartu</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Naik</translation>
     </message>

@@ -73,10 +73,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Scheda</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Su</translation>
     </message>

@@ -69,10 +69,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>カード</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>上へ</translation>
     </message>

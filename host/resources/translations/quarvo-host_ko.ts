@@ -69,10 +69,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>카드</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>위로</translation>
     </message>

@@ -73,10 +73,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Kaart</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Omhoog</translation>
     </message>

@@ -73,10 +73,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Cartão</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Subir</translation>
     </message>

@@ -77,10 +77,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Карта</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Вверх</translation>
     </message>

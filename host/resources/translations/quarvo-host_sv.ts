@@ -73,10 +73,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>Kort</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>Upp</translation>
     </message>

@@ -69,10 +69,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>การ์ด</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>ขึ้นหนึ่งระดับ</translation>
     </message>

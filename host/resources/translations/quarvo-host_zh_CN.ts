@@ -69,10 +69,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>存储卡</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>向上</translation>
     </message>

@@ -69,10 +69,6 @@
 <context>
     <name>Breadcrumbs</name>
     <message>
-        <source>Card</source>
-        <translation>記憶卡</translation>
-    </message>
-    <message>
         <source>Up</source>
         <translation>往上</translation>
     </message>
