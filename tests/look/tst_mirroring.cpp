@@ -13,6 +13,9 @@
 
 namespace {
 
+constexpr QSize Window(1100, 720);
+constexpr QSize Small(760, 520);
+
 QRect reflected(const QRect &rect, int width)
 {
     return {width - rect.x() - rect.width(), rect.y(), rect.width(), rect.height()};
@@ -70,7 +73,7 @@ private:
 
 void TestMirroring::initTestCase()
 {
-    m_stage = std::make_unique<Stage>(QSize(1100, 720));
+    m_stage = std::make_unique<Stage>(Window);
     QVERIFY(m_stage->load());
     m_stage->setLanguage(QStringLiteral("English"));
 }
@@ -78,6 +81,7 @@ void TestMirroring::initTestCase()
 void TestMirroring::cleanup()
 {
     m_stage->setOnDialog({});
+    m_stage->window().resize(Window);
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
@@ -114,6 +118,7 @@ void TestMirroring::widgets()
 {
     QFETCH(QString, page);
 
+    m_stage->window().resize(Small); // the cards' own scroll bar is there too
     QMap<QString, QRect> rects;
     m_stage->setOnDialog([&] { rects = seen(); });
     prepare(page, Qt::LeftToRight);
