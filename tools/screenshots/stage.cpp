@@ -48,6 +48,7 @@ bool Stage::load()
         QTextStream(stderr) << "quarvo-screenshots: " << m_loader.errorString() << '\n';
         return false;
     }
+    // the class of the plug-in is known by the names of its signals only
     connect(m_loader.instance(), SIGNAL(signalGetMetaData(TreeItemData *)), this,
             SLOT(answerMetaData(TreeItemData *)));
     m_scan = m_view->getScanContentFrame();
