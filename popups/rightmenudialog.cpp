@@ -12,11 +12,13 @@
 #include "thumbnails/highdpipixmapsmanager.h"
 #include "ui_rightmenudialog.h"
 
+#include <QBitmap>
 #include <QCursor>
 #include <QDebug>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPixmap>
 #include <QScreen>
 
@@ -199,6 +201,24 @@ void RightMenuDialog::showShadow()
     });
 }
 
+void RightMenuDialog::cutToBody()
+{
+    const bool shadowed = System::windowsAreBlended();
+    ui->labelDropShadow->setVisible(shadowed);
+    if (shadowed) {
+        clearMask();
+        return;
+    }
+    QBitmap body(size());
+    body.clear();
+    QPainter painter(&body);
+    painter.setBrush(Qt::color1);
+    painter.drawRoundedRect(ui->frame->geometry().adjusted(0, 0, -1, -1),
+                            DropShadowManager::BodyRadius, DropShadowManager::BodyRadius);
+    painter.end();
+    setMask(body);
+}
+
 void RightMenuDialog::updateTheme()
 {
     loadStyleSheet();
@@ -300,6 +320,7 @@ void RightMenuDialog::mouseReleaseEvent(QMouseEvent *event)
 
 void RightMenuDialog::showEvent(QShowEvent *event)
 {
+    cutToBody();
     QDialog::showEvent(event);
     MenuAccessible::announce(this, QAccessible::PopupMenuStart);
 }

@@ -71,6 +71,8 @@ private:
     /// The body's corner comes to \a globalPos.
     void place(const QPoint &globalPos);
     void showShadow();
+    /// Only the body where a shadow would stand on black.
+    void cutToBody();
     void highlight(RightMenuFrame *entry);
     RightMenuFrame *highlighted() const;
     void moveHighlight(bool down);

@@ -31,6 +31,10 @@ void registerFontSubstitutes();
 /// draws one for a class.
 void removeClassShadow(WId window);
 
+/// Translucent parts of a window let through what lies behind it. Where they do not, they are
+/// black. May change while the program runs. Needs a QGuiApplication. GUI thread.
+bool windowsAreBlended();
+
 /// Windows can be shown to somebody. May be called before there is an application object.
 bool hasDisplay();
 

@@ -9,6 +9,9 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QMimeDatabase>
+#include <QScreen>
+
+#include <qpa/qplatformnativeinterface.h>
 
 #include <dlfcn.h>
 #include <sys/resource.h>
@@ -139,6 +142,17 @@ void System::registerFontSubstitutes()
 void System::removeClassShadow(WId)
 {
     // windows have no class here that could carry a shadow
+}
+
+bool System::windowsAreBlended()
+{
+    // Everything but an X server without a compositor blends.
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
+        return true;
+    QPlatformNativeInterface *native = QGuiApplication::platformNativeInterface();
+    QScreen *screen = QGuiApplication::primaryScreen();
+    return !native || !screen
+        || native->nativeResourceForScreen(QByteArrayLiteral("compositingEnabled"), screen);
 }
 
 bool System::hasDisplay()

@@ -143,6 +143,11 @@ void System::removeClassShadow(WId window)
                   LONG(GetClassLongW(handle, GCL_STYLE) & ~DWORD(CS_DROPSHADOW)));
 }
 
+bool System::windowsAreBlended()
+{
+    return true; // by the desktop window manager, which cannot be turned off
+}
+
 bool System::hasDisplay()
 {
     return true;
