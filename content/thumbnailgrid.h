@@ -66,6 +66,7 @@ protected:
 
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles) override;
 
@@ -87,6 +88,9 @@ private:
 
     void paintCards(QPainter *painter, const QRegion &region);
     void paintBand(QPainter *painter);
+    QRect focusRect(int row) const;
+    /// Or no more.
+    void showFocus();
 
     void rememberTop();
     void setHover(const QPoint &pos);

@@ -11,6 +11,10 @@
 #include <QScrollBar>
 #include <QStyle>
 
+namespace {
+constexpr int FocusReach = 4;
+} // namespace
+
 void ThumbnailGrid::paintEvent(QPaintEvent *event)
 {
     layOutIfDue();
@@ -48,10 +52,31 @@ void ThumbnailGrid::paintCards(QPainter *painter, const QRegion &region)
                 option.palette.setCurrentColorGroup(enabled ? QPalette::Normal
                                                             : QPalette::Disabled);
             itemDelegate(index)->paint(painter, option, index);
-            if (focused && m_showFocus && index == current)
-                paintFocusRing(painter, option.rect, m_focusColor);
         }
     }
+    if (focused && m_showFocus && current.isValid())
+        paintFocusRing(painter, focusRect(current.row()), m_focusColor);
+}
+
+QRect ThumbnailGrid::focusRect(int row) const
+{
+    // Outside of the card, whose look may have a frame of the same colour already.
+    const int reach = qMin(FocusReach, spacing() / 2);
+    return geometryNow().cardRect(row).translated(-offset()).adjusted(-reach, -reach, reach, reach);
+}
+
+void ThumbnailGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    HandView::currentChanged(current, previous);
+    if (previous.isValid())
+        viewport()->update(focusRect(previous.row()));
+    showFocus();
+}
+
+void ThumbnailGrid::showFocus()
+{
+    if (currentIndex().isValid())
+        viewport()->update(focusRect(currentIndex().row()));
 }
 
 void ThumbnailGrid::paintBand(QPainter *painter)
@@ -114,6 +139,7 @@ void ThumbnailGrid::changeHover(const QModelIndex &index)
 void ThumbnailGrid::mousePressEvent(QMouseEvent *event)
 {
     m_showFocus = false;
+    showFocus();
     HandView::mousePressEvent(event);
 }
 
@@ -169,7 +195,7 @@ void ThumbnailGrid::keyPressEvent(QKeyEvent *event)
 {
     m_showFocus = true;
     HandView::keyPressEvent(event);
-    repaintRow(currentIndex().row());
+    showFocus();
 }
 
 void ThumbnailGrid::focusInEvent(QFocusEvent *event)
