@@ -73,7 +73,7 @@ void Automation::scanEnded()
         tell(warning);
     check();
     if (!m_wishes.search.isEmpty())
-        m_window.search(m_wishes.search);
+        m_window.search(m_wishes.search, m_wishes.described);
     if (m_wishes.screenshot.isEmpty())
         recover();
     else

@@ -47,6 +47,7 @@ CommandLine::Answer CommandLine::parse(const QStringList &arguments, QString *me
     add("theme", "light or dark.", "THEME");
     add("language", "Language, for example German or \"Chinese Simplified\".", "NAME");
     add("search", "Searches for names that contain TEXT.", "TEXT");
+    add("describe", "Searches for what TEXT describes, for example \"photos may 2024\".", "TEXT");
     add("check",
         "Chooses what PATTERN means: a wildcard over the path from the card's root, \"*\" is "
         "everything. May be given more than once.",
@@ -83,7 +84,8 @@ CommandLine::Answer CommandLine::parse(const QStringList &arguments, QString *me
         return Usage;
     }
     source = sources.value(0);
-    search = parser.value(QStringLiteral("search"));
+    described = parser.isSet(QStringLiteral("describe"));
+    search = parser.value(described ? QStringLiteral("describe") : QStringLiteral("search"));
     checkPatterns = parser.values(QStringLiteral("check"));
     recoverTo = parser.value(QStringLiteral("recover-to"));
     screenshot = parser.value(QStringLiteral("screenshot"));

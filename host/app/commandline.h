@@ -12,6 +12,7 @@ struct CommandLine
     int theme = -1; ///< a THEMETYPE; below 0: that of the settings
     QString language;
     QString search;
+    bool described = false; ///< the search is by description
     QStringList checkPatterns;
     QString recoverTo;
     QString screenshot;

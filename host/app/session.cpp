@@ -168,7 +168,8 @@ void Session::publishSearch()
         return;
     m_publishedMatches = m_search.count();
     m_search.updateCheckState();
-    m_plugin->updateSearchData(m_search.root(), m_search.keyword());
+    // A description is no part of a name that could be marked there.
+    m_plugin->updateSearchData(m_search.root(), m_filter.aiSearch ? QString() : m_search.keyword());
     emit searchChanged();
 }
 
@@ -213,24 +214,39 @@ void Session::setKeyword(const QString &keyword)
         return;
     m_plugin->clearData(Plugin::SearchSide); // before the root of the old search goes
     m_publishedMatches = -1;
-    m_search.start(keyword);
+    m_search.start(keyword, m_filter.aiSearch ? ItemSearch::By::Description : ItemSearch::By::Name);
     emit searchChanged();
+}
+
+void Session::setDescribed(bool described)
+{
+    if (described == m_filter.aiSearch)
+        return;
+    m_filter.aiSearch = described;
+    restartSearch();
+}
+
+void Session::restartSearch()
+{
+    const QString keyword = m_search.keyword();
+    if (keyword.isEmpty())
+        return;
+    setKeyword(QString());
+    setKeyword(keyword);
 }
 
 void Session::setFilter(const FilterCondition &condition)
 {
     endStep();
+    const bool described = m_filter.aiSearch;
     m_filter = condition;
+    m_filter.aiSearch = described;
     m_tree.setFilter(ItemFilter(condition));
     m_plugin->setFilterCondition(&m_filter);
     // the folder that was shown may have nothing left in it: go up to where there is something
     while (m_shown && m_shown->folder() && !m_shown->isShown)
         m_shown = m_shown->folder();
-    const QString keyword = m_search.keyword();
-    if (!keyword.isEmpty()) {
-        setKeyword(QString());
-        setKeyword(keyword);
-    }
+    restartSearch();
     publish();
     emit shownRootChanged();
     emit checksChanged();

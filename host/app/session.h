@@ -42,6 +42,9 @@ public:
     /// Goes to the folder of \a item and makes it the current item.
     void locate(const ItemRecord *item);
 
+    /// Keywords are descriptions from now on, or names again; a search that is on starts over.
+    void setDescribed(bool described);
+    bool isDescribed() const { return m_filter.aiSearch; }
     /// An empty \a keyword ends the search.
     void setKeyword(const QString &keyword);
     void setFilter(const FilterCondition &condition);
@@ -90,6 +93,7 @@ private:
     void finishScan(const ScanOutcome &outcome);
     void publish();
     void publishSearch();
+    void restartSearch();
     void publishChecks();
     void takeCheck(TreeItemData *item, Qt::CheckState state);
     void takeSearchCheck(TreeItemData *item, Qt::CheckState state);

@@ -17,13 +17,15 @@ ItemSearch::ItemSearch(const ItemTree &tree, QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &ItemSearch::step);
 }
 
-void ItemSearch::start(const QString &keyword)
+void ItemSearch::start(const QString &keyword, By by)
 {
     clear();
     if (keyword.isEmpty())
         return;
     m_keyword = keyword;
     m_matcher = QStringMatcher(keyword, Qt::CaseInsensitive);
+    if (by == By::Description)
+        m_description.emplace(keyword);
     m_root.reset(new TreeItemData);
     m_root->kind = ItemRecord::FolderKind;
     m_root->secondaryId = -2 - m_searches++; // below zero: never that of a record
@@ -41,6 +43,7 @@ void ItemSearch::clear()
 {
     m_timer.stop();
     m_keyword.clear();
+    m_description.reset();
     m_root.reset();
     m_next = 0;
 }
@@ -48,6 +51,11 @@ void ItemSearch::clear()
 bool ItemSearch::isComplete() const
 {
     return m_next >= m_tree.records().size();
+}
+
+bool ItemSearch::finds(const ItemRecord &record) const
+{
+    return m_description ? m_description->matches(record) : m_matcher.indexIn(record.name) >= 0;
 }
 
 void ItemSearch::step()
@@ -58,7 +66,7 @@ void ItemSearch::step()
     const int end = records.size();
     while (m_next < end) {
         ItemRecord *record = records.at(m_next++);
-        if (record->isShown && !record->isRoot && m_matcher.indexIn(record->name) >= 0) {
+        if (record->isShown && !record->isRoot && finds(*record)) {
             (record->isFolder() ? m_root->childFolders : m_root->childFiles).append(record);
             ++m_root->itemCount;
             m_root->folderSize += record->size();

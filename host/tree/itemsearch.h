@@ -1,16 +1,19 @@
 #pragma once
 
+#include "host/tree/itemdescription.h"
 #include "host/tree/recordstore.h"
 
 #include <QObject>
 #include <QStringMatcher>
 #include <QTimer>
 
+#include <optional>
+
 class ItemTree;
 
-/// Finds the shown items whose name contains a text, in short slices between events, and goes on as
-/// more items arrive. The root lists the records of the tree itself, so their checks are the same
-/// on both sides. GUI thread.
+/// Finds the shown items whose name contains a text, or which a description fits, in short slices
+/// between events, and goes on as more items arrive. The root lists the records of the tree itself,
+/// so their checks are the same on both sides. GUI thread.
 class ItemSearch : public QObject
 {
     Q_OBJECT
@@ -18,8 +21,10 @@ class ItemSearch : public QObject
 public:
     explicit ItemSearch(const ItemTree &tree, QObject *parent = nullptr);
 
+    enum class By { Name, Description };
+
     /// Starts over; an empty \a keyword ends the search. Every search has a root of its own.
-    void start(const QString &keyword);
+    void start(const QString &keyword, By by);
     /// More items may be there.
     void resume();
     /// Drops the results; to be called before records go.
@@ -42,11 +47,13 @@ signals:
 
 private:
     void step();
+    bool finds(const ItemRecord &record) const;
 
     const ItemTree &m_tree;
     std::unique_ptr<TreeItemData> m_root;
     QString m_keyword;
     QStringMatcher m_matcher;
+    std::optional<ItemDescription> m_description;
     QTimer m_timer;
     int m_next = 0;
     qint64 m_searches = 0;

@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QMenu>
 #include <QToolButton>
 #include <QVariant>
@@ -47,8 +48,9 @@ void Breadcrumbs::follow(ItemRecord *shown)
     rebuild();
 }
 
-void Breadcrumbs::followSearch(const QString &keyword, int count)
+void Breadcrumbs::followSearch(const QString &keyword, bool described, int count)
 {
+    m_described = described;
     m_keyword = keyword;
     m_matches = count;
     rebuild();
@@ -104,8 +106,10 @@ void Breadcrumbs::rebuild()
     m_up->setToolTip(m_keyword.isEmpty() ? tr("Up") : tr("End the search"));
     m_up->setAccessibleName(m_up->toolTip());
     if (!m_keyword.isEmpty()) {
-        addCrumb(tr("“%1” found in %Ln name(s)", nullptr, m_matches).arg(m_keyword), true)
-            ->setEnabled(true);
+        const QString found = m_described
+            ? QStringLiteral("%1 · %2").arg(m_keyword, QLocale().toString(m_matches))
+            : tr("“%1” found in %Ln name(s)", nullptr, m_matches).arg(m_keyword);
+        addCrumb(found, true)->setEnabled(true);
         fit();
         return;
     }

@@ -18,7 +18,7 @@ public:
     explicit Breadcrumbs(const ItemTree &tree, QWidget *parent = nullptr);
 
     void follow(ItemRecord *shown);
-    void followSearch(const QString &keyword, int count);
+    void followSearch(const QString &keyword, bool described, int count);
     void setTheme(const HostTheme &theme);
 
 signals:
@@ -41,6 +41,7 @@ private:
     QVector<QToolButton *> m_crumbs;
     ItemRecord *m_shown = nullptr;
     QString m_keyword;
+    bool m_described = false;
     int m_matches = 0;
     QColor m_icon;
     QColor m_off;

@@ -45,6 +45,15 @@ QPainterPath outlineOf(Glyph glyph)
         path.addEllipse(QPointF(8.75, 8.75), 5.25, 5.25);
         addLines(path, {{12.75, 12.75}, {17, 17}});
         break;
+    case Glyph::Sparkle:
+        path.moveTo(9, 3.5);
+        path.cubicTo(9.5, 8, 11, 9.5, 15.5, 10);
+        path.cubicTo(11, 10.5, 9.5, 12, 9, 16.5);
+        path.cubicTo(8.5, 12, 7, 10.5, 2.5, 10);
+        path.cubicTo(7, 9.5, 8.5, 8, 9, 3.5);
+        addLines(path, {{16, 2.5}, {16, 5.5}});
+        addLines(path, {{14.5, 4}, {17.5, 4}});
+        break;
     case Glyph::Close:
         addLines(path, {{5.5, 5.5}, {14.5, 14.5}});
         addLines(path, {{14.5, 5.5}, {5.5, 14.5}});

@@ -8,6 +8,7 @@ enum class Glyph {
     OpenFolder,
     Disk,
     Search,
+    Sparkle,
     Close,
     Grid,
     ListDetail,

@@ -110,6 +110,7 @@ void MainWindow::connectBars()
     connect(m_topBar, &TopBar::rescanRequested, this, [this] { openSource(m_session.path()); });
     connect(m_topBar, &TopBar::stopRequested, &m_session, &Session::cancelScan);
     connect(m_topBar, &TopBar::keywordChanged, &m_session, &Session::setKeyword);
+    connect(m_topBar, &TopBar::describedChanged, &m_session, &Session::setDescribed);
     connect(m_topBar, &TopBar::viewModePicked, &m_session, &Session::setViewMode);
     connect(m_topBar, &TopBar::themeToggled, this,
             [this] { setTheme(m_theme.isDark ? LightTheme : DarkTheme); });
@@ -204,8 +205,9 @@ void MainWindow::setTheme(THEMETYPE type)
     m_plugin->updateTheme(type);
 }
 
-void MainWindow::search(const QString &keyword)
+void MainWindow::search(const QString &keyword, bool described)
 {
+    m_topBar->setDescribed(described);
     m_topBar->setKeyword(keyword);
     m_session.setKeyword(m_topBar->keyword());
 }
@@ -215,7 +217,7 @@ void MainWindow::refreshSide()
     const ItemSearch &search = m_session.search();
     m_sides->setCurrentIndex(search.isActive() ? SearchPage : ScanPage);
     if (search.isActive()) {
-        m_crumbs->followSearch(search.keyword(), search.count());
+        m_crumbs->followSearch(search.keyword(), m_session.isDescribed(), search.count());
     } else {
         m_crumbs->follow(m_session.shownRoot());
         if (!m_topBar->keyword().isEmpty() && !m_session.isScanning())

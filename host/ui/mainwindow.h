@@ -30,7 +30,7 @@ public:
     void openSource(const QString &path);
     void setViewMode(int mode);
     void setTheme(THEMETYPE type);
-    void search(const QString &keyword);
+    void search(const QString &keyword, bool described = false);
     /// Recovers \a items into \a target and shows how it goes; recovered() follows.
     void recover(const QVector<FoundItem> &items, const QString &target);
     void tellFailure(const QString &text);

@@ -55,6 +55,13 @@ TopBar::TopBar(QWidget *parent)
     m_search->setMaximumWidth(SearchMaxWidth);
     m_search->setClearButtonEnabled(true);
     m_searchIcon = m_search->addAction(QIcon(), QLineEdit::LeadingPosition);
+    m_describe = m_search->addAction(QIcon(), QLineEdit::TrailingPosition);
+    m_describe->setCheckable(true);
+    m_describe->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_D);
+    connect(m_describe, &QAction::toggled, this, [this](bool described) {
+        nameSearch();
+        emit describedChanged(described);
+    });
     m_typing.setSingleShot(true);
     m_typing.setInterval(TypingPauseMs);
     connect(m_search, &QLineEdit::textChanged, &m_typing, QOverload<>::of(&QTimer::start));
@@ -126,14 +133,30 @@ void TopBar::retranslate()
     m_openImage->setText(tr("Open disk image…"));
     m_rescan->setText(tr("Scan again"));
     m_stop->setText(tr("Stop scanning"));
-    m_search->setPlaceholderText(tr("Search by name"));
-    m_search->setAccessibleName(tr("Search by name"));
+    nameSearch();
     m_views->setText(Plugin::GridView, tr("Thumbnails"));
     m_views->setText(Plugin::ListWithDetailView, tr("List with details"));
     m_views->setText(Plugin::ListView, tr("List"));
     m_theme->setToolTip(tr("Light or dark"));
     m_theme->setAccessibleName(tr("Light or dark"));
     elideSource();
+}
+
+void TopBar::nameSearch()
+{
+    const QString what = m_describe->isChecked() ? tr("Search by description")
+                                                 : tr("Search by name");
+    m_search->setPlaceholderText(what);
+    m_search->setAccessibleName(what);
+    m_describe->setText(tr("Search by description"));
+    m_describe->setToolTip(m_describe->text());
+    // a line edit draws its icons as if they were never chosen
+    m_describe->setIcon(m_describe->isChecked() ? m_describedIcon : m_namedIcon);
+}
+
+void TopBar::setDescribed(bool described)
+{
+    m_describe->setChecked(described);
 }
 
 void TopBar::setSource(const QString &path)
@@ -188,6 +211,9 @@ void TopBar::setTheme(const HostTheme &theme)
     m_views->setTheme(theme);
     m_source->setIcon(glyphIcon(Glyph::Disk, theme.accentText));
     m_searchIcon->setIcon(glyphIcon(Glyph::Search, theme.faintText));
+    m_namedIcon = glyphIcon(Glyph::Sparkle, theme.faintText);
+    m_describedIcon = glyphIcon(Glyph::Sparkle, theme.accentText);
+    nameSearch();
     m_language->setIcon(glyphIcon(Glyph::Web, theme.icon));
     m_theme->setIcon(glyphIcon(theme.isDark ? Glyph::Sun : Glyph::Moon, theme.icon));
     m_openFolder->setIcon(glyphIcon(Glyph::OpenFolder, theme.icon, theme.offText));

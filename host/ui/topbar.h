@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QIcon>
 #include <QTimer>
 
 class QAction;
@@ -24,6 +25,8 @@ public:
     void setViewMode(int mode);
     void setKeyword(const QString &keyword);
     QString keyword() const;
+    /// What is typed describes items rather than names them.
+    void setDescribed(bool described);
     void focusSearch();
     void setTheme(const HostTheme &theme);
 
@@ -33,6 +36,7 @@ signals:
     void rescanRequested();
     void stopRequested();
     void keywordChanged(const QString &keyword); ///< once typing pauses
+    void describedChanged(bool described);
     void viewModePicked(int mode);
     void themeToggled();
     void languagePicked(const QString &name);
@@ -46,6 +50,7 @@ private:
     void buildLanguageMenu();
     void retranslate();
     void elideSource();
+    void nameSearch();
 
     QToolButton *m_source;
     QMenu *m_menu;
@@ -55,6 +60,9 @@ private:
     QAction *m_stop = nullptr;
     QLineEdit *m_search;
     QAction *m_searchIcon = nullptr;
+    QAction *m_describe = nullptr;
+    QIcon m_namedIcon;
+    QIcon m_describedIcon;
     Segments *m_views;
     QToolButton *m_language;
     QActionGroup *m_languages;

@@ -245,6 +245,14 @@
     </message>
 </context>
 <context>
+    <name>ItemDescription</name>
+    <message>
+        <source>a an and at from in of on the with</source>
+        <comment>Words of a search by description that say nothing alone</comment>
+        <translation>من في على مع و إلى</translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message>
         <source>All files</source>
@@ -927,6 +935,10 @@
     <message>
         <source>Source: %1</source>
         <translation>المصدر: %1</translation>
+    </message>
+    <message>
+        <source>Search by description</source>
+        <translation>البحث بالوصف</translation>
     </message>
 </context>
 </TS>

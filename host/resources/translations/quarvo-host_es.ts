@@ -225,6 +225,14 @@
     </message>
 </context>
 <context>
+    <name>ItemDescription</name>
+    <message>
+        <source>a an and at from in of on the with</source>
+        <comment>Words of a search by description that say nothing alone</comment>
+        <translation>el la los las un una y de del en con</translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message>
         <source>All files</source>
@@ -871,6 +879,10 @@
     <message>
         <source>Source: %1</source>
         <translation>Origen: %1</translation>
+    </message>
+    <message>
+        <source>Search by description</source>
+        <translation>Buscar por descripción</translation>
     </message>
 </context>
 </TS>

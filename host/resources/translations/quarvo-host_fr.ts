@@ -225,6 +225,14 @@
     </message>
 </context>
 <context>
+    <name>ItemDescription</name>
+    <message>
+        <source>a an and at from in of on the with</source>
+        <comment>Words of a search by description that say nothing alone</comment>
+        <translation>de du des d’un une le la les et en au aux avec dans sur</translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message>
         <source>All files</source>
@@ -871,6 +879,10 @@
     <message>
         <source>Source: %1</source>
         <translation>Source&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Search by description</source>
+        <translation>Recherche par description</translation>
     </message>
 </context>
 </TS>

@@ -220,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>ItemDescription</name>
+    <message>
+        <source>a an and at from in of on the with</source>
+        <comment>Words of a search by description that say nothing alone</comment>
+        <translation>dari di dan dengan pada yang</translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message>
         <source>All files</source>
@@ -857,6 +865,10 @@
     <message>
         <source>Source: %1</source>
         <translation>Sumber: %1</translation>
+    </message>
+    <message>
+        <source>Search by description</source>
+        <translation>Cari menurut deskripsi</translation>
     </message>
 </context>
 </TS>

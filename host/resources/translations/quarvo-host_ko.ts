@@ -220,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>ItemDescription</name>
+    <message>
+        <source>a an and at from in of on the with</source>
+        <comment>Words of a search by description that say nothing alone</comment>
+        <translation>의 에서 와 과 및 에</translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message>
         <source>All files</source>
@@ -857,6 +865,10 @@
     <message>
         <source>Source: %1</source>
         <translation>소스: %1</translation>
+    </message>
+    <message>
+        <source>Search by description</source>
+        <translation>설명으로 검색</translation>
     </message>
 </context>
 </TS>

@@ -225,6 +225,14 @@
     </message>
 </context>
 <context>
+    <name>ItemDescription</name>
+    <message>
+        <source>a an and at from in of on the with</source>
+        <comment>Words of a search by description that say nothing alone</comment>
+        <translation>o a os as um uma e de do da dos das em no na com</translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message>
         <source>All files</source>
@@ -871,6 +879,10 @@
     <message>
         <source>Source: %1</source>
         <translation>Origem: %1</translation>
+    </message>
+    <message>
+        <source>Search by description</source>
+        <translation>Pesquisar por descrição</translation>
     </message>
 </context>
 </TS>

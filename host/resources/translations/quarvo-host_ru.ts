@@ -230,6 +230,14 @@
     </message>
 </context>
 <context>
+    <name>ItemDescription</name>
+    <message>
+        <source>a an and at from in of on the with</source>
+        <comment>Words of a search by description that say nothing alone</comment>
+        <translation>и в во из с со на за от</translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message>
         <source>All files</source>
@@ -885,6 +893,10 @@
     <message>
         <source>Source: %1</source>
         <translation>Источник: %1</translation>
+    </message>
+    <message>
+        <source>Search by description</source>
+        <translation>Поиск по описанию</translation>
     </message>
 </context>
 </TS>

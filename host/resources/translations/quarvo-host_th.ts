@@ -220,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>ItemDescription</name>
+    <message>
+        <source>a an and at from in of on the with</source>
+        <comment>Words of a search by description that say nothing alone</comment>
+        <translation>ของ ใน จาก และ ที่ กับ</translation>
+    </message>
+</context>
+<context>
     <name>ItemKinds</name>
     <message>
         <source>All files</source>
@@ -857,6 +865,10 @@
     <message>
         <source>Source: %1</source>
         <translation>แหล่งที่มา: %1</translation>
+    </message>
+    <message>
+        <source>Search by description</source>
+        <translation>ค้นหาตามคำอธิบาย</translation>
     </message>
 </context>
 </TS>
