@@ -19,13 +19,14 @@ function(scan_translations target)
     add_custom_target(${target} ALL DEPENDS ${outputs})
 endfunction()
 
-# update-texts: brings every catalogue up to date with the sources, for a translator to go on from.
+# scan_update_texts(TARGET STEM ARGUMENT...): a target that brings every STEM_LANGUAGE.ts up to date
+# with the sources, for a translator to go on from; the arguments are lupdate's.
 # By hand only: it writes into the source tree. A test that does the same to copies finds the
 # arguments in the global property TARGET_ARGUMENTS.
-function(scan_update_texts target folder)
+function(scan_update_texts target stem)
     set(arguments -silent -no-obsolete -locations none -source-language en ${ARGN})
     set_property(GLOBAL PROPERTY ${target}_ARGUMENTS "${arguments}")
-    file(GLOB catalogues "${folder}/*.ts")
+    file(GLOB catalogues "${stem}_*.ts")
     add_custom_target(${target}
         COMMAND Qt5::lupdate ${arguments} -ts ${catalogues}
         WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"

@@ -33,9 +33,10 @@ bool Catalogues::load(const QString &code)
     List list;
     const bool hasHost = add(&list, QLatin1String("quarvo-host_") + code, folder());
     const bool hasPlugin = add(&list, QLatin1String("quarvo_") + code, folder());
-    // the file dialogs' own words, where Qt is installed with them
-    add(&list, QLatin1String("qtbase_") + code,
-        QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    // the file dialogs' own words; Qt does not have them in every language
+    const QString qt = QLatin1String("qtbase_") + code;
+    if (!add(&list, qt, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        add(&list, qt, folder());
     const QWriteLocker lock(&m_lock);
     m_chosen.swap(list);
     return hasHost && hasPlugin;

@@ -104,7 +104,7 @@ QStringList found(const QRegularExpression &pattern, const QString &text)
 QStringList machinery(const QString &text)
 {
     static const QRegularExpression s_pieces(
-        QStringLiteral("%L?[1-9]|<[^>]*>|^\\d\\. |&(?=\\w)|\\n|\u2026$"));
+        QStringLiteral("%L?[1-9]|<[^>]*>|^\\d\\. |&|\\n|\u2026$"));
     QStringList pieces = found(s_pieces, text);
     std::sort(pieces.begin(), pieces.end());
     return pieces;
@@ -143,6 +143,8 @@ private slots:
     void characters();
     void plurals_data();
     void plurals();
+    void wordsOfQt_data();
+    void wordsOfQt();
     void cataloguesKnowTheSources_data();
     void cataloguesKnowTheSources();
 
@@ -301,6 +303,32 @@ void TestTranslations::plurals()
         translator.load(QStringLiteral("quarvo-host_") + code,
                         QCoreApplication::applicationDirPath() + QLatin1String("/translations")));
     QCOMPARE(translator.translate("Texts", "%Ln file(s)", nullptr, number), text);
+}
+
+void TestTranslations::wordsOfQt_data()
+{
+    QTest::addColumn<QString>("code");
+    for (const char *code : {"hi", "id", "pt", "sv", "th"})
+        QTest::newRow(code) << QString::fromLatin1(code);
+}
+
+// The languages that Qt itself comes without.
+void TestTranslations::wordsOfQt()
+{
+    QFETCH(QString, code);
+
+    const Catalogue catalogue = Catalogue::read(
+        pathOf(QStringLiteral("host/resources/translations/qtbase"), code.toLatin1().constData()));
+    QVERIFY2(catalogue.error.isEmpty(), qPrintable(catalogue.error));
+    for (auto it = catalogue.texts.begin(); it != catalogue.texts.end(); ++it) {
+        const QString source = it.key().section(QLatin1Char('/'), 1);
+        QCOMPARE(machinery(it->forms.value(0)), machinery(source));
+    }
+    QTranslator translator;
+    QVERIFY(
+        translator.load(QStringLiteral("qtbase_") + code,
+                        QCoreApplication::applicationDirPath() + QLatin1String("/translations")));
+    QVERIFY(!translator.translate("QLineEdit", "&Paste").isEmpty());
 }
 
 void TestTranslations::cataloguesKnowTheSources_data()
