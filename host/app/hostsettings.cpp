@@ -21,7 +21,8 @@ QString HostSettings::language()
 
 void HostSettings::setLanguage(const QString &name)
 {
-    settings().setValue(QLatin1String(LanguageKey), name);
+    QSettings file = settings();
+    file.setValue(QLatin1String(LanguageKey), name);
 }
 
 QString HostSettings::target()
@@ -31,5 +32,6 @@ QString HostSettings::target()
 
 void HostSettings::setTarget(const QString &folder)
 {
-    settings().setValue(QLatin1String(TargetKey), folder);
+    QSettings file = settings();
+    file.setValue(QLatin1String(TargetKey), folder);
 }

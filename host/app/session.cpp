@@ -122,7 +122,7 @@ void Session::takeVolumes(const QVector<VolumeInfo> &volumes)
     m_publisher.start();
     emit opened();
     if (MediaSetup::installedProgram().isEmpty())
-        emit failed(MediaSetup::missingMessage());
+        emit failed(&MediaSetup::missingMessage);
     emit shownRootChanged();
 }
 
@@ -355,7 +355,7 @@ void Session::openFolder(TreeItemData *item)
     if (!folder)
         return;
     if (folder->childFolders.isEmpty() && folder->childFiles.isEmpty()) {
-        emit noticed(tr("“%1” is empty.").arg(folder->name));
+        emit noticed([name = folder->name] { return tr("“%1” is empty.").arg(name); });
         return;
     }
     QMetaObject::invokeMethod(

@@ -10,6 +10,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
+
 /// One source after the other: scans it, keeps its records, drives the plug-in with them and
 /// answers what the plug-in asks for. Knows no widget of the host. GUI thread.
 class Session : public QObject
@@ -17,6 +19,9 @@ class Session : public QObject
     Q_OBJECT
 
 public:
+    /// Says something in the language of the moment.
+    using Words = std::function<QString()>;
+
     explicit Session(ContentPlugin &plugin, QObject *parent = nullptr);
     ~Session() override;
 
@@ -78,8 +83,8 @@ signals:
     void searchChanged(); ///< it began, went on or ended
     void fileActivated(const ItemRecord *file);
     void recoverRequested();
-    void noticed(const QString &text); ///< worth telling, but no failure
-    void failed(const QString &text);
+    void noticed(const Words &words); ///< worth telling, but no failure
+    void failed(const Words &words);
     void tooltipRequested(const QString &text);
     /// A thumbnail was asked for or has been answered.
     void thumbnailTraffic();

@@ -152,10 +152,11 @@ void MainWindow::connectSession()
         [this] { recoverChosen(m_session.selectedForRecovery()); },
         Qt::QueuedConnection); // a dialog must not open inside the plug-in's signal
     connect(&m_session, &Session::noticed, this,
-            [this](const QString &text) { m_banner->tell(MessageBanner::Hint, text); });
+            [this](const Session::Words &words) { m_banner->tell(MessageBanner::Hint, words); });
     connect(&m_session, &Session::tooltipRequested, this,
             [this](const QString &text) { QToolTip::showText(QCursor::pos(), text, this); });
-    connect(&m_session, &Session::failed, this, &MainWindow::tellFailure);
+    connect(&m_session, &Session::failed, this,
+            [this](const Session::Words &words) { m_banner->tell(MessageBanner::Failure, words); });
     connect(&m_opener, &FileOpener::failed, this, &MainWindow::tellFailure);
 }
 

@@ -228,7 +228,8 @@ void TestCheckHistory::behavesLikeSnapshots()
             else if (action == 17 && folders.size() > 1)
                 tree.setChecked(find(tree, folders[1 + below(folders.size() - 1)]), below(2));
             else
-                tree.setChecked(find(tree, before.keys()[below(before.size())]), below(2));
+                tree.setChecked(find(tree, (before.begin() + below(before.size())).key()),
+                                below(2));
             if (tree.endStep()) {
                 done.append(differenceOf(before, checksOf(tree)));
                 undone.clear();
