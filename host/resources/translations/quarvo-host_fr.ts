@@ -882,7 +882,7 @@
     </message>
     <message>
         <source>Search by description</source>
-        <translation>Recherche par description</translation>
+        <translation>Rechercher par description</translation>
     </message>
 </context>
 </TS>

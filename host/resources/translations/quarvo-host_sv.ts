@@ -882,7 +882,7 @@
     </message>
     <message>
         <source>Search by description</source>
-        <translation>Sök efter beskrivning</translation>
+        <translation>Sök på beskrivning</translation>
     </message>
 </context>
 </TS>
