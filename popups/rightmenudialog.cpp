@@ -209,12 +209,13 @@ void RightMenuDialog::cutToBody()
         clearMask();
         return;
     }
+    constexpr int Radius = DropShadowManager::BodyRadius + 2; // what is half covered would be dark
     QBitmap body(size());
     body.clear();
     QPainter painter(&body);
+    painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::color1);
-    painter.drawRoundedRect(ui->frame->geometry().adjusted(0, 0, -1, -1),
-                            DropShadowManager::BodyRadius, DropShadowManager::BodyRadius);
+    painter.drawRoundedRect(ui->frame->geometry(), Radius, Radius);
     painter.end();
     setMask(body);
 }

@@ -18,6 +18,7 @@ so that texts are visible|fonts-open-sans fonts-noto-core fonts-noto-cjk
 for Qt's own words in other languages|qttranslations5-l10n
 for the benchmarks|libbenchmark-dev
 for tests with other file systems|e2fsprogs exfatprogs
+for tests on a screen without a compositor|xvfb
 GROUPS
 }
 
