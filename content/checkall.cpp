@@ -2,6 +2,7 @@
 
 #include "common/checkicon.h"
 #include "common/commonfunction.h"
+#include "common/screenpixmap.h"
 #include "model/checkbuttonaccessible.h"
 #include "model/headerview.h"
 #include "model/scantableheader.h"
@@ -49,7 +50,7 @@ void CheckAll::setState(int state)
 
 void CheckAll::refresh()
 {
-    m_button->setIcon(QIcon(CommonFunction::themePixmap(checkIconName(state()))));
+    m_button->setIcon(QIcon(screenPixmap(CommonFunction::themePixmap(checkIconName(state())))));
 }
 
 void CheckAll::choose(Qt::CheckState state)

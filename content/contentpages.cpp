@@ -2,6 +2,7 @@
 
 #include "common/commonfunction.h"
 #include "common/fontmanager.h"
+#include "common/screenpixmap.h"
 #include "common/translation.h"
 #include "content/scananimation.h"
 #include "popups/aisearchhintframe.h"
@@ -118,7 +119,7 @@ QWidget *ContentPages::aiSearchHint()
 void ContentPages::loadImages()
 {
     const auto load = [](QLabel *label, const char *name) {
-        label->setPixmap(CommonFunction::highDpiPixmap(QLatin1String(name)));
+        label->setPixmap(screenPixmap(CommonFunction::highDpiPixmap(QLatin1String(name))));
     };
     load(m_form.labNoDataImage, ":/Images/image200_No_scan_white");
     load(m_form.labLoadingImage, ":/Images/image200_Loading_white");

@@ -3,6 +3,7 @@
 #include "common/commonfunction.h"
 #include "common/fontmanager.h"
 #include "common/qssloader.h"
+#include "common/screenpixmap.h"
 #include "common/translation.h"
 #include "detail/chipinfoitem.h"
 #include "detail/datainfoitem.h"
@@ -155,7 +156,7 @@ void ItemDetailView::fillPicture()
         picture = picture.scaled(room * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         picture.setDevicePixelRatio(ratio);
     }
-    ui->iconlabel->setPixmap(picture);
+    ui->iconlabel->setPixmap(screenPixmap(picture));
 }
 
 void ItemDetailView::fillFacts()

@@ -4,6 +4,7 @@
 #include "common/commonfunction.h"
 #include "common/fontmanager.h"
 #include "common/qssloader.h"
+#include "common/screenpixmap.h"
 #include "common/translation.h"
 #include "model/checkbuttonaccessible.h"
 #include "model/sortcycle.h"
@@ -122,7 +123,7 @@ void HeaderView::setCheckState(int state)
 
 void HeaderView::setCheckIcon(const QString &name)
 {
-    ui->checkAllButton->setIcon(QIcon(CommonFunction::themePixmap(name)));
+    ui->checkAllButton->setIcon(QIcon(screenPixmap(CommonFunction::themePixmap(name))));
 }
 
 void HeaderView::setCheckButtonVisible(bool visible)

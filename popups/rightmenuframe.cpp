@@ -4,6 +4,7 @@
 #include "common/fontmanager.h"
 #include "common/guard.h"
 #include "common/qssloader.h"
+#include "common/screenpixmap.h"
 #include "ui_rightmenuframe.h"
 
 #include <QCoreApplication>
@@ -120,7 +121,7 @@ void RightMenuFrame::updateIconPixmap()
         if (icon.isNull())
             return;
         ui->lblIcon->clear();
-        ui->lblIcon->setPixmap(icon);
+        ui->lblIcon->setPixmap(screenPixmap(icon));
     });
 }
 

@@ -4,6 +4,7 @@
 #include "common/fontmanager.h"
 #include "common/guard.h"
 #include "common/qssloader.h"
+#include "common/screenpixmap.h"
 #include "common/translation.h"
 #include "ui_searchdialog.h"
 
@@ -153,7 +154,7 @@ void SearchDialog::fitInto(const QSize &available)
             shown = m_picture.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
             shown.setDevicePixelRatio(m_picture.devicePixelRatio());
         }
-        ui->labelImage->setPixmap(shown);
+        ui->labelImage->setPixmap(screenPixmap(shown));
         ui->labelImage->show();
         ui->imageSpacer->changeSize(0, gap, QSizePolicy::Fixed, QSizePolicy::Fixed);
         ui->frameLayout->invalidate();
@@ -192,7 +193,8 @@ void SearchDialog::slotCloseClicked()
 void SearchDialog::loadStyleSheet()
 {
     QSSLoader::applyStyleSheet(this, QStringLiteral("searchdialog.qss"));
-    m_close->setIcon(QIcon(CommonFunction::themePixmap(QStringLiteral("icon16_close"))));
+    m_close->setIcon(
+        QIcon(screenPixmap(CommonFunction::themePixmap(QStringLiteral("icon16_close")))));
 }
 
 void SearchDialog::changeEvent(QEvent *event)
