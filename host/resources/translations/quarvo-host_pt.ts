@@ -854,7 +854,7 @@
     </message>
     <message>
         <source>Search by name</source>
-        <translation>Pesquisar pelo nome</translation>
+        <translation>Pesquisar nome</translation>
     </message>
     <message>
         <source>Thumbnails</source>
@@ -882,7 +882,7 @@
     </message>
     <message>
         <source>Search by description</source>
-        <translation>Pesquisar por descrição</translation>
+        <translation>Pesquisar descrição</translation>
     </message>
 </context>
 </TS>

@@ -59,11 +59,11 @@
     <message>
         <source>%1 of %2 free at the target</source>
         <comment>needed, free</comment>
-        <translation>%1 из %2 свободно в папке назначения</translation>
+        <translation>%1 из %2 свободных</translation>
     </message>
     <message>
         <source>%1 needed, only %2 free at the target</source>
-        <translation>Нужно %1, в папке назначения свободно только %2</translation>
+        <translation>Нужно %1, свободно только %2</translation>
     </message>
     <message>
         <source>Recover to %1. Choose another folder…</source>
