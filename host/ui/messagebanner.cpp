@@ -3,6 +3,7 @@
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -64,6 +65,8 @@ void MessageBanner::tell(Kind kind, const Words &words)
     retranslate();
     refreshIcon();
     show();
+    QAccessibleEvent heard(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&heard);
 }
 
 void MessageBanner::tell(Kind kind, const QString &text)
