@@ -226,6 +226,55 @@ void typeStock(benchmark::State &state, const char *text)
             start, Qt::DisplayRole, QLatin1String(text), 1, Qt::MatchStartsWith | Qt::MatchWrap));
 }
 
+// ---- what a sort and a growing scan do to a selection
+
+/// Milliseconds of the processor.
+template <typename Work>
+double millisecondsOf(Work work)
+{
+    const std::clock_t start = std::clock();
+    work();
+    return 1e3 * double(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+void sortSelected(benchmark::State &state, int first)
+{
+    QListView *grid = Page::instance().grid();
+    QAbstractItemModel *model = grid->model();
+    grid->clearSelection();
+    grid->selectionModel()->select(
+        QItemSelection(model->index(first, 0), model->index(MillionFiles::Count - 1, 0)),
+        QItemSelectionModel::ClearAndSelect);
+    Qt::SortOrder order = Qt::AscendingOrder;
+    for (auto _ : state) {
+        model->sort(1, order);
+        order = order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    }
+}
+
+/// The host hands its tree over again and again while it grows to a million.
+void growingUpdates(benchmark::State &state)
+{
+    constexpr int Updates = 100;
+    Plugin *plugin = Page::instance().operations();
+    double worst = 0;
+    for (auto _ : state) {
+        plugin->clearData(Plugin::ScanSide);
+        double all = 0;
+        for (int update = 1; update <= Updates; ++update) {
+            TreeItemData &root = MillionFiles::instance().folder(MillionFiles::Count / Updates
+                                                                 * update);
+            const double took = millisecondsOf([&] { plugin->updateScanData(&root); });
+            if (update == Updates / 10)
+                Page::instance().grid()->selectAll();
+            all += took;
+            worst = std::max(worst, took);
+        }
+        state.SetIterationTime(all / 1e3);
+    }
+    state.counters["worst_ms"] = worst;
+}
+
 // ---- rubber band
 
 /// From one corner of the viewport to the other; each step is shown before the next.
@@ -312,6 +361,12 @@ int main(int argc, char **argv)
         add((name + "/ours").c_str(), [text](auto &state) { typeOurs(state, text); });
         add((name + "/stock").c_str(), [text](auto &state) { typeStock(state, text); });
     }
+    add("sortNothingSelected", [](auto &state) { sortSelected(state, MillionFiles::Count - 1); });
+    add("sortEverythingSelected", [](auto &state) { sortSelected(state, 0); });
+    add("sortAllButOneSelected", [](auto &state) { sortSelected(state, 1); });
+    benchmark::RegisterBenchmark("hundredGrowingUpdates/ours", growingUpdates)
+        ->Unit(benchmark::kMillisecond)
+        ->UseManualTime();
     for (const auto &entry : {std::make_pair("rubberBandStep/ours", &inOurs<rubberBand>),
                               std::make_pair("rubberBandStep/stock", &inStock<rubberBand>)})
         benchmark::RegisterBenchmark(entry.first, entry.second)

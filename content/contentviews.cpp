@@ -170,11 +170,13 @@ ViewPlace &ContentViews::placeInUse() const
 void ContentViews::remember()
 {
     memory().capture(placeInUse(), *m_model);
+    m_model->rememberRows();
 }
 
 void ContentViews::recall()
 {
     memory().restore(placeInUse(), *m_model);
+    m_model->forgetRows();
 }
 
 void ContentViews::setAssessmentFinished(bool finished)

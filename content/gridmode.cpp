@@ -90,7 +90,7 @@ QItemSelection GridMode::selection() const
 
 void GridMode::forgetMultiSelection()
 {
-    if (m_delegate->markedIndexes().isEmpty())
+    if (m_delegate->markedSelection().isEmpty())
         return;
     m_delegate->clearMarkedIndexes();
     m_view->viewport()->update();

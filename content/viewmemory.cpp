@@ -22,22 +22,6 @@ void appendRange(QItemSelection &selection, const ScanDataModel &model, int top,
         selection.append(QItemSelectionRange(model.index(top, 0), model.index(bottom, 0)));
 }
 
-/// As few ranges as possible; rows below 0 are left out.
-QItemSelection selectionOfRows(const ScanDataModel &model, QVector<int> rows)
-{
-    QItemSelection selection;
-    std::sort(rows.begin(), rows.end());
-    int i = int(std::lower_bound(rows.cbegin(), rows.cend(), 0) - rows.cbegin());
-    while (i < rows.size()) {
-        int last = i;
-        while (last + 1 < rows.size() && rows.at(last + 1) <= rows.at(last) + 1)
-            ++last;
-        appendRange(selection, model, rows.at(i), rows.at(last));
-        i = last + 1;
-    }
-    return selection;
-}
-
 /// In a table whole rows are selected.
 QItemSelectionModel::SelectionFlags rowFlagOf(const QAbstractItemView &view)
 {
@@ -67,37 +51,25 @@ bool isInView(const QAbstractItemView &view, const QModelIndex &index)
 
 } // namespace
 
-void ViewMemory::Rows::capture(const QItemSelection &selection, const ScanDataModel &model)
+void ViewMemory::Rows::capture(const QItemSelection &selection)
 {
     ranges.clear();
-    items.clear();
     for (const QItemSelectionRange &range : selection) {
-        if (!range.isValid())
-            continue;
-        ranges.append({range.top(), range.bottom()});
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            items.append(model.itemAt(row));
+        if (range.isValid())
+            ranges.append({range.top(), range.bottom()});
     }
 }
 
 QItemSelection ViewMemory::Rows::now(const ScanDataModel &model) const
 {
-    QItemSelection selection;
     int lastRow = -1;
     for (const auto &range : ranges)
         lastRow = std::max(lastRow, range.second);
-    if (lastRow < model.unchangedPrefix()) {
-        for (const auto &range : ranges)
-            appendRange(selection, model, range.first, range.second);
-        return selection;
-    }
-    QVector<TreeItemData *> alive;
-    alive.reserve(items.size());
-    for (const auto &item : items) {
-        if (item)
-            alive.append(item);
-    }
-    return selectionOfRows(model, model.rowsOf(alive));
+    QItemSelection selection;
+    const auto runs = lastRow < model.unchangedPrefix() ? ranges : model.rowsNow(ranges);
+    for (const auto &run : runs)
+        appendRange(selection, model, run.first, run.second);
+    return selection;
 }
 
 void ViewMemory::Mark::capture(int newRow, const ScanDataModel &model)
@@ -121,14 +93,14 @@ QModelIndex ViewMemory::Mark::now(const ScanDataModel &model) const
 void ViewMemory::capture(ViewPlace &place, const ScanDataModel &model)
 {
     const QAbstractItemView &view = *place.itemView();
-    m_selected.capture(view.selectionModel()->selection(), model);
-    m_settled.capture(settledPart(view), model);
+    m_selected.capture(view.selectionModel()->selection());
+    m_settled.capture(settledPart(view));
     m_anchor.capture(place.selectionAnchor().row(), model);
     const QModelIndex pressed = place.pressedItem();
     m_pressed.capture(pressed.row(), model);
     m_pressedAt = place.contentPosition(pressed);
     m_hadBand = place.hasBand();
-    m_beforeBand.capture(m_hadBand ? place.selectionBeforeBand() : QItemSelection(), model);
+    m_beforeBand.capture(m_hadBand ? place.selectionBeforeBand() : QItemSelection());
     captureEye(place, model);
 }
 

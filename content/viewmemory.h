@@ -13,8 +13,9 @@ class ViewPlace;
 
 /// What a reset of the model takes from a view, kept by record and put back afterwards: what is
 /// selected, what a selection with Shift starts from, the press and the rubber band under way, and
-/// the item under the eye. Rows that kept their numbers are put back as plain ranges, so that a
-/// large selection costs little while results stream in.
+/// the item under the eye. Selected rows are kept as ranges, and the model, which must have been
+/// told to remember its rows, says where their records are now: a selection of a million costs
+/// little while results stream in.
 class ViewMemory
 {
 public:
@@ -27,14 +28,13 @@ public:
     static void copySelection(ViewPlace &from, ViewPlace &to, const ScanDataModel &model);
 
 private:
-    /// Rows of before, and the records that they showed.
+    /// Rows of before.
     struct Rows
     {
-        void capture(const QItemSelection &selection, const ScanDataModel &model);
+        void capture(const QItemSelection &selection);
         QItemSelection now(const ScanDataModel &model) const;
 
         QVector<QPair<int, int>> ranges;
-        QVector<QPointer<TreeItemData>> items;
     };
     struct Mark
     {

@@ -7,7 +7,6 @@
 #include "model/spokentext.h"
 
 #include <QFileInfo>
-#include <QHash>
 #include <QIcon>
 
 #include <algorithm>
@@ -110,6 +109,7 @@ void ScanDataModel::clear()
     RowSort::Order().swap(m_order);
     m_folderCount = 0;
     m_unchangedPrefix = 0;
+    m_earlier.forget();
     endResetModel();
 }
 
@@ -129,9 +129,11 @@ void ScanDataModel::takeChildren(const TreeItemData &folder)
         m_items.reserve(newSize + newSize / 8); // a scan comes back for more
         m_letters.reserve(newSize + newSize / 8);
     }
+    m_earlier.note(m_order, oldFolders, oldFiles);
     const size_t sameFiles = replacePart(oldFolders, oldFiles, folder.childFiles);
     const size_t sameFolders = replacePart(0, oldFolders, folder.childFolders);
     m_folderCount = newFolders;
+    m_earlier.noteParts(newFolders, newFiles);
 
     RowSort::Order previous;
     previous.swap(m_order);
@@ -174,6 +176,8 @@ size_t ScanDataModel::replacePart(size_t first, size_t size, const QList<TreeIte
         // the guard, not the address: another record may live where one has died
         if (m_items[first + i].data() == child)
             continue;
+        if (m_earlier.isKnown())
+            m_earlier.leaves(first + i, std::move(m_items[first + i]));
         m_items[first + i] = child;
         m_letters[first + i] = lettersOf(child);
         same = std::min(same, i);
@@ -181,6 +185,8 @@ size_t ScanDataModel::replacePart(size_t first, size_t size, const QList<TreeIte
     const auto begin = m_items.begin() + std::ptrdiff_t(first);
     const auto letters = m_letters.begin() + std::ptrdiff_t(first);
     if (newSize < size) {
+        for (size_t i = newSize; i < size && m_earlier.isKnown(); ++i)
+            m_earlier.leaves(first + i, std::move(m_items[first + i]));
         m_items.erase(begin + std::ptrdiff_t(newSize), begin + std::ptrdiff_t(size));
         m_letters.erase(letters + std::ptrdiff_t(newSize), letters + std::ptrdiff_t(size));
     } else if (newSize > size) {
@@ -244,31 +250,25 @@ int ScanDataModel::rowOf(const TreeItemData *item) const
     return findRow([item](const TreeItemData *listed) { return listed == item; });
 }
 
-QVector<int> ScanDataModel::rowsOf(const QVector<TreeItemData *> &items) const
+EarlierRows::Runs ScanDataModel::rowsNow(const EarlierRows::Runs &before) const
 {
-    QVector<int> rows(items.size(), -1);
-    if (items.size() == 1) {
-        rows[0] = rowOf(items.constFirst());
-        return rows;
-    }
-    QHash<const TreeItemData *, int> answers;
-    answers.reserve(items.size());
-    for (int i = 0; i < items.size(); ++i) {
-        if (items.at(i))
-            answers.insert(items.at(i), -1);
-    }
-    int missing = answers.size();
     const QMutexLocker lock(&m_lock);
-    for (size_t row = 0; row < m_items.size() && missing > 0; ++row) {
-        const auto answer = answers.find(guardAt(row).data());
-        if (answer == answers.end() || *answer >= 0)
+    if (!m_earlier.isKnown())
+        return before;
+    const EarlierRows::Places places = m_earlier.placesOf(before);
+    EarlierRows::Runs runs;
+    for (size_t row = 0; row < m_items.size(); ++row) {
+        const size_t position = positionOf(row);
+        const bool found = places.positions[position]
+            || (!places.elsewhere.isEmpty() && places.elsewhere.contains(m_items[position].data()));
+        if (!found)
             continue;
-        *answer = int(row);
-        --missing;
+        if (!runs.isEmpty() && runs.last().second == int(row) - 1)
+            runs.last().second = int(row);
+        else
+            runs.append({int(row), int(row)});
     }
-    for (int i = 0; i < items.size(); ++i)
-        rows[i] = answers.value(items.at(i), -1);
-    return rows;
+    return runs;
 }
 
 void ScanDataModel::setAllCheckStates(int state)
@@ -470,6 +470,8 @@ void ScanDataModel::sort(int column, Qt::SortOrder order)
     emit layoutAboutToBeChanged({}, SortHint);
     {
         const QMutexLocker lock(&m_lock);
+        m_earlier.note(m_order, m_folderCount, m_items.size() - m_folderCount);
+        m_unchangedPrefix = 0;
         RowSort::Order previous = sortedOrder({});
         previous.swap(m_order);
         remapPersistentIndexes(previous);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/earlierrows.h"
 #include "model/recoverability.h"
 #include "model/rowsort.h"
 #include "model/scanitemrole.h"
@@ -54,8 +55,12 @@ public:
     int unchangedPrefix() const { return m_unchangedPrefix; }
     /// Row of a record, -1 when it is not listed. \a item is compared, never read: it may be dead.
     int rowOf(const TreeItemData *item) const;
-    /// The rows of many records, found in one sweep: one answer for each, -1 when it is not listed.
-    QVector<int> rowsOf(const QVector<TreeItemData *> &items) const;
+    /// The next openFolder() or sort() notes where its rows come from, until forgetRows().
+    void rememberRows() { m_earlier.expect(); }
+    void forgetRows() { m_earlier.forget(); }
+    /// Where the records of these rows of before are now, by rows; a record that has died or left
+    /// is not among them. The same rows when nothing has changed since rememberRows().
+    EarlierRows::Runs rowsNow(const EarlierRows::Runs &before) const;
 
     /// What the model cannot know by itself, for its accessible description.
     using RecoverabilitySource = std::function<Recoverability(const TreeItemData &)>;
@@ -111,6 +116,7 @@ private:
     std::vector<Guard> m_items;     ///< in the host's order: folders, then files
     std::vector<quint32> m_letters; ///< of the names, as they were when the records were listed
     RowSort::Order m_order;         ///< position in m_items by row; empty: the same
+    EarlierRows m_earlier;
     size_t m_folderCount = 0;
     int m_sortRole = NameRole;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;

@@ -129,7 +129,8 @@ private slots:
     void selectionFollowsASort();
     void chosenSortIsKept();
     void clearSortKeepsTheRows();
-    void rowsOfRecords();
+    void rowsOfIds();
+    void rowsFollowTheirRecords();
     void decoration();
     void folderDiesWhileOpened();
 };
@@ -337,8 +338,9 @@ void tst_ScanDataModel::implausibleChildren()
     model.sort(ScanDataModel::SizeColumn, Qt::DescendingOrder);
     model.openFolder(&host.root);
     QCOMPARE(model.rowCount(), 7);
-    const QVector<int> rows = model.rowsOf(host.children().toVector());
-    QCOMPARE(rows.count(-1), 6);
+    int living = 0;
+    model.visitRows(0, 6, [&living](const TreeItemData &) { ++living; });
+    QCOMPARE(living, 1);
     model.openFolder(reinterpret_cast<TreeItemData *>(quintptr(0xDDDDDDDDDDDDDDDDull)));
     QCOMPARE(model.rowCount(), 7);
 }
@@ -488,7 +490,7 @@ void tst_ScanDataModel::clearSortKeepsTheRows()
     QCOMPARE(idsOf(model), asGiven);
 }
 
-void tst_ScanDataModel::rowsOfRecords()
+void tst_ScanDataModel::rowsOfIds()
 {
     Host host;
     for (int i = 0; i < 30; ++i)
@@ -496,15 +498,90 @@ void tst_ScanDataModel::rowsOfRecords()
     ScanDataModel model;
     model.openFolder(&host.root);
     model.sort(ScanDataModel::NameColumn);
-    TreeItemData stranger;
-    const QVector<TreeItemData *> wanted = {model.itemAt(20), &stranger, model.itemAt(3), nullptr,
-                                            model.itemAt(20)};
-    QCOMPARE(model.rowsOf(wanted), QVector<int>({20, -1, 3, -1, 20}));
-    QCOMPARE(model.rowsOf({model.itemAt(5)}), QVector<int>({5}));
-    QCOMPARE(model.rowsOf({nullptr}), QVector<int>({-1}));
     QCOMPARE(model.rowOfFileId(model.itemAt(4)->fileId), 4);
     QCOMPARE(model.rowOfSecondaryId(model.itemAt(4)->secondaryId), 4);
     QCOMPARE(model.rowOfFileId(-5), -1);
+}
+
+/// Whatever the host and the user do, remembered rows lead to the records that they showed.
+void tst_ScanDataModel::rowsFollowTheirRecords()
+{
+    QRandomGenerator random(5);
+    Host host;
+    ScanDataModel model;
+    for (int i = 0; i < 20; ++i)
+        host.addFile();
+    model.openFolder(&host.root);
+    const auto anyOf = [&random](const QList<TreeItemData *> &list) {
+        return list.isEmpty() ? nullptr : list.at(random.bounded(list.size()));
+    };
+    for (int step = 0; step < 3000; ++step) {
+        EarlierRows::Runs before;
+        QVector<QPointer<TreeItemData>> asked;
+        for (int row = random.bounded(3); row < model.rowCount(); row += 1 + random.bounded(6)) {
+            const int last = std::min(row + random.bounded(5), model.rowCount() - 1);
+            before.append({row, last});
+            for (; row <= last; ++row)
+                asked.append(model.itemAt(row));
+        }
+        model.rememberRows();
+        switch (random.bounded(8)) {
+        case 0:
+            host.addFolder();
+            break;
+        case 1:
+            host.root.childFiles.insert(random.bounded(host.root.childFiles.size() + 1),
+                                        host.make(FileKind));
+            break;
+        case 2:
+            if (TreeItemData *record = anyOf(host.children()))
+                host.destroy(record);
+            break;
+        case 3: // another record where one has died, maybe at its address
+            if (TreeItemData *record = anyOf(host.root.childFiles)) {
+                const int at = host.root.childFiles.indexOf(record);
+                host.kill(record);
+                host.root.childFiles[at] = host.make(FileKind);
+            }
+            break;
+        case 4:
+            std::reverse(host.root.childFiles.begin(), host.root.childFiles.end());
+            break;
+        case 5:
+            model.sort(random.bounded(3), Qt::SortOrder(random.bounded(2)));
+            break;
+        case 6:
+            model.clearSort();
+            break;
+        default:
+            for (int i = 0; i < 3; ++i)
+                host.addFile();
+        }
+        before = model.rowsNow(before); // after a sort; else they are the same still
+        model.rememberRows();
+        model.openFolder(&host.root);
+
+        QVector<TreeItemData *> expected;
+        for (const auto &record : qAsConst(asked)) {
+            if (record && model.rowOf(record) >= 0)
+                expected.append(record);
+        }
+        QVector<TreeItemData *> found;
+        int free = 0; // the first row that no run has taken
+        const EarlierRows::Runs now = model.rowsNow(before);
+        for (const auto &run : now) {
+            QVERIFY(run.first >= free && run.second >= run.first);
+            free = run.second + 1;
+            for (int row = run.first; row <= run.second; ++row) {
+                if (TreeItemData *record = model.itemAt(row))
+                    found.append(record);
+            }
+        }
+        std::sort(expected.begin(), expected.end());
+        std::sort(found.begin(), found.end());
+        QCOMPARE(found, expected);
+        model.forgetRows();
+    }
 }
 
 void tst_ScanDataModel::decoration()
