@@ -10,6 +10,8 @@
 #include "popups/searchdialog.h"
 #include "ui_searchhintframe.h"
 
+#include <QKeyEvent>
+
 namespace {
 
 constexpr int TitlePixelSize = 16;
@@ -29,6 +31,7 @@ SearchHintFrame::SearchHintFrame(QWidget *parent)
     loadStyleSheet();
     showHintPicture(ui->labelImage, QStringLiteral(":Images/image142_Search"));
     ui->labelTip1->setContextMenuPolicy(Qt::NoContextMenu);
+    ui->labelTip1->installEventFilter(this);
     connect(ui->labelTip1, &QLabel::linkActivated, this, &SearchHintFrame::openHowToFind);
     doChangeLanguage();
 }
@@ -66,6 +69,28 @@ void SearchHintFrame::setLinkColor(const QColor &color)
     showFirstTip();
 }
 
+bool SearchHintFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != ui->labelTip1)
+        return QFrame::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        showFirstTip();
+        break;
+    case QEvent::KeyPress: {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
+            break;
+        openHowToFind(); // may outlive this page
+        return true;
+    }
+    default:
+        break;
+    }
+    return false;
+}
+
 void SearchHintFrame::loadStyleSheet()
 {
     QSSLoader::applyStyleSheet(this, QStringLiteral("searchhintframe.qss"));
@@ -73,13 +98,14 @@ void SearchHintFrame::loadStyleSheet()
 
 void SearchHintFrame::showFirstTip()
 {
-    const QString tip = translatedKey("missing_original_filenames");
-    if (!m_linkColor.isValid()) {
-        ui->labelTip1->setText(tip);
-        return;
-    }
-    ui->labelTip1->setText(QStringLiteral("<style>a {text-decoration: none; color: %1}</style>%2")
-                               .arg(m_linkColor.name(), tip));
+    // The label is one stop of the Tab key: its link, underlined, says that it has the focus.
+    const QString line = ui->labelTip1->hasFocus() ? QStringLiteral("underline")
+                                                   : QStringLiteral("none");
+    const QString colour = m_linkColor.isValid()
+        ? QStringLiteral("; color: %1").arg(m_linkColor.name())
+        : QString();
+    ui->labelTip1->setText(QStringLiteral("<style>a {text-decoration: %1%2}</style>%3")
+                               .arg(line, colour, translatedKey("missing_original_filenames")));
 }
 
 void SearchHintFrame::openHowToFind()

@@ -34,6 +34,7 @@ public:
     void setLinkColor(const QColor &color);
 
     QSize minimumSizeHint() const override { return {0, 0}; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void loadStyleSheet();

@@ -50,16 +50,16 @@ HighDpiPixmapsManager::Means HighDpiPixmapsManager::lookAtMachine()
 
 void HighDpiPixmapsManager::preloadAfterFirstPaint(QWidget *window)
 {
-    if (m_preloadAsked || !window)
-        return;
-    m_preloadAsked = true;
-    window->installEventFilter(this);
+    if (!m_preloads && window)
+        window->installEventFilter(this);
 }
 
 bool HighDpiPixmapsManager::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Paint) {
         watched->removeEventFilter(this);
+        if (std::exchange(m_preloads, true))
+            return false; // for another window
         // The children are painted after their parent, and all of it is shown after that.
         QTimer::singleShot(0, this, [this] {
             QtConcurrent::run(this, &HighDpiPixmapsManager::startAnalysisPixmapItemList);

@@ -37,8 +37,8 @@ public:
                                    QObject *parent = nullptr);
 
     /// Cuts the sheets on a pool thread once \a window, or a widget in it, has been painted for the
-    /// first time: the first frame does not share the processor. Once a process; later calls do
-    /// nothing.
+    /// first time: the first frame does not share the processor. Once a process, after the first of
+    /// all the windows that this is called with.
     void preloadAfterFirstPaint(QWidget *window);
     /// The cutting itself; writes its start and its end to the log whether it cuts or not.
     void startAnalysisPixmapItemList();
@@ -59,7 +59,7 @@ private:
     static Means lookAtMachine();
 
     const Look m_look;
-    bool m_preloadAsked = false;
+    bool m_preloads = false;
     QMutex m_mutex; ///< guards m_cut alone
     std::array<QVector<QImage>, SpriteSheets::Count> m_cut;
     std::array<QVector<QPixmap>, SpriteSheets::Count> m_frames;

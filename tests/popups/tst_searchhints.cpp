@@ -87,6 +87,14 @@ void checkLabels(const QWidget *page)
     QVERIFY(taken.size() >= 4);
 }
 
+/// Shows \a page with all that follows from it: the focus comes after the first layout.
+void showSettled(QWidget *page)
+{
+    page->show();
+    QVERIFY(QTest::qWaitForWindowActive(page));
+    QCoreApplication::processEvents();
+}
+
 std::unique_ptr<QFrame> makeFrame(bool described)
 {
     if (described)
@@ -140,6 +148,7 @@ private slots:
     void dialogFitsTheScreen();
     void closeButtonMirrors();
     void linkOpensTheDialogOverAMask();
+    void linkWorksByKeyboard();
     void keysClose_data();
     void keysClose();
     void mouseMovesTheDialog();
@@ -178,8 +187,7 @@ void TestSearchHints::pagesFit()
     const LongTexts texts;
     const auto page = makeFrame(described);
     page->resize(size);
-    page->show();
-    QCoreApplication::processEvents();
+    showSettled(page.get());
     QTEST(page->findChild<QLabel *>(QStringLiteral("labelImage"))->isVisible(), "picture");
     LayoutRequests requests(page.get());
     QCoreApplication::processEvents();
@@ -192,8 +200,7 @@ void TestSearchHints::columnStandsInTheMiddle()
     for (bool described : {false, true}) {
         const auto page = makeFrame(described);
         page->resize(2000, 1200);
-        page->show();
-        QCoreApplication::processEvents();
+        showSettled(page.get());
         const QRect column = page->layout()->contentsRect();
         QCOMPARE(column.width(), 468);
         QCOMPARE(column.center().x(), page->rect().center().x());
@@ -277,8 +284,7 @@ void TestSearchHints::imageFollowsTheme()
 void TestSearchHints::missingPicturesLeaveTheTexts()
 {
     const auto check = [](QWidget *page) {
-        page->show();
-        QCoreApplication::processEvents();
+        showSettled(page);
         QVERIFY(!page->findChild<QLabel *>(QStringLiteral("labelImage"))->isVisible());
         checkLabels(page);
     };
@@ -315,8 +321,7 @@ void TestSearchHints::dialogFitsTheScreen()
     dialog.fitInto(available);
     QTEST(dialog.width(), "width");
     QVERIFY(dialog.height() <= available.height());
-    dialog.show();
-    QCoreApplication::processEvents();
+    showSettled(&dialog);
     checkLabels(&dialog);
     const auto *button = dialog.findChild<QPushButton *>(QStringLiteral("btnGotIt"));
     QVERIFY(dialog.rect().contains(
@@ -362,6 +367,29 @@ void TestSearchHints::linkOpensTheDialogOverAMask()
     }
 }
 
+void TestSearchHints::linkWorksByKeyboard()
+{
+    const LongTexts texts;
+    SearchHintFrame page;
+    page.resize(800, 600);
+    showSettled(&page);
+    auto *tip = page.findChild<QLabel *>(QStringLiteral("labelTip1"));
+    tip->clearFocus();
+    const QImage without = page.grab().toImage();
+    QTest::keyClick(&page, Qt::Key_Tab);
+    QCOMPARE(page.focusWidget(), tip);
+    QVERIFY(page.grab().toImage() != without); // the focus is seen
+    bool opened = false;
+    QTimer::singleShot(0, &page, [&] {
+        if (auto *dialog = qobject_cast<SearchDialog *>(QApplication::activeModalWidget())) {
+            opened = true;
+            dialog->reject();
+        }
+    });
+    QTest::keyClick(tip, Qt::Key_Return);
+    QVERIFY(opened);
+}
+
 void TestSearchHints::keysClose_data()
 {
     QTest::addColumn<int>("key");
@@ -375,8 +403,7 @@ void TestSearchHints::keysClose()
 {
     QFETCH(int, key);
     SearchDialog dialog;
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    showSettled(&dialog);
     QVERIFY(dialog.focusWidget());
     QTest::keyClick(dialog.focusWidget(), Qt::Key(key));
     QVERIFY(!dialog.isVisible());

@@ -193,13 +193,19 @@ void TestHighDpiPixmapsManager::waitsForTheFirstPaint()
     s_means = {quint64(1) << 40, false};
     s_looks = 0;
     HighDpiPixmapsManager manager(&means);
+    auto *early = new QWidget; // goes before it is ever shown
     QWidget window;
-    manager.preloadAfterFirstPaint(&window);
-    manager.preloadAfterFirstPaint(&window);
+    QWidget later;
+    for (QWidget *each : {early, &window, &later})
+        manager.preloadAfterFirstPaint(each);
+    delete early;
     QCoreApplication::processEvents();
     QCOMPARE(s_looks.loadAcquire(), 0);
     window.show();
     QTRY_COMPARE(manager.frames(Sheet::RepairProgress).size(), 60);
+    later.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&later));
+    manager.preloadAfterFirstPaint(&window);
     window.repaint();
     QCoreApplication::processEvents();
     QThreadPool::globalInstance()->waitForDone();
