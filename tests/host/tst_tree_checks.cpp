@@ -333,7 +333,7 @@ void TestTreeChecks::searchListsTheSameRecords()
     QSignalSpy progressed(&search, &ItemSearch::progressed);
     tree.add({item(1, -1, "", "Beach", -1), item(2, 1, "Beach", "BEACH 1.jpg", 5),
               item(3, 1, "Beach", "hill.jpg", 5)});
-    search.start("beach");
+    search.start("beach", ItemSearch::By::Name);
     QTRY_VERIFY(search.isComplete());
     QCOMPARE(search.count(), 2);
     search.updateCheckState();
@@ -346,7 +346,7 @@ void TestTreeChecks::searchListsTheSameRecords()
     tree.add({item(4, 1, "Beach", "another beach.jpg", 5)});
     search.resume();
     QTRY_COMPARE(search.count(), 3);
-    search.start("no such thing");
+    search.start("no such thing", ItemSearch::By::Name);
     progressed.clear();
     QVERIFY(progressed.wait());
     QCOMPARE(search.count(), 0);
