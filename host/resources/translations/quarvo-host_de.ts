@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Last year</source>
-        <translation>Letztes Jahr</translation>
+        <translation>Letzte 12 Monate</translation>
     </message>
     <message>
         <source>Older than a year</source>

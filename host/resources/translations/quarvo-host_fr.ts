@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Last year</source>
-        <translation>Année écoulée</translation>
+        <translation>12 derniers mois</translation>
     </message>
     <message>
         <source>Older than a year</source>
