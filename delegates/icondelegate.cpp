@@ -149,6 +149,7 @@ void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &opti
     const CardLayout layout(option.rect, option.direction);
     const DeviceGrid grid(painter);
     const PainterState state(painter);
+    painter->setLayoutDirection(option.direction); // not the script of each name
 
     CardBackground::Card card;
     card.look = lookOf(option, index, item);

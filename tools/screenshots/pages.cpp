@@ -44,10 +44,22 @@ const std::vector<Page> &all()
          [](Stage &stage) {
              stage.showSearch(&stage.records().matches, Records::keyword(), Interface::GridView);
          }},
+        {"grid-keyboard",
+         [](Stage &stage) {
+             stage.showScan(&stage.records().mixed, Interface::GridView);
+             stage.focus(QStringLiteral("sizeButton"));
+         }},
+        {"list-keyboard",
+         [](Stage &stage) {
+             stage.showScan(&stage.records().photos, Interface::ListWithDetailView);
+             stage.click(4);
+             stage.focus();
+             Stage::settle(PaneRestMs);
+         }},
         {"list-pane",
          [](Stage &stage) {
              stage.showScan(&stage.records().photos, Interface::ListWithDetailView);
-             stage.click(16);
+             stage.click(9);
              stage.hover(3);
              Stage::settle(PaneRestMs);
          }},

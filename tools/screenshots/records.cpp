@@ -42,7 +42,7 @@ const Shot s_shots[] = {
     {"QUA_0007.JPG", balloons, 0, 3, "aerial"},
     {"QUA_0008.JPG", flower, 0, 3, "bouquet"},
     {"QUA_0009.JPG", hills, 2, 3, "mountain"},
-    {"QUA_0010.JPG", coffee, 0, 3, "food"},
+    {"QUA_0010.JPG", group, 0, 3, "group_photo,gathering,birthday,presentation"},
     {"QUA_0011.JPG", portrait, 0, 1, "selfie"},
     {"DSC02102.JPG", beach, 0, 3, "beach"},
     {"A very long name that a patient person typed so that nobody would ever have to ask what "
@@ -51,7 +51,7 @@ const Shot s_shots[] = {
     {"DSC02104.JPG", silhouettes, 2, 3, "child,birthday"},
     {"DSC02105.JPG", citrus, 0, 3, "food"},
     {"Полярное сияние над озером.jpg", nightSky, 3, 3, "mountain"},
-    {"DSC02107.JPG", group, 0, 3, "group_photo,gathering,birthday,presentation"},
+    {"DSC02107.JPG", coffee, 0, 3, "food"},
     {"DSC02109.JPG", cat, 1, 3, "pet"},
     {"DSC02110.JPG", mountains, 5, 6, "mountain"},
     {"صورة من العطلة.jpg", sea, 3, 3, "beach"},

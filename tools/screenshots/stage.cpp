@@ -169,6 +169,15 @@ void Stage::click(int row, Qt::KeyboardModifiers modifiers)
     settle(0);
 }
 
+void Stage::focus(const QString &name)
+{
+    m_window.activateWindow();
+    QWidget *widget = name.isEmpty() ? items() : seen(name);
+    if (widget)
+        widget->setFocus(Qt::TabFocusReason);
+    settle(0);
+}
+
 void Stage::openMenu(int row)
 {
     const QPoint place = placeOf(row, 0);
@@ -260,6 +269,8 @@ QImage Stage::picture(qreal scale)
 
 void Stage::tidyUp()
 {
+    if (QWidget *focused = QApplication::focusWidget())
+        focused->clearFocus();
     const auto others = QApplication::topLevelWidgets();
     for (QWidget *other : others) {
         if (other != &m_window && other->isVisible())

@@ -42,6 +42,8 @@ public:
     void hover(int row, int column = 0);
     void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void openMenu(int row);
+    /// As by the Tab key; the widget called \a name, or the one that shows the items.
+    void focus(const QString &name = {});
     /// Follows the link of the page in front. The dialog that it opens is shown to whoever looks,
     /// and closed again.
     void followLink();
