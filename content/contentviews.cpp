@@ -17,7 +17,34 @@
 #include "thumbnails/scanpluginpreviewmanager.h"
 #include "ui_sdcardcontentdatawidget.h"
 
+#include <QGuiApplication>
 #include <QScrollBar>
+
+namespace {
+
+/// The pointer says that a long sort is under way.
+class BusyPointer
+{
+public:
+    explicit BusyPointer(int rows)
+        : m_shown(rows >= LongSort)
+    {
+        if (m_shown)
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    ~BusyPointer()
+    {
+        if (m_shown)
+            QGuiApplication::restoreOverrideCursor();
+    }
+    Q_DISABLE_COPY(BusyPointer)
+
+private:
+    static constexpr int LongSort = 100000;
+    const bool m_shown;
+};
+
+} // namespace
 
 #include <type_traits>
 
@@ -176,6 +203,35 @@ void ContentViews::remember()
 void ContentViews::recall()
 {
     memory().restore(placeInUse(), *m_model);
+    m_model->forgetRows();
+}
+
+void ContentViews::sort(int column, Qt::SortOrder order)
+{
+    const BusyPointer busy(m_model->rowCount());
+    constexpr int Many = 1000;
+    ViewPlace &grid = *m_grid->view();
+    ViewPlace &table = *m_list->table();
+    const QItemSelection marked = m_grid->markedCards();
+    if (SelectedRows::count(m_grid->view()->selectionModel()->selection())
+            + SelectedRows::count(m_list->table()->selectionModel()->selection())
+            + SelectedRows::count(marked)
+        < Many) {
+        m_model->sort(column, order);
+        return;
+    }
+    const QVector<SelectedRows::Run> marks = SelectedRows::runs(marked);
+    m_gridMemory.liftSelection(grid);
+    m_tableMemory.liftSelection(table);
+    m_grid->markCards({});
+    m_model->rememberRows();
+    m_model->sort(column, order);
+    m_gridMemory.layDownSelection(grid, *m_model);
+    m_tableMemory.layDownSelection(table, *m_model);
+    QVector<QPair<int, int>> before;
+    for (const SelectedRows::Run &run : marks)
+        before.append({run.first, run.last});
+    m_grid->markCards(ViewMemory::selectionOf(*m_model, m_model->rowsNow(before)));
     m_model->forgetRows();
 }
 

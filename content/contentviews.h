@@ -47,6 +47,9 @@ public:
 
     /// What assistive technology calls the views.
     void setName(const QString &name);
+    /// Sorts the model; whatever is selected stays selected.
+    void sort(int column, Qt::SortOrder order);
+
     void setAssessmentFinished(bool finished);
     void setSearchKeyword(const QString &keyword);
     void showThumbnail(qint64 fileId);

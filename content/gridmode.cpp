@@ -96,6 +96,16 @@ void GridMode::forgetMultiSelection()
     m_view->viewport()->update();
 }
 
+QItemSelection GridMode::markedCards() const
+{
+    return m_delegate->markedSelection();
+}
+
+void GridMode::markCards(const QItemSelection &cards)
+{
+    m_delegate->setMarkedSelection(cards);
+}
+
 void GridMode::onPressed(const QModelIndex &index)
 {
     if (!index.isValid()) {

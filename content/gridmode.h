@@ -28,6 +28,8 @@ public:
     /// What is selected; the cards of the last multi-selection where the view has one at most.
     QItemSelection selection() const;
     void forgetMultiSelection();
+    QItemSelection markedCards() const;
+    void markCards(const QItemSelection &cards);
 
 signals:
     void checkChanged(const QModelIndex &index, Qt::CheckState state);

@@ -59,7 +59,8 @@ void SDCardContentDataWidget::createParts()
     m_checkAll = new CheckAll(ui->allCheckButton, ui->iconModeHederView, m_views->list()->header(),
                               this);
     m_checks = new ItemChecks(m_model, m_views, m_checkAll, this);
-    m_sort = new SortChoice(ui->iconModeHederView, m_views->list()->header(), m_model, this);
+    m_sort = new SortChoice(ui->iconModeHederView, m_views->list()->header(), m_model, m_views,
+                            this);
     m_current = new CurrentItem(m_model, {ui->listView, m_views->list()->table()}, this);
     m_menu = new ContextMenu(m_model, this);
 }

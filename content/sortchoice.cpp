@@ -1,17 +1,19 @@
 #include "content/sortchoice.h"
 
 #include "common/guard.h"
+#include "content/contentviews.h"
 #include "model/headerview.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
 #include "model/sortcycle.h"
 
 SortChoice::SortChoice(HeaderView *bar, ScanTableHeader *header, ScanDataModel *model,
-                       QObject *parent)
+                       ContentViews *views, QObject *parent)
     : QObject(parent)
     , m_bar(bar)
     , m_header(header)
     , m_model(model)
+    , m_views(views)
 {
     connect(bar, &HeaderView::signalSortClicked, this, &SortChoice::choose);
     connect(header, &ScanTableHeader::signalSortClicked, this, &SortChoice::choose);
@@ -24,7 +26,7 @@ void SortChoice::choose(HeaderViewSortType type)
         m_header->setSortType(type);
         // The sections that sort are the model's first columns.
         if (SortCycle::section(type) != SortCycle::NoSection)
-            m_model->sort(SortCycle::section(type),
+            m_views->sort(SortCycle::section(type),
                           SortCycle::isDescending(type) ? Qt::DescendingOrder : Qt::AscendingOrder);
         emit chosen(type);
     });

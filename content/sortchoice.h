@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+class ContentViews;
 class HeaderView;
 class ScanDataModel;
 class ScanTableHeader;
@@ -15,7 +16,8 @@ class SortChoice : public QObject
     Q_OBJECT
 
 public:
-    SortChoice(HeaderView *bar, ScanTableHeader *header, ScanDataModel *model, QObject *parent);
+    SortChoice(HeaderView *bar, ScanTableHeader *header, ScanDataModel *model, ContentViews *views,
+               QObject *parent);
 
     void reset();
 
@@ -29,4 +31,5 @@ private:
     HeaderView *m_bar;
     ScanTableHeader *m_header;
     ScanDataModel *m_model;
+    ContentViews *m_views;
 };

@@ -65,11 +65,33 @@ QItemSelection ViewMemory::Rows::now(const ScanDataModel &model) const
     int lastRow = -1;
     for (const auto &range : ranges)
         lastRow = std::max(lastRow, range.second);
+    return selectionOf(model, lastRow < model.unchangedPrefix() ? ranges : model.rowsNow(ranges));
+}
+
+QItemSelection ViewMemory::selectionOf(const ScanDataModel &model,
+                                       const QVector<QPair<int, int>> &rows)
+{
     QItemSelection selection;
-    const auto runs = lastRow < model.unchangedPrefix() ? ranges : model.rowsNow(ranges);
-    for (const auto &run : runs)
+    for (const auto &run : rows)
         appendRange(selection, model, run.first, run.second);
     return selection;
+}
+
+void ViewMemory::liftSelection(ViewPlace &place)
+{
+    QItemSelectionModel *selection = place.itemView()->selectionModel();
+    m_selected.capture(selection->selection());
+    m_settled.capture(settledPart(*place.itemView()));
+    const QSignalBlocker quiet(selection);
+    selection->select(QItemSelection(), QItemSelectionModel::Clear);
+}
+
+void ViewMemory::layDownSelection(ViewPlace &place, const ScanDataModel &model) const
+{
+    QAbstractItemView &view = *place.itemView();
+    const QSignalBlocker quiet(view.selectionModel());
+    select(view, m_settled.now(model), m_selected.now(model));
+    view.viewport()->update();
 }
 
 void ViewMemory::Mark::capture(int newRow, const ScanDataModel &model)

@@ -24,6 +24,14 @@ public:
     /// item has been put back.
     void restore(ViewPlace &place, const ScanDataModel &model);
 
+    /// Around a sort, which would follow each selected index on its own: takes the selection off
+    /// the view and puts it back where its records are, without anyone being told.
+    void liftSelection(ViewPlace &place);
+    void layDownSelection(ViewPlace &place, const ScanDataModel &model) const;
+    /// Of the first column, without dead records at the ends of its ranges.
+    static QItemSelection selectionOf(const ScanDataModel &model,
+                                      const QVector<QPair<int, int>> &rows);
+
     /// What is selected in \a from becomes so in \a to, and so does the start of a Shift selection.
     static void copySelection(ViewPlace &from, ViewPlace &to, const ScanDataModel &model);
 

@@ -2,6 +2,8 @@
 #include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
 #include "content/thumbnailgrid.h"
+#include "model/headerview.h"
+#include "model/scanitemrole.h"
 #include "support/recordtree.h"
 
 #include <QPushButton>
@@ -30,6 +32,8 @@ private slots:
     void deadRecordsAreLeftOut();
     void hostMayReplaceTheTreeWhenTold();
     void selectionIsReadBackByRows();
+    void largeSelectionStaysThroughASort_data();
+    void largeSelectionStaysThroughASort();
 
 private:
     QAbstractItemView *view(int mode)
@@ -192,6 +196,41 @@ void TestBulkChecks::selectionIsReadBackByRows()
     QCOMPARE(widget->selectedItems(), expected);
     view(0)->selectAll();
     QCOMPARE(widget->selectedItems(), files);
+}
+
+void TestBulkChecks::largeSelectionStaysThroughASort_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("first");
+    QTest::newRow("grid, some") << 0 << 700;
+    QTest::newRow("grid, all") << 0 << 0;
+    QTest::newRow("list, some") << 2 << 700;
+}
+
+void TestBulkChecks::largeSelectionStaysThroughASort()
+{
+    QFETCH(int, mode);
+    QFETCH(int, first);
+    widget->setViewMode(mode);
+    for (int i = 0; i < Many; ++i)
+        tree->root.childFiles.at(i)->fileSize = i * 7919 % Many; // every row goes elsewhere
+    const TreeItemData *current = tree->root.childFiles.at(first + 3);
+    view(mode)->setCurrentIndex(model()->index(first + 3, 0));
+    select(view(mode), first, Many - 1);
+    QList<TreeItemData *> expected = tree->root.childFiles.mid(first);
+    QSignalSpy changed(view(mode)->selectionModel(), &QItemSelectionModel::selectionChanged);
+    emit widget->findChild<HeaderView *>()->signalSortClicked(SizeDescending);
+
+    QCOMPARE(view(mode)->currentIndex().internalPointer(), current);
+    QVERIFY(model()->index(0, 0).data(SizeRole).toInt() > Many - 2);
+    QCOMPARE(changed.count(), 0);
+    std::sort(expected.begin(), expected.end(),
+              [](TreeItemData *a, TreeItemData *b) { return a->fileSize > b->fileSize; });
+    QCOMPARE(widget->selectedItems(), expected);
+    if (mode == 0) { // the multi-selection has gone with its items, too
+        view(mode)->selectionModel()->clearSelection();
+        QCOMPARE(widget->selectedItems(), expected);
+    }
 }
 
 QTEST_MAIN(TestBulkChecks)
