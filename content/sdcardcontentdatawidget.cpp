@@ -54,6 +54,7 @@ void SDCardContentDataWidget::createParts()
 {
     m_model = new ScanDataModel(this);
     m_thumbnails = new ThumbnailRequests(this);
+    m_thumbnails->followModel(m_model);
     m_views = new ContentViews(*ui, m_model, this);
     ui->listView->installEventFilter(this);
     m_checkAll = new CheckAll(ui->allCheckButton, ui->iconModeHederView, m_views->list()->header(),

@@ -2,6 +2,8 @@
 
 #include "thumbnails/scanpluginpreviewmanager.h"
 
+#include <QAbstractItemModel>
+
 ThumbnailRequests::ThumbnailRequests(QObject *parent)
     : QObject(parent)
 {
@@ -20,6 +22,12 @@ void ThumbnailRequests::request(TreeItemData *item)
     ScanPluginPreviewManager::instance()->requestThumbnail(item);
 }
 
+void ThumbnailRequests::followModel(QAbstractItemModel *model)
+{
+    connect(model, &QAbstractItemModel::modelReset, ScanPluginPreviewManager::instance(),
+            &ScanPluginPreviewManager::dropOrphans);
+}
+
 void ThumbnailRequests::clear()
 {
     m_requested.clear();
@@ -29,7 +37,7 @@ void ThumbnailRequests::onMissing(TreeItemData *item)
 {
     if (!item || !m_requested.contains(item->fileId))
         return;
-    if (ScanPluginPreviewManager::instance()->claimHostRequest(item->fileId))
+    if (ScanPluginPreviewManager::instance()->claimHostRequest(item))
         emit wanted(item);
 }
 

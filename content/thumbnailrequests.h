@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QSet>
 
+class QAbstractItemModel;
+
 /// What one side has asked the thumbnail cache for. Files that are not on disk come back here and
 /// reach the host once, through the side that shows the item. GUI thread.
 class ThumbnailRequests : public QObject
@@ -15,6 +17,8 @@ public:
     explicit ThumbnailRequests(QObject *parent = nullptr);
 
     void request(TreeItemData *item);
+    /// Has the cache look after each reset for records that have gone, and give up their pictures.
+    void followModel(QAbstractItemModel *model);
     void clear();
 
 signals:

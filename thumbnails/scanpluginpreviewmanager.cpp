@@ -9,15 +9,17 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QThread>
+#include <QTimer>
 
 #include <algorithm>
 
 namespace {
 
 constexpr int FileKind = 2;
-constexpr int GridCacheKiB = 256 * 1024;
-constexpr int ListCacheKiB = 32 * 1024;
+constexpr int MostSmallPictures = 512; // 4 KiB each
+constexpr int SweepStep = 512;         // well under a millisecond
 /// The host may hand over a photo as the camera took it; no view shows more than this.
 constexpr int LargestSide = 640;
 
@@ -30,24 +32,6 @@ void joinWorker()
 {
     if (s_instance)
         s_instance->stop();
-}
-
-int costInKiB(const QPixmap &pixmap)
-{
-    constexpr qint64 BytesPerPixel = 4;
-    const qint64 cost = 1 + BytesPerPixel * pixmap.width() * pixmap.height() / 1024;
-    return int(std::min<qint64>(cost, GridCacheKiB / 4));
-}
-
-void insertInto(QCache<qint64, QPixmap> &cache, qint64 fileId, const QPixmap &pixmap)
-{
-    cache.insert(fileId, new QPixmap(pixmap), costInKiB(pixmap));
-}
-
-QPixmap pictureIn(const QCache<qint64, QPixmap> &cache, qint64 fileId)
-{
-    const QPixmap *const pixmap = cache.object(fileId);
-    return pixmap ? *pixmap : QPixmap();
 }
 
 QPixmap withinBounds(const QPixmap &pixmap)
@@ -72,8 +56,8 @@ ScanPluginPreviewManager *ScanPluginPreviewManager::instance()
 }
 
 ScanPluginPreviewManager::ScanPluginPreviewManager()
-    : m_gridCache(GridCacheKiB)
-    , m_listCache(ListCacheKiB)
+    : m_pictures(ThumbnailStore::Limits())
+    , m_small(MostSmallPictures)
     , m_worker(new GetThumbnailThread(this))
     , m_thread(new QThread)
 {
@@ -99,23 +83,22 @@ QPixmap ScanPluginPreviewManager::listThumbnail(TreeItemData *item)
         return FileTypeIcons::generalIcon(FileTypeIcons::Size::List);
     if (isFile(item)) {
         hasRepairedPreview(item);
-        const QPixmap small = pictureIn(m_listCache, item->fileId);
-        if (!small.isNull())
-            return small;
+        if (const QPixmap *const small = m_small.object(item->fileId))
+            return *small;
         const QPixmap large = gridThumbnail(item->fileId);
         if (!large.isNull()) {
-            const QPixmap rounded = roundedThumbnail(large);
-            insertInto(m_listCache, item->fileId, rounded);
-            return rounded;
+            const QPixmap small = roundedThumbnail(large);
+            m_small.insert(item->fileId, new QPixmap(small));
+            return small;
         }
         requestThumbnail(item);
     }
     return FileTypeIcons::icon(*item, FileTypeIcons::Size::List);
 }
 
-QPixmap ScanPluginPreviewManager::gridThumbnail(qint64 fileId) const
+QPixmap ScanPluginPreviewManager::gridThumbnail(qint64 fileId)
 {
-    return pictureIn(m_gridCache, fileId);
+    return m_pictures.picture(fileId);
 }
 
 void ScanPluginPreviewManager::requestThumbnail(TreeItemData *item)
@@ -134,7 +117,7 @@ void ScanPluginPreviewManager::requestThumbnail(TreeItemData *item)
 bool ScanPluginPreviewManager::isAnswered(qint64 fileId) const
 {
     // a small picture alone is what is left of one that was given up: the large one comes back
-    return m_gridCache.contains(fileId) || m_nothingToShow.contains(fileId);
+    return m_pictures.contains(fileId) || m_nothingToShow.contains(fileId);
 }
 
 void ScanPluginPreviewManager::startWorker()
@@ -153,6 +136,7 @@ bool ScanPluginPreviewManager::hasRepairedPreview(TreeItemData *item)
     if (!isFile(item))
         return false;
     const qint64 fileId = item->fileId;
+    m_pictures.adopt(fileId, item);
     if (item->property(s_repairedProperty).toBool()) {
         m_repairChecked.insert(fileId);
         const QString path = item->property(s_repairedPathProperty).toString();
@@ -184,17 +168,22 @@ bool ScanPluginPreviewManager::hasLocalThumbnail(qint64 fileId, const QString &e
 bool ScanPluginPreviewManager::loadSavedThumbnailToCache(qint64 fileId, const QString &extension)
 {
     const int epoch = m_epoch;
-    QStringList files;
-    if (hasLocalThumbnail(fileId, extension))
-        files = ThumbnailFiles::candidates(fileId, extension);
-    const QString fromHost = thumbnailPath(fileId);
-    if (!fromHost.isEmpty())
-        files.append(fromHost);
+    // what the host handed over last comes back, not what was there before
+    const HostFiles::File fromHost = m_hostFiles.file(fileId);
+    if (!fromHost.path.isEmpty() && loadAny({fromHost.path}, fromHost, epoch, fileId))
+        return true;
+    return hasLocalThumbnail(fileId, extension)
+        && loadAny(ThumbnailFiles::candidates(fileId, extension), {}, epoch, fileId);
+}
 
-    for (const QString &file : qAsConst(files)) {
-        QImage image = ThumbnailImage::load(file);
+bool ScanPluginPreviewManager::loadAny(const QStringList &files, const HostFiles::File &like,
+                                       int epoch, qint64 fileId)
+{
+    for (const QString &file : files) {
+        QImage image = ThumbnailImage::load(file, like.size);
         if (image.isNull())
             continue;
+        image.setDevicePixelRatio(like.devicePixelRatio);
         handOver({epoch, fileId, std::move(image)});
         return true;
     }
@@ -221,8 +210,16 @@ void ScanPluginPreviewManager::takeLoaded()
     for (Loaded &loaded : arrived) {
         if (loaded.epoch != m_epoch || m_overtaken.remove(loaded.fileId))
             continue;
-        emit signalUpdateThumBnail(loaded.fileId, QPixmap::fromImage(std::move(loaded.image)));
+        announce(loaded.fileId, QPixmap::fromImage(std::move(loaded.image)),
+                 ThumbnailStore::Source::File);
     }
+}
+
+void ScanPluginPreviewManager::announce(qint64 fileId, const QPixmap &pixmap,
+                                        ThumbnailStore::Source source)
+{
+    const QScopedValueRollback<ThumbnailStore::Source> rollback(m_source, source);
+    emit signalUpdateThumBnail(fileId, pixmap);
 }
 
 void ScanPluginPreviewManager::forgetPending(qint64 fileId)
@@ -242,25 +239,16 @@ void ScanPluginPreviewManager::relayMiss(TreeItemData *item)
 
 void ScanPluginPreviewManager::storeThumbnail(qint64 fileId, const QPixmap &pixmap)
 {
-    if (fileId < 0) {
-        qWarning() << "ScanPluginPreviewManager thumbnail for an invalid file id:" << fileId;
-        return;
-    }
-    if (!pixmap.isNull() && m_pending.contains(fileId))
-        m_overtaken.insert(fileId);
-    emit signalUpdateThumBnail(fileId, withinBounds(pixmap));
+    takeFromHost(fileId, QString(), pixmap);
 }
 
 void ScanPluginPreviewManager::storeThumbnail(qint64 fileId, const QString &path,
                                               const QPixmap &pixmap)
 {
-    if (ThumbnailFiles::isRepairedPreview(fileId, path)) {
+    if (ThumbnailFiles::isRepairedPreview(fileId, path))
         storeRepairResult(fileId, path, pixmap);
-        return;
-    }
-    if (fileId >= 0 && !path.isEmpty())
-        rememberThumbnailPath(fileId, path);
-    storeThumbnail(fileId, pixmap);
+    else
+        takeFromHost(fileId, path, pixmap);
 }
 
 void ScanPluginPreviewManager::storeRepairResult(qint64 fileId, const QString &path,
@@ -271,43 +259,72 @@ void ScanPluginPreviewManager::storeRepairResult(qint64 fileId, const QString &p
     m_repairChecked.insert(fileId);
     if (!path.isEmpty())
         m_repairedPaths.insert(fileId, path);
-    storeThumbnail(fileId, pixmap);
+    takeFromHost(fileId, path, pixmap);
+}
+
+void ScanPluginPreviewManager::takeFromHost(qint64 fileId, const QString &path,
+                                            const QPixmap &pixmap)
+{
+    if (fileId < 0) {
+        qWarning() << "ScanPluginPreviewManager thumbnail for an invalid file id:" << fileId;
+        return;
+    }
+    const QPixmap picture = withinBounds(pixmap);
+    const bool hasFile = !picture.isNull() && QFileInfo(path).isFile();
+    if (hasFile)
+        m_hostFiles.remember(fileId, {path, picture.size(), picture.devicePixelRatio()});
+    else
+        m_hostFiles.forget(fileId);
+    if (!picture.isNull() && m_pending.contains(fileId))
+        m_overtaken.insert(fileId);
+    announce(fileId, picture,
+             hasFile ? ThumbnailStore::Source::File : ThumbnailStore::Source::OnlyCopy);
 }
 
 void ScanPluginPreviewManager::slotUpdateThumBnail(qint64 catalogId, QPixmap pixmap)
 {
-    m_pending.remove(catalogId);
-    m_askedOfHost.remove(catalogId);
-    if (pixmap.isNull()) {
+    Guard owner = m_pending.take(catalogId);
+    const Guard asker = m_askedOfHost.take(catalogId);
+    if (!owner)
+        owner = asker;
+    m_small.remove(catalogId);
+    m_pictures.insert(catalogId, pixmap, m_source, owner);
+    if (pixmap.isNull())
         m_nothingToShow.insert(catalogId);
-        m_gridCache.remove(catalogId);
-        m_listCache.remove(catalogId);
-    } else {
+    else
         m_nothingToShow.remove(catalogId);
-        insertInto(m_gridCache, catalogId, pixmap);
-        insertInto(m_listCache, catalogId, roundedThumbnail(pixmap));
-    }
     emit signalUpdateListView(catalogId);
 }
 
-bool ScanPluginPreviewManager::claimHostRequest(qint64 fileId)
+bool ScanPluginPreviewManager::claimHostRequest(TreeItemData *item)
 {
-    if (m_askedOfHost.contains(fileId))
+    if (m_askedOfHost.contains(item->fileId))
         return false;
-    m_askedOfHost.insert(fileId);
+    m_askedOfHost.insert(item->fileId, item);
     return true;
 }
 
-QString ScanPluginPreviewManager::thumbnailPath(qint64 fileId) const
+void ScanPluginPreviewManager::dropOrphans()
 {
-    const std::lock_guard<std::mutex> lock(m_pathLock);
-    return m_thumbnailPaths.value(fileId);
+    m_sweepAgain = m_sweeping;
+    if (m_sweeping)
+        return;
+    m_sweeping = true;
+    m_pictures.startSweep();
+    sweepOn();
 }
 
-void ScanPluginPreviewManager::rememberThumbnailPath(qint64 fileId, const QString &path)
+void ScanPluginPreviewManager::sweepOn()
 {
-    const std::lock_guard<std::mutex> lock(m_pathLock);
-    m_thumbnailPaths.insert(fileId, path);
+    // later, as who replaces the records may delete the old ones only after this; and between two
+    // steps the user comes first
+    QTimer::singleShot(0, this, [this] {
+        if (m_pictures.sweep(SweepStep))
+            return sweepOn();
+        m_sweeping = false;
+        if (m_sweepAgain)
+            dropOrphans();
+    });
 }
 
 void ScanPluginPreviewManager::stop()
@@ -318,8 +335,8 @@ void ScanPluginPreviewManager::stop()
     m_thread->wait();
     ++m_epoch;
 
-    m_gridCache.clear();
-    m_listCache.clear();
+    m_pictures.clear();
+    m_small.clear();
     m_nothingToShow.clear();
     m_repairedPaths.clear();
     m_repairChecked.clear();
@@ -327,6 +344,5 @@ void ScanPluginPreviewManager::stop()
     m_missed.clear();
     m_overtaken.clear();
     m_askedOfHost.clear();
-    const std::lock_guard<std::mutex> lock(m_pathLock);
-    m_thumbnailPaths.clear();
+    m_hostFiles.clear();
 }

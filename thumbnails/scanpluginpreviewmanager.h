@@ -1,9 +1,12 @@
 #pragma once
 
 #include "platform/item/treeitemdata.h"
+#include "thumbnails/hostfiles.h"
+#include "thumbnails/thumbnailstore.h"
 
 #include <QCache>
 #include <QHash>
+#include <QImage>
 #include <QMap>
 #include <QObject>
 #include <QPixmap>
@@ -19,9 +22,10 @@ class QThread;
 
 /// The process's thumbnails of scan items, by file id. Answers from memory; what it does not have
 /// is looked up on disk by a worker thread, and a file that is not there is asked of the host once.
-/// Memory is bounded: of very many pictures the ones not shown for longest are given up, and looked
-/// up again when they are wanted. Made on first use, never destroyed; the worker is joined at the
-/// latest when the application object goes. GUI thread, but for the functions that say otherwise.
+/// Memory is bounded: of very many pictures the ones not shown for longest are given up, and loaded
+/// from their files again when they are wanted. Made on first use, never destroyed; the worker is
+/// joined at the latest when the application object goes. GUI thread, but for the functions that
+/// say otherwise.
 class ScanPluginPreviewManager : public QObject
 {
     Q_OBJECT
@@ -32,7 +36,7 @@ public:
     /// 32 x 32 and rounded for list rows; the icon of the file type while there is no thumbnail.
     QPixmap listThumbnail(TreeItemData *item);
     /// Null when there is none (yet).
-    QPixmap gridThumbnail(qint64 fileId) const;
+    QPixmap gridThumbnail(qint64 fileId);
     /// Has the item's thumbnail looked up on disk, unless that has been done or is under way.
     void requestThumbnail(TreeItemData *item);
     /// Settles whether the item has a repaired preview and records that on the item.
@@ -46,13 +50,20 @@ public:
 
     /// A picture from the host; a null one says that there is nothing to show and stops the asking.
     void storeThumbnail(qint64 fileId, const QPixmap &pixmap);
-    /// The same, and remembers the file that it came from. A file that bears the name of the item's
-    /// repaired preview marks the item as repaired.
+    /// The same, and remembers the file that it came from: it can be given up and loaded again. A
+    /// file that bears the name of the item's repaired preview marks the item as repaired.
     void storeThumbnail(qint64 fileId, const QString &path, const QPixmap &pixmap);
     void storeRepairResult(qint64 fileId, const QString &path, const QPixmap &pixmap);
 
     /// True for the first who wants to ask the host for this item, until it is answered or cleared.
-    bool claimHostRequest(qint64 fileId);
+    /// \a item is not null.
+    bool claimHostRequest(TreeItemData *item);
+
+    /// Gives up the pictures of records that have died, bit by bit while nothing else is to be
+    /// done.
+    void dropOrphans();
+    /// What all pictures together take in memory.
+    qint64 bytesInUse() const { return m_pictures.bytes(); }
 
     /// Ends the worker, joins its thread and forgets all pictures. Requests start it again.
     void stop();
@@ -83,25 +94,29 @@ private:
         qint64 fileId = 0;
         QImage image;
     };
+    bool loadAny(const QStringList &files, const HostFiles::File &like, int epoch, qint64 fileId);
     void handOver(Loaded loaded);
     void takeLoaded();
     void forgetPending(qint64 fileId);
     void relayMiss(TreeItemData *item);
-    QString thumbnailPath(qint64 fileId) const;
-    void rememberThumbnailPath(qint64 fileId, const QString &path);
+    void takeFromHost(qint64 fileId, const QString &path, const QPixmap &pixmap);
+    void announce(qint64 fileId, const QPixmap &pixmap, ThumbnailStore::Source source);
+    void sweepOn();
 
-    QCache<qint64, QPixmap> m_gridCache;
-    QCache<qint64, QPixmap> m_listCache;
+    ThumbnailStore m_pictures;
+    ThumbnailStore::Source m_source = ThumbnailStore::Source::OnlyCopy; ///< of what arrives now
+    QCache<qint64, QPixmap> m_small; ///< made from the large ones when they are asked for
+    bool m_sweeping = false;
+    bool m_sweepAgain = false;
     QSet<qint64> m_nothingToShow; ///< null answers: kept for good, so that nobody asks again
     QMap<qint64, QString> m_repairedPaths;
     QSet<qint64> m_repairChecked;
     QHash<qint64, Guard> m_pending;        ///< handed to the worker, not answered yet
     QHash<TreeItemData *, Guard> m_missed; ///< by address, between a miss and its relay
     QSet<qint64> m_overtaken;              ///< pending ones that the host has answered meanwhile
-    QSet<qint64> m_askedOfHost;
-    mutable std::mutex m_pathLock;           ///< guards m_thumbnailPaths, which the worker reads
-    QHash<qint64, QString> m_thumbnailPaths; ///< files that pictures from the host came from
-    std::mutex m_loadedLock;                 ///< guards m_loaded
+    QHash<qint64, Guard> m_askedOfHost;
+    HostFiles m_hostFiles;
+    std::mutex m_loadedLock; ///< guards m_loaded
     std::vector<Loaded> m_loaded;
     std::atomic<int> m_epoch{0}; ///< grows with each stop(): what was loaded before is dropped
     GetThumbnailThread *const m_worker;

@@ -42,6 +42,16 @@ bool paysToReduceWhileReading(const QByteArray &format, qint64 pixels, const QSi
     return pixels >= LargePixels;
 }
 
+QSize sizeIn(const QSize &room, const QSize &picture)
+{
+    if (room.isEmpty())
+        return ThumbnailImage::targetSize(picture);
+    const QSize size = picture.scaled(room, Qt::KeepAspectRatio);
+    // who made the room from this picture may have rounded the other way
+    const QSize rest = room - size;
+    return rest.width() <= 1 && rest.height() <= 1 ? room : size.expandedTo(QSize(1, 1));
+}
+
 QImage scaledTo(const QSize &target, const QImage &image)
 {
     return image.size() == target
@@ -81,14 +91,14 @@ QSize targetSize(const QSize &size)
     return {int(std::min(width * LandscapeHeight / height, LongestSide)), LandscapeHeight};
 }
 
-QImage load(const QString &path)
+QImage load(const QString &path, const QSize &room)
 {
     InterruptibleFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
     const QImage small = readSmallPng(file);
     if (!small.isNull())
-        return readyForPixmap(scaledTo(targetSize(small.size()), small));
+        return readyForPixmap(scaledTo(sizeIn(room, small.size()), small));
 
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
@@ -99,7 +109,7 @@ QImage load(const QString &path)
     if (stored.isEmpty() || pixels > MostPixels)
         return {};
     const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-    const QSize target = targetSize(turned ? stored.transposed() : stored);
+    const QSize target = sizeIn(room, turned ? stored.transposed() : stored);
     if (paysToReduceWhileReading(reader.format(), pixels, target))
         reader.setScaledSize(turned ? target.transposed() : target);
 

@@ -3,6 +3,7 @@
 #include "thumbnails/scanpluginpreviewmanager.h"
 
 #include <QElapsedTimer>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
@@ -22,6 +23,17 @@ QPixmap filled(const QColor &colour, const QSize &size = {110, 83})
     QPixmap pixmap(size);
     pixmap.fill(colour);
     return pixmap;
+}
+
+QImage noise(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    QRandomGenerator random(5);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, random.generate());
+    }
+    return image;
 }
 
 QColor middleOf(const QPixmap &pixmap)
@@ -71,6 +83,8 @@ private slots:
     void repairResult_data();
     void repairResult();
     void memoryIsBounded();
+    void picturesGoWithTheirRecords();
+    void newestAnswerOfTheHostCounts();
     void badIds();
 
 private:
@@ -258,13 +272,13 @@ void tst_ScanPluginPreviewManager::hostAnswerBeatsAnOlderLookup()
 
 void tst_ScanPluginPreviewManager::hostIsAskedOnce()
 {
-    const qint64 id = m_nextId++;
-    QVERIFY(cache()->claimHostRequest(id));
-    QVERIFY(!cache()->claimHostRequest(id));
-    cache()->storeThumbnail(id, filled(Qt::red));
-    QVERIFY(cache()->claimHostRequest(id));
+    Photo photo(m_nextId++);
+    QVERIFY(cache()->claimHostRequest(&photo));
+    QVERIFY(!cache()->claimHostRequest(&photo));
+    cache()->storeThumbnail(photo.fileId, filled(Qt::red));
+    QVERIFY(cache()->claimHostRequest(&photo));
     cache()->stop();
-    QVERIFY(cache()->claimHostRequest(id));
+    QVERIFY(cache()->claimHostRequest(&photo));
 }
 
 void tst_ScanPluginPreviewManager::stopForgetsAndDropsWhatIsUnderWay()
@@ -383,19 +397,75 @@ void tst_ScanPluginPreviewManager::repairResult()
 
 void tst_ScanPluginPreviewManager::memoryIsBounded()
 {
-    Photo first(m_nextId++);
+    constexpr qint64 Ceiling = 128 << 20;
+    Photo fromDisk(m_nextId++);
+    QVERIFY(TemporaryRoot::save(ThumbnailFiles::pngThumbnail(fromDisk.fileId, "jpg"), Qt::yellow));
+    cache()->requestThumbnail(&fromDisk);
+    QTRY_VERIFY(!cache()->gridThumbnail(fromDisk.fileId).isNull());
+    Photo onlyCopy(m_nextId++);
+    cache()->storeThumbnail(onlyCopy.fileId, filled(Qt::magenta, {4000, 3000}));
+    QCOMPARE(cache()->gridThumbnail(onlyCopy.fileId).size(), QSize(640, 480));
+    Photo fromHost(m_nextId++);
     const QString path = QDir::tempPath() + QLatin1String("/elsewhere.png");
-    QVERIFY(TemporaryRoot::save(path, Qt::green));
-    cache()->storeThumbnail(first.fileId, path, filled(Qt::green, {4000, 3000}));
-    QCOMPARE(cache()->gridThumbnail(first.fileId).size(), QSize(640, 480));
-    for (int i = 0; i < 300; ++i)
-        cache()->storeThumbnail(m_nextId++, filled(Qt::red, {640, 640}));
-    QVERIFY(cache()->gridThumbnail(first.fileId).isNull());
+    QVERIFY(noise({300, 220}).save(path));
+    const QImage given(path);
+    cache()->storeThumbnail(fromHost.fileId, path, QPixmap::fromImage(given));
 
-    // given up is not lost: the small picture is there, and the file that it came from
-    QCOMPARE(middleOf(cache()->listThumbnail(&first)), QColor(Qt::green));
-    cache()->requestThumbnail(&first);
-    QTRY_COMPARE(middleOf(cache()->gridThumbnail(first.fileId)), QColor(Qt::green));
+    for (int i = 0; i < 400; ++i) {
+        cache()->storeThumbnail(m_nextId++, path, filled(Qt::red, {640, 640}));
+        QVERIFY(cache()->bytesInUse() <= Ceiling + 2000000); // and the only copy
+    }
+    QVERIFY(!cache()->gridThumbnail(onlyCopy.fileId).isNull());
+    QVERIFY(cache()->gridThumbnail(fromDisk.fileId).isNull());
+    QVERIFY(cache()->gridThumbnail(fromHost.fileId).isNull());
+
+    // given up is not lost, and nobody bothers the host
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&fromDisk);
+    cache()->requestThumbnail(&fromHost);
+    QTRY_COMPARE(cache()->gridThumbnail(fromHost.fileId).toImage(), given);
+    QCOMPARE(middleOf(cache()->gridThumbnail(fromDisk.fileId)), QColor(Qt::yellow));
+    QCOMPARE(missing.count(), 0);
+}
+
+void tst_ScanPluginPreviewManager::picturesGoWithTheirRecords()
+{
+    auto photo = std::make_unique<Photo>(m_nextId++);
+    auto asked = std::make_unique<Photo>(m_nextId++);
+    auto shared = std::make_unique<Photo>(m_nextId++);
+    Photo twin(shared->fileId);
+    const qint64 gone[] = {photo->fileId, asked->fileId};
+    for (const Photo *loaded : {photo.get(), shared.get()})
+        QVERIFY(TemporaryRoot::save(ThumbnailFiles::pngThumbnail(loaded->fileId, "jpg"), Qt::red));
+    cache()->requestThumbnail(photo.get());
+    cache()->requestThumbnail(shared.get());
+    QVERIFY(cache()->claimHostRequest(asked.get()));
+    cache()->storeThumbnail(asked->fileId, filled(Qt::green));
+    QTRY_VERIFY(!cache()->gridThumbnail(shared->fileId).isNull());
+    const qint64 before = cache()->bytesInUse();
+
+    cache()->dropOrphans();
+    photo.reset(); // as hosts do: first the new items, then the old ones go
+    asked.reset();
+    shared.reset();
+    cache()->hasRepairedPreview(&twin); // painted meanwhile on the other side
+    QTRY_VERIFY(cache()->bytesInUse() < before);
+    cache()->dropOrphans();
+    QTRY_VERIFY(cache()->gridThumbnail(gone[0]).isNull()
+                && cache()->gridThumbnail(gone[1]).isNull());
+    QVERIFY(!cache()->gridThumbnail(twin.fileId).isNull());
+}
+
+void tst_ScanPluginPreviewManager::newestAnswerOfTheHostCounts()
+{
+    Photo photo(m_nextId++);
+    const QString path = QDir::tempPath() + QLatin1String("/older.png");
+    QVERIFY(TemporaryRoot::save(path, Qt::green));
+    cache()->storeThumbnail(photo.fileId, path, filled(Qt::green));
+    cache()->storeThumbnail(photo.fileId, filled(Qt::blue)); // of which there is no file
+    for (int i = 0; i < 400; ++i)
+        cache()->storeThumbnail(m_nextId++, path, filled(Qt::red, {640, 640}));
+    QCOMPARE(middleOf(cache()->gridThumbnail(photo.fileId)), QColor(Qt::blue));
 }
 
 void tst_ScanPluginPreviewManager::badIds()
