@@ -204,6 +204,19 @@ void SearchDialog::changeEvent(QEvent *event)
         placeCloseButton();
 }
 
+bool SearchDialog::focusNextPrevChild(bool next)
+{
+    showFocusRing(true);
+    return QDialog::focusNextPrevChild(next);
+}
+
+void SearchDialog::showFocusRing(bool shown)
+{
+    ui->btnGotIt->setProperty("focusRing", shown);
+    ui->btnGotIt->style()->unpolish(ui->btnGotIt);
+    ui->btnGotIt->style()->polish(ui->btnGotIt);
+}
+
 void SearchDialog::mousePressEvent(QMouseEvent *event)
 {
     m_held = event->button() == Qt::LeftButton && property("mouseMove").toBool();
@@ -234,5 +247,8 @@ void SearchDialog::paintEvent(QPaintEvent *)
 void SearchDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
+    // Whoever came by mouse sees it when the Tab key is pressed.
+    const QWidget *opener = parentWidget() ? parentWidget()->window() : this;
+    showFocusRing(opener->testAttribute(Qt::WA_KeyboardFocusChange));
     ui->btnGotIt->setFocus(Qt::OtherFocusReason);
 }

@@ -40,6 +40,7 @@ public slots:
 
 protected:
     void changeEvent(QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -50,6 +51,7 @@ private:
     void loadStyleSheet();
     void fitIntoSurroundings();
     void placeCloseButton();
+    void showFocusRing(bool shown);
 
     std::unique_ptr<Ui::searchDialog> ui;
     QPushButton *m_close = nullptr;

@@ -151,6 +151,7 @@ private slots:
     void linkWorksByKeyboard();
     void keysClose_data();
     void keysClose();
+    void focusIsShownToTheKeyboard();
     void mouseMovesTheDialog();
     void windowMayGoWhileTheDialogIsOpen();
 };
@@ -407,6 +408,18 @@ void TestSearchHints::keysClose()
     QVERIFY(dialog.focusWidget());
     QTest::keyClick(dialog.focusWidget(), Qt::Key(key));
     QVERIFY(!dialog.isVisible());
+}
+
+void TestSearchHints::focusIsShownToTheKeyboard()
+{
+    SearchDialog dialog;
+    showSettled(&dialog);
+    auto *button = dialog.findChild<QPushButton *>(QStringLiteral("btnGotIt"));
+    QVERIFY(button->hasFocus());
+    const QImage quiet = button->grab().toImage();
+    QTest::keyClick(button, Qt::Key_Tab);
+    QVERIFY(button->hasFocus());
+    QVERIFY(button->grab().toImage() != quiet);
 }
 
 void TestSearchHints::mouseMovesTheDialog()
