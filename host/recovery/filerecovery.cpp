@@ -1,11 +1,11 @@
 #include "host/recovery/filerecovery.h"
 
 #include "host/recovery/recoverytexts.h"
+#include "host/scan/shownpath.h"
 #include "host/tree/texts.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 
 #include <chrono>
@@ -113,7 +113,7 @@ bool FileRecovery::isPointless(qint64 size, QString *reason)
     const qint64 room = qint64(space.available);
     if (room >= size + FullBelow)
         return false;
-    const QString folder = QDir::toNativeSeparators(m_tree.root());
+    const QString folder = shownPath(m_tree.root());
     if (room < FullBelow) {
         m_report.stopReason = RecoveryTexts::tr("There is no room left at %1.").arg(folder);
         *reason = m_report.stopReason;

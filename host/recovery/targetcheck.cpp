@@ -1,5 +1,6 @@
 #include "host/recovery/targetcheck.h"
 
+#include "host/scan/shownpath.h"
 #include "host/tree/texts.h"
 #include "platform/system/storage.h"
 
@@ -57,7 +58,7 @@ QString TargetCheck::refusal(const QString &source, const QString &target)
         return {};
     const QString from = absolute(source);
     const QString to = existing(target);
-    const QString shown = QDir::toNativeSeparators(absolute(target));
+    const QString shown = shownPath(absolute(target));
     const QFileInfo info(from);
     if (info.isDir()) {
         if (System::isInside(to, from))
@@ -85,7 +86,7 @@ QString TargetCheck::refusalForSize(qint64 bytes, const QString &target)
         return {};
     return TargetTexts::tr("There is not enough room at %1: the files need %2, only %3 are free. "
                            "Choose another folder or check fewer files.")
-        .arg(QDir::toNativeSeparators(absolute(target)), Texts::size(bytes), Texts::size(free));
+        .arg(shownPath(absolute(target)), Texts::size(bytes), Texts::size(free));
 }
 
 qint64 TargetCheck::freeBytes(const QString &target)

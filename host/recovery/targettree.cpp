@@ -2,6 +2,7 @@
 
 #include "host/recovery/recoverytexts.h"
 #include "host/recovery/safename.h"
+#include "host/scan/shownpath.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,7 +27,7 @@ TargetTree::TargetTree(const QString &target)
 
 bool TargetTree::prepare(QString *error)
 {
-    const QString shown = QDir::toNativeSeparators(m_root);
+    const QString shown = shownPath(m_root);
     const QFileInfo info(m_root);
     if (info.exists() && !info.isDir()) {
         *error = RecoveryTexts::tr("%1 is not a folder.").arg(shown);
@@ -41,7 +42,7 @@ bool TargetTree::prepare(QString *error)
 
 bool TargetTree::isWritable(QString *error) const
 {
-    const QString shown = QDir::toNativeSeparators(m_root);
+    const QString shown = shownPath(m_root);
     QFile probe;
     for (int i = 0; i < MaxNumber && !probe.isOpen(); ++i) {
         probe.setFileName(m_root + QStringLiteral("/.quarvo-probe-%1").arg(i));
@@ -83,8 +84,8 @@ QString TargetTree::folderFor(const QString &cardPath, QString *error)
             if ((info.isDir() && !info.isSymLink()) || QDir().mkdir(candidate)) {
                 made = candidate;
             } else if (!isTaken(QFileInfo(candidate))) {
-                *error = RecoveryTexts::tr("The folder %1 cannot be created.")
-                             .arg(QDir::toNativeSeparators(candidate));
+                *error =
+                    RecoveryTexts::tr("The folder %1 cannot be created.").arg(shownPath(candidate));
                 return QString();
             }
         }
@@ -111,7 +112,7 @@ QString TargetTree::settle(const QString &temporary, const QString &folder, cons
         }
         if (!isTaken(QFileInfo(path))) {
             *error = RecoveryTexts::tr("The file %1 cannot be created: %2.")
-                         .arg(QDir::toNativeSeparators(path), file.errorString());
+                         .arg(shownPath(path), file.errorString());
             return QString();
         }
     }

@@ -2,8 +2,8 @@
 
 #include "host/scan/clusterclaims.h"
 #include "host/scan/scantexts.h"
+#include "host/scan/shownpath.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -67,7 +67,7 @@ ssize_t Card::Medium::read(TSK_IMG_INFO *info, TSK_OFF_T offset, char *buffer, s
 
 std::unique_ptr<Card> Card::open(const QString &path, QString *error)
 {
-    const QString shown = QDir::toNativeSeparators(path);
+    const QString shown = shownPath(path);
     const std::filesystem::path native = std::filesystem::u8path(
         QFileInfo(path).absoluteFilePath().toStdString());
     std::error_code failure;

@@ -2,10 +2,10 @@
 
 #include "host/scan/scanids.h"
 #include "host/scan/scantexts.h"
+#include "host/scan/shownpath.h"
 #include "host/scan/warnings.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -72,8 +72,7 @@ std::unique_ptr<ScanSource> FolderSource::open(const QString &path, QString *err
     fs::directory_iterator probe(native, failure);
     if (failure) {
         *error = ScanTexts::tr("The folder %1 cannot be read: %2.")
-                     .arg(QDir::toNativeSeparators(path),
-                          QString::fromStdString(failure.message()));
+                     .arg(shownPath(path), QString::fromStdString(failure.message()));
         return nullptr;
     }
     return std::unique_ptr<ScanSource>(new FolderSource(path));
@@ -161,8 +160,7 @@ ScanOutcome FolderSource::scan(const Sink &sink, const std::atomic<bool> &cancel
     outcome.warnings = warnings.lines();
     outcome.skipped = warnings.count();
     if (!cancel && !QFileInfo::exists(m_path))
-        outcome.error =
-            ScanTexts::tr("%1 went away during the scan.").arg(QDir::toNativeSeparators(m_path));
+        outcome.error = ScanTexts::tr("%1 went away during the scan.").arg(shownPath(m_path));
     return outcome;
 }
 

@@ -4,10 +4,9 @@
 #include "host/scan/cardfile.h"
 #include "host/scan/clusterclaims.h"
 #include "host/scan/scantexts.h"
+#include "host/scan/shownpath.h"
 #include "host/scan/volumefinder.h"
 #include "host/scan/volumewalker.h"
-
-#include <QDir>
 
 std::unique_ptr<ScanSource> ImageSource::open(const QString &path, QString *error)
 {
@@ -17,7 +16,7 @@ std::unique_ptr<ScanSource> ImageSource::open(const QString &path, QString *erro
     const QVector<FoundVolume> found = findVolumes(*card);
     if (found.isEmpty()) {
         const QString cause = card->readError();
-        const QString shown = QDir::toNativeSeparators(path);
+        const QString shown = shownPath(path);
         *error = cause.isEmpty()
             ? ScanTexts::tr("%1 holds no file system that can be read (FAT, exFAT, NTFS or ext).")
                   .arg(shown)

@@ -2,9 +2,9 @@
 
 #include "host/scan/foldersource.h"
 #include "host/scan/imagesource.h"
+#include "host/scan/shownpath.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 
 ScanSource::ScanSource(const QString &path)
@@ -17,7 +17,7 @@ ScanSource::~ScanSource() = default;
 std::unique_ptr<ScanSource> ScanSource::create(const QString &path, QString *error)
 {
     const QFileInfo info(path);
-    const QString shown = QDir::toNativeSeparators(path);
+    const QString shown = shownPath(path);
     if (path.isEmpty() || !info.exists()) {
         *error = QCoreApplication::translate("ScanSource", "%1 does not exist.").arg(shown);
         return nullptr;

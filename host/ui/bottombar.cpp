@@ -1,11 +1,11 @@
 #include "host/ui/bottombar.h"
 
+#include "host/scan/shownpath.h"
 #include "host/tree/texts.h"
 #include "host/ui/elidedlabel.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
 
-#include <QDir>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -136,7 +136,7 @@ void BottomBar::refreshChecked()
                               : tr("%1 of %2 free at the target", "needed, free"))
                      .arg(Texts::size(m_bytes), Texts::size(m_free));
     m_checkedDetail->setText(detail);
-    m_checkedDetail->setToolTip(QDir::toNativeSeparators(m_target));
+    m_checkedDetail->setToolTip(shownPath(m_target));
     m_warning->setVisible(isTooMuch());
     if (m_checkedDetail->property("warns").toBool() != isTooMuch()) {
         m_checkedDetail->setProperty("warns", isTooMuch());
@@ -144,9 +144,8 @@ void BottomBar::refreshChecked()
         m_checkedDetail->style()->polish(m_checkedDetail);
     }
     m_choose->setToolTip(
-        m_target.isEmpty()
-            ? tr("Choose the folder to recover to")
-            : tr("Recover to %1. Choose another folder…").arg(QDir::toNativeSeparators(m_target)));
+        m_target.isEmpty() ? tr("Choose the folder to recover to")
+                           : tr("Recover to %1. Choose another folder…").arg(shownPath(m_target)));
     m_choose->setAccessibleName(m_choose->toolTip());
 }
 

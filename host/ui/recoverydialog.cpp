@@ -1,11 +1,11 @@
 #include "host/ui/recoverydialog.h"
 
+#include "host/scan/shownpath.h"
 #include "host/tree/texts.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
 
 #include <QDesktopServices>
-#include <QDir>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -125,8 +125,8 @@ QString RecoveryDialog::summaryOf(const RecoveryReport &report, const QString &t
 {
     if (report.recovered.isEmpty() && !report.stopReason.isEmpty())
         return report.stopReason;
-    QString text = tr("%Ln file(s) recovered to %1.", nullptr, report.recovered.size())
-                       .arg(QDir::toNativeSeparators(target));
+    QString text =
+        tr("%Ln file(s) recovered to %1.", nullptr, report.recovered.size()).arg(shownPath(target));
     if (!report.failed.isEmpty())
         text += QLatin1Char(' ')
             + tr("%Ln file(s) could not be recovered.", nullptr, report.failed.size());
@@ -150,7 +150,7 @@ void RecoveryDialog::retranslate()
                           + Texts::size(m_report.bytes));
         return;
     }
-    m_title->setText(tr("Recovering to %1").arg(QDir::toNativeSeparators(m_target)));
+    m_title->setText(tr("Recovering to %1").arg(shownPath(m_target)));
     if (m_progress.filesTotal > 0)
         showProgress(m_progress);
     else

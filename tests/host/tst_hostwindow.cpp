@@ -282,6 +282,9 @@ void TestHostWindow::aTargetOnTheCardIsRefused()
     Languages::apply(*Languages::find(QStringLiteral("de")));
     QTRY_VERIFY(banner->accessibleName() != english);
     QVERIFY(banner->accessibleName().contains(QDir::toNativeSeparators(target)));
+    Languages::apply(*Languages::find(QStringLiteral("ar"))); // where a path needs protection
+    QTRY_VERIFY(banner->accessibleName().contains(QChar(0x2066) + QDir::toNativeSeparators(target)
+                                                  + QChar(0x2069)));
 }
 
 QTEST_MAIN(TestHostWindow)
