@@ -18,11 +18,11 @@ constexpr qreal FillInset = 1.0;
 constexpr qreal EdgeDepth = 0.62; // a soft shadow has lost some depth where the body ends
 
 /// Depth of the shadow, 0 to 1, at a place \a dx and \a dy outside of the rectangle in which the
-/// corner arcs of the body have their centres. Falls to nothing without an edge.
-qreal depthAt(qreal dx, qreal dy, qreal reachX, qreal reachY)
+/// corner arcs of the body, of \a radius, have their centres. Falls to nothing without an edge.
+qreal depthAt(qreal dx, qreal dy, qreal radius, qreal reachX, qreal reachY)
 {
     const qreal length = std::hypot(dx, dy);
-    const qreal beyond = length - DropShadowManager::BodyRadius;
+    const qreal beyond = length - radius;
     if (beyond <= 0)
         return EdgeDepth;
     const qreal reach = 1.0 / std::hypot(dx / length / reachX, dy / length / reachY);
@@ -38,8 +38,9 @@ qreal outside(qreal at, qreal from, qreal to)
 
 } // namespace
 
-DropShadowManager::DropShadowManager(qreal ratio)
+DropShadowManager::DropShadowManager(qreal ratio, int radius)
     : m_ratio(ratio > 0 ? ratio : 1.0)
+    , m_radius(radius)
 {
 }
 
@@ -48,12 +49,13 @@ void DropShadowManager::paint(QPixmap *pixmap, const QRect &rect, int darkness, 
     *pixmap = QPixmap();
     if (rect.isEmpty())
         return;
-    const QString key = QStringLiteral("dropshadow %1x%2 %3 %4 %5")
+    const QString key = QStringLiteral("dropshadow %1x%2 %3 %4 %5 %6")
                             .arg(rect.width())
                             .arg(rect.height())
                             .arg(m_ratio)
                             .arg(darkness)
-                            .arg(topShare);
+                            .arg(topShare)
+                            .arg(m_radius);
     if (QPixmapCache::find(key, pixmap))
         return;
     *pixmap = compose(rect, darkness, topShare);
@@ -63,7 +65,7 @@ void DropShadowManager::paint(QPixmap *pixmap, const QRect &rect, int darkness, 
 QPixmap DropShadowManager::compose(const QRect &rect, int darkness, int topShare) const
 {
     const QRectF body = QRectF(QPointF(), rect.size()).marginsRemoved(Reach);
-    const qreal radius = BodyRadius;
+    const qreal radius = m_radius;
     const QRectF arcs = body.adjusted(radius, radius, -radius, -radius);
 
     QImage image(qCeil(rect.width() * m_ratio), qCeil(rect.height() * m_ratio),
@@ -79,8 +81,8 @@ QPixmap DropShadowManager::compose(const QRect &rect, int darkness, int topShare
         for (int column = 0; column < image.width(); ++column) {
             const qreal dx = outside((column + 0.5) / m_ratio, arcs.left(), arcs.right());
             const qreal reachX = dx < 0 ? Reach.left() : Reach.right();
-            const int alpha = std::clamp(qRound(strength * depthAt(dx, dy, reachX, reachY)), 0,
-                                         255);
+            const int alpha = std::clamp(qRound(strength * depthAt(dx, dy, radius, reachX, reachY)),
+                                         0, 255);
             line[column] = qPremultiply(qRgba(qRed(Ink), qGreen(Ink), qBlue(Ink), alpha));
         }
     }

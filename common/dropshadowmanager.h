@@ -14,8 +14,9 @@ public:
     static constexpr QMargins Reach{15, 35, 15, 25};
     static constexpr int BodyRadius = 8;
 
-    /// \a ratio: device pixels per pixel of the screen that the shadow is shown on.
-    explicit DropShadowManager(qreal ratio);
+    /// \a ratio: device pixels per pixel of the screen that the shadow is shown on. \a radius: of
+    /// the body's corners.
+    explicit DropShadowManager(qreal ratio, int radius = BodyRadius);
 
     /// Makes \a pixmap the shadow for \a rect, that is the body and its margins together. The
     /// opacity \a darkness, of 255, is that of a whole shadow, of which the lower edge shows the
@@ -27,4 +28,5 @@ private:
     QPixmap compose(const QRect &rect, int darkness, int topShare) const;
 
     qreal m_ratio;
+    int m_radius;
 };

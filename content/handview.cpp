@@ -185,6 +185,15 @@ void HandView<View>::keyboardSearch(const QString &search)
 }
 
 template <typename View>
+void HandView<View>::focusInEvent(QFocusEvent *event)
+{
+    View::focusInEvent(event);
+    // After a sort the current item may be anywhere, and the focus is to be seen.
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        this->scrollTo(this->currentIndex());
+}
+
+template <typename View>
 void HandView<View>::keyPressEvent(QKeyEvent *event)
 {
     const bool escape = event->key() == Qt::Key_Escape;

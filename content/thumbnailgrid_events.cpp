@@ -210,5 +210,5 @@ void ThumbnailGrid::focusInEvent(QFocusEvent *event)
     default:
         m_showFocus = true;
     }
-    QListView::focusInEvent(event);
+    HandView::focusInEvent(event);
 }

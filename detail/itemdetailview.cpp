@@ -11,6 +11,7 @@
 #include "detail/metadatatitles.h"
 #include "model/itemtext.h"
 #include "model/recoverability.h"
+#include "popups/previewframe.h"
 #include "thumbnails/filetypeicons.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 #include "ui_itemdetailview.h"
@@ -76,6 +77,11 @@ ItemDetailView::ItemDetailView(QWidget *parent)
     m_tags = new ChipInfoItem(this);
     ui->frameListLayout->addWidget(m_tags);
 
+    m_preview = new PreviewFrame(ui->frameIconBg);
+    m_preview->hide();
+    ui->frameIconBg->installEventFilter(this);
+    connect(m_preview, &PreviewFrame::signalPreviewClicked, ui->openButton, &QPushButton::click);
+
     m_rest.setSingleShot(true);
     m_rest.setInterval(RestMs);
     connect(&m_rest, &QTimer::timeout, this, &ItemDetailView::request);
@@ -124,6 +130,7 @@ void ItemDetailView::refresh()
     if (!shown)
         return;
     fillPicture();
+    placePreview(ui->frameIconBg->underMouse());
     fillFacts();
     fillTags();
     fillMetadata();
@@ -157,6 +164,22 @@ void ItemDetailView::fillPicture()
         picture.setDevicePixelRatio(ratio);
     }
     ui->iconlabel->setPixmap(screenPixmap(picture));
+}
+
+void ItemDetailView::placePreview(bool shown)
+{
+    m_preview->setGeometry(ui->frameIconBg->rect());
+    m_preview->setVisible(shown && m_item && m_item->kind == FileKind);
+}
+
+bool ItemDetailView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == ui->frameIconBg
+        && (event->type() == QEvent::Enter || event->type() == QEvent::Leave
+            || event->type() == QEvent::Resize))
+        placePreview(event->type() == QEvent::Enter
+                     || (event->type() == QEvent::Resize && m_preview->isVisible()));
+    return QWidget::eventFilter(watched, event);
 }
 
 void ItemDetailView::fillFacts()
@@ -284,6 +307,7 @@ void ItemDetailView::updateTheme()
     for (DataInfoItem *row : rows)
         row->updateTheme();
     m_tags->updateTheme();
+    m_preview->updateTheme();
     refresh();
 }
 

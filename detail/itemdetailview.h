@@ -11,6 +11,7 @@
 
 class ChipInfoItem;
 class DataInfoItem;
+class PreviewFrame;
 
 namespace Ui {
 class ItemDetailViewClass;
@@ -49,11 +50,13 @@ signals:
 protected:
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void loadStyleSheet();
     void mirror();
     void fillPicture();
+    void placePreview(bool shown);
     void fillFacts();
     void fillTags();
     void fillMetadata();
@@ -69,6 +72,7 @@ private:
     DataInfoItem *m_resolution;
     DataInfoItem *m_recoverability;
     ChipInfoItem *m_tags;
+    PreviewFrame *m_preview;                ///< over a file's picture while the mouse is there
     QVector<DataInfoItem *> m_metadataRows; ///< kept and used again
     bool m_assessmentFinished = false;
     bool m_mirrored = false;

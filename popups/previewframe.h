@@ -8,7 +8,8 @@ namespace Ui {
 class PreviewFrame;
 }
 
-/// One round preview button in the middle of a transparent frame, to be laid over a picture.
+/// One round preview button with a soft shadow, in the middle of a transparent frame that is laid
+/// over a picture.
 class PreviewFrame : public QFrame
 {
     Q_OBJECT
@@ -24,6 +25,7 @@ signals:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void loadStyleSheet();

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -35,6 +36,8 @@ private slots:
     void enterClicksButtons_data();
     void enterClicksButtons();
     void focusComesBackFromAPopup();
+    void tabBringsTheCurrentItemIntoView_data();
+    void tabBringsTheCurrentItemIntoView();
 
 private:
     void show(int mode)
@@ -230,6 +233,31 @@ void TestKeyboardReach::focusComesBackFromAPopup()
         QApplication::sendEvent(grid, &enter);
         QCOMPARE(grid->grab().toImage(), before);
     }
+}
+
+void TestKeyboardReach::tabBringsTheCurrentItemIntoView_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("grid") << 0;
+    QTest::newRow("list") << 2;
+}
+
+void TestKeyboardReach::tabBringsTheCurrentItemIntoView()
+{
+    QFETCH(int, mode);
+    m_tree->addFiles(400);
+    show(mode);
+    QAbstractItemView *view = mode == 0
+        ? static_cast<QAbstractItemView *>(find<ThumbnailGrid>("listView"))
+        : find<ScanTableView>();
+    view->setCurrentIndex(view->model()->index(200, 0));
+    view->scrollToTop();
+    view->clearFocus();
+    view->setFocus(Qt::MouseFocusReason);
+    QCOMPARE(view->verticalScrollBar()->value(), 0); // what is clicked at stays where it is
+    view->clearFocus();
+    view->setFocus(Qt::TabFocusReason);
+    QVERIFY(view->viewport()->rect().contains(view->visualRect(view->currentIndex())));
 }
 
 QTEST_MAIN(TestKeyboardReach)

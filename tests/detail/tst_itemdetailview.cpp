@@ -2,6 +2,7 @@
 #include "detail/datainfoitem.h"
 #include "detail/elidedlabel.h"
 #include "detail/itemdetailview.h"
+#include "popups/previewframe.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -29,6 +30,7 @@ private slots:
     void deathClearsThePane();
     void longTextsAreCutAndCopiedWhole();
     void chipsWrap();
+    void mouseOverThePictureFindsThePreviewButton();
 
 private:
     static std::unique_ptr<TreeItemData> photo(qint64 id)
@@ -234,6 +236,36 @@ void TestItemDetailView::chipsWrap()
         if (chip->property("chipLabel").toBool())
             QVERIFY(room.contains(chip->geometry()));
     }
+}
+
+void TestItemDetailView::mouseOverThePictureFindsThePreviewButton()
+{
+    ItemDetailView pane;
+    const auto item = photo(1);
+    pane.setItem(item.get());
+    pane.resize(280, 600);
+    pane.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&pane));
+    QSignalSpy opened(&pane, &ItemDetailView::signalClickedOpen);
+    auto *picture = pane.findChild<QFrame *>(QStringLiteral("frameIconBg"));
+    auto *preview = pane.findChild<PreviewFrame *>();
+    const auto move = [&](QEvent::Type type) {
+        QEvent event(type);
+        QCoreApplication::sendEvent(picture, &event);
+    };
+    QVERIFY(!preview->isVisible());
+    move(QEvent::Enter);
+    QVERIFY(preview->isVisible());
+    QCOMPARE(preview->geometry(), picture->rect());
+    QTest::mouseClick(preview->findChild<QPushButton *>(), Qt::LeftButton);
+    QCOMPARE(opened.size(), 1);
+    move(QEvent::Leave);
+    QVERIFY(!preview->isVisible());
+    TreeItemData folder;
+    folder.kind = 1;
+    pane.setItem(&folder);
+    move(QEvent::Enter);
+    QVERIFY(!preview->isVisible());
 }
 
 QTEST_MAIN(TestItemDetailView)

@@ -17,10 +17,10 @@ private slots:
     void odd();
 
 private:
-    static QImage shadow(const QSize &size, qreal ratio)
+    static QImage shadow(const QSize &size, qreal ratio, int radius = DropShadowManager::BodyRadius)
     {
         QPixmap pixmap;
-        DropShadowManager(ratio).paint(&pixmap, QRect(QPoint(), size), 80, 60);
+        DropShadowManager(ratio, radius).paint(&pixmap, QRect(QPoint(), size), 80, 60);
         return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
     }
 };
@@ -29,17 +29,20 @@ void TestDropShadow::endsSoftly_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<qreal>("ratio");
+    QTest::addColumn<int>("radius");
     for (qreal ratio : {1.0, 1.5, 2.0, 3.0})
-        QTest::addRow("menu at %g", ratio) << QSize(170, 148) << ratio;
-    QTest::newRow("odd sides") << QSize(217, 149) << 1.0;
-    QTest::newRow("body of its corners") << QSize(46, 76) << 2.0;
+        QTest::addRow("menu at %g", ratio) << QSize(170, 148) << ratio << 8;
+    QTest::newRow("odd sides") << QSize(217, 149) << 1.0 << 8;
+    QTest::newRow("body of its corners") << QSize(46, 76) << 2.0 << 8;
+    QTest::newRow("round button") << QSize(70, 100) << 2.0 << 20;
 }
 
 void TestDropShadow::endsSoftly()
 {
     QFETCH(QSize, size);
     QFETCH(qreal, ratio);
-    const QImage image = shadow(size, ratio);
+    QFETCH(int, radius);
+    const QImage image = shadow(size, ratio, radius);
     QCOMPARE(image.devicePixelRatio(), ratio);
     QVERIFY(image.width() >= size.width() * ratio && image.height() >= size.height() * ratio);
 
