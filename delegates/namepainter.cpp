@@ -77,16 +77,23 @@ void NamePainter::draw(QPainter *painter, const QRect &rect, const QString &text
     painter->setFont(font());
     painter->setPen(m_colors.text);
     if (m_keyword.isEmpty())
-        m_plainTexts.draw(painter, rect, text, alignment);
+        m_plainTexts.draw(painter, rect, text, alignment, scriptOf(text));
     else
         drawHighlighted(painter, rect, text, alignment);
+}
+
+/// A name is somebody's own: in an Arabic window too, the mark at the end of "100QUAR_" is at its
+/// end.
+Qt::LayoutDirection NamePainter::scriptOf(const QString &text)
+{
+    return text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
 }
 
 void NamePainter::drawHighlighted(QPainter *painter, const QRect &rect, const QString &text,
                                   Qt::Alignment alignment)
 {
     try {
-        QTextLayout *layout = highlightedLayout(text, painter->layoutDirection());
+        QTextLayout *layout = highlightedLayout(text, scriptOf(text));
         const QTextLine line = layout->lineAt(0);
         painter->setClipRect(rect);
         layout->draw(painter,

@@ -36,6 +36,7 @@ public:
     QTextBrowser *renderer() const { return m_renderer.get(); }
 
 private:
+    static Qt::LayoutDirection scriptOf(const QString &text);
     void drawHighlighted(QPainter *painter, const QRect &rect, const QString &text,
                          Qt::Alignment alignment);
     QTextLayout *highlightedLayout(const QString &text, Qt::LayoutDirection direction);

@@ -46,15 +46,16 @@ QPointF PlainTexts::position(const QRect &rect, const QSizeF &size, Qt::Alignmen
 }
 
 void PlainTexts::draw(QPainter *painter, const QRect &rect, const QString &text,
-                      Qt::Alignment alignment)
+                      Qt::Alignment alignment, Qt::LayoutDirection script)
 {
     if (text.isEmpty() || rect.isEmpty() || !painter->isActive())
         return;
     const Qt::LayoutDirection direction = painter->layoutDirection();
+    const Qt::LayoutDirection running = script == Qt::LayoutDirectionAuto ? direction : script;
     QStaticText *prepared = m_texts.object(text);
-    if (!prepared || prepared->textOption().textDirection() != direction) {
+    if (!prepared || prepared->textOption().textDirection() != running) {
         QTextOption option;
-        option.setTextDirection(direction);
+        option.setTextDirection(running);
         prepared = new QStaticText(onOneLine(text));
         prepared->setTextFormat(Qt::PlainText);
         prepared->setTextOption(option);

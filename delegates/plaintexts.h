@@ -18,9 +18,11 @@ public:
     const QFont &font() const { return m_font; }
     void clear() { m_texts.clear(); }
 
-    /// In the painter's pen and layout direction, \a alignment sideways, centred vertically; cut
-    /// off at the edges of \a rect. Nothing for an empty text or rectangle.
-    void draw(QPainter *painter, const QRect &rect, const QString &text, Qt::Alignment alignment);
+    /// In the painter's pen, \a alignment sideways in the painter's layout direction, centred
+    /// vertically; cut off at the edges of \a rect. Nothing for an empty text or rectangle. The
+    /// text itself runs in \a script, or in the layout direction where that is automatic.
+    void draw(QPainter *painter, const QRect &rect, const QString &text, Qt::Alignment alignment,
+              Qt::LayoutDirection script = Qt::LayoutDirectionAuto);
 
     /// A text is one line, whatever characters a damaged directory entry holds.
     static QString onOneLine(QString text);

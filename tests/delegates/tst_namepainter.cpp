@@ -70,6 +70,7 @@ void TestNamePainter::plainNameIsOrdinaryText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("latin") << "IMG_0001.JPG";
+    QTest::newRow("a mark at its end") << "100QUAR_";
     QTest::newRow("markup is text") << "<b>x</b>&amp;";
     QTest::newRow("ampersand") << "R&D.txt";
     QTest::newRow("arabic") << QString::fromUtf8("صورة.jpg");
@@ -84,7 +85,7 @@ void TestNamePainter::plainNameIsOrdinaryText()
     for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft, Qt::LeftToRight}) {
         QImage expected = blank();
         QPainter painter(&expected);
-        painter.setLayoutDirection(direction);
+        painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         painter.setFont(names.font());
         painter.setPen(ItemColors().text);
         painter.drawText(NameRect, Qt::AlignCenter, text);
