@@ -6,6 +6,7 @@
 #include "plugin/sdcardscancontentplugininterface.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QListView>
 #include <QLoggingCategory>
@@ -162,7 +163,7 @@ void spaceOnAllButOne(benchmark::State &state)
 
 // ---- selection
 
-void selectAllByKey(benchmark::State &state, QListView *view)
+void selectAllByKey(benchmark::State &state, QAbstractItemView *view)
 {
     for (auto _ : state) {
         state.PauseTiming();
@@ -175,7 +176,7 @@ void selectAllByKey(benchmark::State &state, QListView *view)
         state.SkipWithError("not everything is selected");
 }
 
-void shiftEnd(benchmark::State &state, QListView *view)
+void shiftEnd(benchmark::State &state, QAbstractItemView *view)
 {
     for (auto _ : state) {
         state.PauseTiming();
@@ -320,13 +321,36 @@ void rubberBand(benchmark::State &state, QListView *view)
     state.counters["frames"] = worst / Frame;
 }
 
-template <void (*Work)(benchmark::State &, QListView *)>
+/// In the list, and back to the grid for those after it.
+template <void (*Work)(benchmark::State &, QAbstractItemView *)>
+void inOurTable(benchmark::State &state)
+{
+    Page::instance().operations()->setViewMode(Plugin::ListView);
+    QCoreApplication::processEvents();
+    Work(state, Page::instance().table());
+    Page::instance().operations()->setViewMode(Plugin::GridView);
+}
+
+template <void (*Work)(benchmark::State &, QAbstractItemView *)>
+void inStockTable(benchmark::State &state)
+{
+    QTableView stock;
+    stock.setSelectionBehavior(QAbstractItemView::SelectRows);
+    stock.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    stock.setModel(Page::instance().model());
+    stock.resize(WindowSize);
+    stock.show();
+    QCoreApplication::processEvents();
+    Work(state, &stock);
+}
+
+template <typename View, void (*Work)(benchmark::State &, View *)>
 void inOurs(benchmark::State &state)
 {
     Work(state, Page::instance().grid());
 }
 
-template <void (*Work)(benchmark::State &, QListView *)>
+template <typename View, void (*Work)(benchmark::State &, View *)>
 void inStock(benchmark::State &state)
 {
     StockGrid stock;
@@ -350,13 +374,16 @@ int main(int argc, char **argv)
     add("spaceOnEverything/stock", checkEachRow);
     add("spaceOnAllButOne/ours", spaceOnAllButOne);
     add("spaceOnAllButOne/stock", checkEachRow);
-    add("ctrlA/ours", inOurs<selectAllByKey>);
-    add("ctrlA/stock", inStock<selectAllByKey>);
-    add("shiftEnd/ours", inOurs<shiftEnd>);
-    add("shiftEnd/stock", inStock<shiftEnd>);
+    add("ctrlA/ours", inOurs<QAbstractItemView, selectAllByKey>);
+    add("ctrlA/stock", inStock<QAbstractItemView, selectAllByKey>);
+    add("shiftEnd/ours", inOurs<QAbstractItemView, shiftEnd>);
+    add("shiftEnd/stock", inStock<QAbstractItemView, shiftEnd>);
+    add("ctrlAInList/ours", inOurTable<selectAllByKey>);
+    add("ctrlAInList/stock", inStockTable<selectAllByKey>);
+    add("shiftEndInList/ours", inOurTable<shiftEnd>); // a stock table goes along the row
     add("getSelectedItems/ours", selectedItems);
     add("getSelectedItems/stock", selectedIndexes);
-    for (const char *text : {"z", "img_", "img_4711x"}) {
+    for (const char *text : {"z", "img_4711x"}) {
         const std::string name = std::string("type-") + text;
         add((name + "/ours").c_str(), [text](auto &state) { typeOurs(state, text); });
         add((name + "/stock").c_str(), [text](auto &state) { typeStock(state, text); });
@@ -367,8 +394,9 @@ int main(int argc, char **argv)
     benchmark::RegisterBenchmark("hundredGrowingUpdates/ours", growingUpdates)
         ->Unit(benchmark::kMillisecond)
         ->UseManualTime();
-    for (const auto &entry : {std::make_pair("rubberBandStep/ours", &inOurs<rubberBand>),
-                              std::make_pair("rubberBandStep/stock", &inStock<rubberBand>)})
+    for (const auto &entry :
+         {std::make_pair("rubberBandStep/ours", &inOurs<QListView, rubberBand>),
+          std::make_pair("rubberBandStep/stock", &inStock<QListView, rubberBand>)})
         benchmark::RegisterBenchmark(entry.first, entry.second)
             ->Unit(benchmark::kMillisecond)
             ->UseManualTime();
