@@ -51,7 +51,7 @@ private:
     int checkedCount() const
     {
         int count = 0;
-        for (const TreeItemData *file : tree->root.childFiles)
+        for (const TreeItemData *file : qAsConst(tree->root.childFiles))
             count += file->checkState == Qt::Checked ? 1 : 0;
         return count;
     }
@@ -170,12 +170,13 @@ void TestBulkChecks::hostMayReplaceTheTreeWhenTold()
     other.addFiles(5);
     other.root.secondaryId = 99;
     int told = 0;
-    connect(widget.get(), &Content::signalItemDataCheck, this, [&] {
-        if (++told == 10) {
-            widget->updateData(&other.root, QString());
-            tree->clear();
-        }
-    });
+    connect(widget.get(), &Content::signalItemDataCheck, this,
+            [this, count = &told, next = &other.root] {
+                if (++*count == 10) {
+                    widget->updateData(next, QString());
+                    tree->clear();
+                }
+            });
     select(view(0), 0, Many - 2);
     QTest::keyClick(view(0), Qt::Key_Space);
     QCOMPARE(told, 10); // the rest has died

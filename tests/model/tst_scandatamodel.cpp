@@ -439,7 +439,8 @@ void tst_ScanDataModel::selectionFollowsASort()
     for (const int column : steps) {
         model.sort(column, Qt::DescendingOrder);
         QSet<TreeItemData *> selected;
-        for (const QModelIndex &index : selection.selectedRows()) {
+        const QModelIndexList rows = selection.selectedRows();
+        for (const QModelIndex &index : rows) {
             selected.insert(model.itemAt(index));
             QCOMPARE(index.internalPointer(), static_cast<void *>(model.itemAt(index)));
         }
