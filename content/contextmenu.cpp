@@ -47,11 +47,12 @@ void ContextMenu::openByTouch(const QModelIndex &index, const QPoint &globalPos)
         m_dialog->openByTouch(globalPos, index);
 }
 
-void ContextMenu::openAtCurrent(const QAbstractItemView &view)
+void ContextMenu::openAtCurrent(QAbstractItemView &view)
 {
     const QModelIndex index = view.currentIndex();
     if (!prepare(index))
         return;
+    view.scrollTo(index);
     const QPoint middle = view.visualRect(index).intersected(view.viewport()->rect()).center();
     m_dialog->openByKeyboard(view.viewport()->mapToGlobal(middle), index);
 }

@@ -27,8 +27,8 @@ public:
     void openAtMouse(const QModelIndex &index);
     /// Under a finger or a pen that is still down; its release chooses nothing.
     void openByTouch(const QModelIndex &index, const QPoint &globalPos);
-    /// Beside the current item of \a view, with an entry highlighted.
-    void openAtCurrent(const QAbstractItemView &view);
+    /// Beside the current item of \a view, which is brought into sight, with an entry highlighted.
+    void openAtCurrent(QAbstractItemView &view);
     void updateTheme();
     void retranslate();
 

@@ -223,7 +223,7 @@ void HandView<View>::mousePressEvent(QMouseEvent *event)
         m_band.disarm();
     m_pressed = this->indexAt(event->pos());
     m_pressResumed = false;
-    if (m_pressed.isValid()) // the delegate tells of it
+    if (m_pressed.isValid() && event->button() == Qt::LeftButton) // the delegate tells of it
         View::mousePressEvent(event);
     else
         byHand([&] { View::mousePressEvent(event); });

@@ -46,6 +46,9 @@ private slots:
     void paneFollowsTheCurrentItem();
     void contextMenuActs_data();
     void contextMenuActs();
+    void rightClicksAndTheSelection_data();
+    void rightClicksAndTheSelection();
+    void menuKeyBringsTheItemIntoView();
     void pathClickLocates_data();
     void pathClickLocates();
 
@@ -515,6 +518,77 @@ void TestContentWidget::contextMenuActs()
         QCOMPARE(arguments.at(1).toString(), QStringLiteral("right_click_menu"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!widget.findChild<RightMenuDialog *>());
+}
+
+void TestContentWidget::rightClicksAndTheSelection_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QList<int>>("selected");
+    for (int mode : {0, 2}) {
+        const char *view = mode == 0 ? "grid" : "list";
+        QTest::addRow("%s, on a selected item", view) << mode << 1 << QList<int>{0, 1, 2};
+        QTest::addRow("%s, on another", view) << mode << 5 << QList<int>{5};
+    }
+}
+
+void TestContentWidget::rightClicksAndTheSelection()
+{
+    QFETCH(int, mode);
+    QFETCH(int, row);
+    QFETCH(QList<int>, selected);
+    RecordTree tree;
+    tree.addFiles(8);
+    Content widget(1);
+    show(widget);
+    widget.setViewMode(mode);
+    widget.updateData(&tree.root, QString());
+    QAbstractItemView *view = gridOf(widget);
+    if (mode != 0)
+        view = widget.findChild<ScanTableView *>();
+    const auto index = [&](int at) { return modelOf(widget)->index(at, 0); };
+    for (int at : {0, 1, 2})
+        view->selectionModel()->select(index(at),
+                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    QSignalSpy recovered(&widget, &Content::signalRightMenuRecover);
+    // An impatient hand: the menu is closed by each press and opened again, and there is one.
+    const auto menus = [&] { return widget.findChildren<RightMenuDialog *>(); };
+    for (int clicks = 0; clicks < 3; ++clicks) {
+        QTest::mouseClick(view->viewport(), Qt::RightButton, {},
+                          view->visualRect(index(row)).center());
+        QTRY_VERIFY(menus().size() == 1 && menus().constFirst()->isVisible());
+        QList<TreeItemData *> expected;
+        for (int at : qAsConst(selected))
+            expected << tree.root.childFiles.at(at);
+        QList<TreeItemData *> found = widget.selectedItems();
+        std::sort(found.begin(), found.end());
+        std::sort(expected.begin(), expected.end());
+        QCOMPARE(found, expected);
+        if (clicks < 2)
+            menus().constFirst()->close();
+    }
+    menus().constFirst()->slotRecoverEntry();
+    QCOMPARE(recovered.size(), 1);
+    QCOMPARE(recovered.first().first().value<TreeItemData *>(), tree.root.childFiles.at(row));
+}
+
+void TestContentWidget::menuKeyBringsTheItemIntoView()
+{
+    RecordTree tree;
+    tree.addFiles(300);
+    Content widget(1);
+    show(widget);
+    widget.updateData(&tree.root, QString());
+    ThumbnailGrid *grid = gridOf(widget);
+    grid->setCurrentIndex(modelOf(widget)->index(150, 0));
+    grid->scrollToTop();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
+    QCoreApplication::sendEvent(grid, &event);
+    const QRect card = grid->visualRect(grid->currentIndex());
+    QVERIFY(grid->viewport()->rect().contains(card));
+    auto *menu = widget.findChild<RightMenuDialog *>();
+    QVERIFY(menu && menu->isVisible());
+    QVERIFY(menu->geometry().contains(grid->viewport()->mapToGlobal(card.center())));
 }
 
 void TestContentWidget::pathClickLocates_data()
