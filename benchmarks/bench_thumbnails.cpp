@@ -1,5 +1,6 @@
 #include "benchmarks/ratio.h"
 #include "thumbnails/thumbnailimage.h"
+#include "thumbnails/thumbnailstore.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -7,6 +8,11 @@
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <limits>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -64,6 +70,64 @@ void loadOurs(benchmark::State &state, const QString &path)
     state.SetItemsProcessed(state.iterations());
 }
 
+/// Bytes in use by the allocator, large blocks included; 0 where that cannot be asked.
+double heapBytes()
+{
+#ifdef __GLIBC__
+    const struct mallinfo2 info = mallinfo2();
+    return double(info.uordblks) + double(info.hblkhd);
+#else
+    return 0;
+#endif
+}
+
+/// What \a state.range(0) pictures that have been looked at take.
+void keepPictures(benchmark::State &state, const QImage &image, bool bounded)
+{
+    ThumbnailStore::Limits limits;
+    if (!bounded)
+        limits.total = std::numeric_limits<qint64>::max();
+    const int count = int(state.range(0));
+    for (auto _ : state) {
+        const double before = heapBytes();
+        ThumbnailStore store(limits);
+        for (int i = 0; i < count; ++i)
+            store.insert(i, QPixmap::fromImage(image.copy()), ThumbnailStore::Source::File,
+                         nullptr);
+        const double taken = heapBytes() - before;
+        state.counters["MiB"] = taken / (1 << 20);
+        state.counters["B per picture"] = taken / store.count();
+        state.counters["kept"] = store.count();
+    }
+    state.SetItemsProcessed(count);
+}
+
+void addMemory(const std::string &name, const QImage &image, int count, bool bounded)
+{
+    benchmark::RegisterBenchmark(
+        name.c_str(), [=](benchmark::State &state) { keepPictures(state, image, bounded); })
+        ->Arg(count)
+        ->Iterations(1)
+        ->Unit(benchmark::kMillisecond);
+}
+
+void addMemories()
+{
+    constexpr int Few = 20'000; // enough that the ready ones do not count
+    constexpr int Many = 100'000;
+    const QImage colour = photo({110, 83});
+    QImage cutOut = colour.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    cutOut.setPixel(0, 0, 0);
+    QImage flat(110, 83, QImage::Format_RGB32);
+    flat.fill(Qt::darkCyan);
+    addMemory("memory/colour", colour, Few, false);
+    addMemory("memory/transparent", cutOut, Few, false);
+    addMemory("memory/grey", colour.convertToFormat(QImage::Format_Grayscale8), Few, false);
+    addMemory("memory/fewColours", flat, Few, false);
+    addMemory("memory/fromHost300x225", photo({300, 225}), 1000, false);
+    addMemory("memory/bounded", colour, Many, true);
+}
+
 void add(const std::string &name, const QString &path)
 {
     benchmark::RegisterBenchmark((name + "/ours").c_str(), [path](benchmark::State &state) {
@@ -91,6 +155,7 @@ int main(int argc, char **argv)
     add("jpeg12megapixels", camera);
     add("png2560x1440", screen);
 
+    addMemories();
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -61,8 +61,10 @@ QImage indexed(const QImage &picture)
     for (int y = 0; y < picture.height() && !packed.isNull(); ++y) {
         const QRgb *const pixels = pixelsOf(picture, y);
         uchar *const line = packed.scanLine(y);
+        int index = -1;
         for (int x = 0; x < picture.width(); ++x) {
-            const int index = table.indexOf(pixels[x] | 0xFF000000);
+            if (x == 0 || pixels[x] != pixels[x - 1])
+                index = table.indexOf(pixels[x] | 0xFF000000);
             if (index < 0)
                 return {};
             line[x] = uchar(index);

@@ -283,12 +283,15 @@ void ScanPluginPreviewManager::takeFromHost(qint64 fileId, const QString &path,
 
 void ScanPluginPreviewManager::slotUpdateThumBnail(qint64 catalogId, QPixmap pixmap)
 {
+    const bool wanted = m_pending.contains(catalogId) || m_askedOfHost.contains(catalogId);
     Guard owner = m_pending.take(catalogId);
     const Guard asker = m_askedOfHost.take(catalogId);
     if (!owner)
         owner = asker;
     m_small.remove(catalogId);
     m_pictures.insert(catalogId, pixmap, m_source, owner);
+    if (wanted && !owner)
+        m_pictures.orphan(catalogId);
     if (pixmap.isNull())
         m_nothingToShow.insert(catalogId);
     else

@@ -9,6 +9,7 @@ namespace {
 
 /// What a picture costs beside its pixels: the entry, its place in the hash, the image's own data.
 constexpr qint64 Overhead = 400;
+constexpr int SweptPerInsert = 4;
 
 qint64 costOf(const QPixmap &picture)
 {
@@ -44,6 +45,11 @@ void ThumbnailStore::insert(qint64 fileId, const QPixmap &picture, Source source
     m_ready.bytes += place->bytes;
     m_entries.insert(fileId, place);
     keepLimits();
+
+    // records die unannounced: where pictures come, those of dead ones go, a few at a time
+    if (m_toSweep.isEmpty())
+        startSweep();
+    sweep(SweptPerInsert);
 }
 
 QPixmap ThumbnailStore::picture(qint64 fileId)
@@ -95,6 +101,15 @@ void ThumbnailStore::adopt(qint64 fileId, TreeItemData *item)
         return;
     (*found)->owned = true;
     (*found)->owner = item;
+}
+
+void ThumbnailStore::orphan(qint64 fileId)
+{
+    const auto found = m_entries.constFind(fileId);
+    if (found == m_entries.constEnd())
+        return;
+    (*found)->owned = true;
+    (*found)->owner.clear();
 }
 
 void ThumbnailStore::startSweep()

@@ -40,6 +40,8 @@ public:
 
     /// \a item shows this picture: it becomes the owner where there is none alive.
     void adopt(qint64 fileId, TreeItemData *item);
+    /// Its record has died: the picture goes unless another record shows it soon.
+    void orphan(qint64 fileId);
     /// Begins to look for pictures whose owners have died.
     void startSweep();
     /// Looks at the next ones, at most \a most. False when all have been looked at.

@@ -411,7 +411,7 @@ void tst_ScanPluginPreviewManager::memoryIsBounded()
     const QImage given(path);
     cache()->storeThumbnail(fromHost.fileId, path, QPixmap::fromImage(given));
 
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < 160; ++i) {
         cache()->storeThumbnail(m_nextId++, path, filled(Qt::red, {640, 640}));
         QVERIFY(cache()->bytesInUse() <= Ceiling + 2000000); // and the only copy
     }
@@ -434,14 +434,18 @@ void tst_ScanPluginPreviewManager::picturesGoWithTheirRecords()
     auto asked = std::make_unique<Photo>(m_nextId++);
     auto shared = std::make_unique<Photo>(m_nextId++);
     Photo twin(shared->fileId);
-    const qint64 gone[] = {photo->fileId, asked->fileId};
-    for (const Photo *loaded : {photo.get(), shared.get()})
+    auto late = std::make_unique<Photo>(m_nextId++);
+    const qint64 gone[] = {photo->fileId, asked->fileId, late->fileId};
+    for (const Photo *loaded : {photo.get(), shared.get(), late.get()})
         QVERIFY(TemporaryRoot::save(ThumbnailFiles::pngThumbnail(loaded->fileId, "jpg"), Qt::red));
     cache()->requestThumbnail(photo.get());
     cache()->requestThumbnail(shared.get());
     QVERIFY(cache()->claimHostRequest(asked.get()));
     cache()->storeThumbnail(asked->fileId, filled(Qt::green));
     QTRY_VERIFY(!cache()->gridThumbnail(shared->fileId).isNull());
+    cache()->requestThumbnail(late.get());
+    late.reset(); // before its picture comes
+    QTRY_VERIFY(!cache()->gridThumbnail(gone[2]).isNull());
     const qint64 before = cache()->bytesInUse();
 
     cache()->dropOrphans();
@@ -451,8 +455,8 @@ void tst_ScanPluginPreviewManager::picturesGoWithTheirRecords()
     cache()->hasRepairedPreview(&twin); // painted meanwhile on the other side
     QTRY_VERIFY(cache()->bytesInUse() < before);
     cache()->dropOrphans();
-    QTRY_VERIFY(cache()->gridThumbnail(gone[0]).isNull()
-                && cache()->gridThumbnail(gone[1]).isNull());
+    for (const qint64 fileId : gone)
+        QTRY_VERIFY(cache()->gridThumbnail(fileId).isNull());
     QVERIFY(!cache()->gridThumbnail(twin.fileId).isNull());
 }
 
@@ -463,7 +467,7 @@ void tst_ScanPluginPreviewManager::newestAnswerOfTheHostCounts()
     QVERIFY(TemporaryRoot::save(path, Qt::green));
     cache()->storeThumbnail(photo.fileId, path, filled(Qt::green));
     cache()->storeThumbnail(photo.fileId, filled(Qt::blue)); // of which there is no file
-    for (int i = 0; i < 400; ++i)
+    for (int i = 0; i < 160; ++i)
         cache()->storeThumbnail(m_nextId++, path, filled(Qt::red, {640, 640}));
     QCOMPARE(middleOf(cache()->gridThumbnail(photo.fileId)), QColor(Qt::blue));
 }
