@@ -12,7 +12,11 @@ namespace {
 constexpr int MostItems = 1024;
 
 /// The views that somebody has asked about; without a listener there are none.
-QHash<const QObject *, ViewAccessible *> s_listenedTo;
+QHash<const QObject *, ViewAccessible *> &listenedTo()
+{
+    static auto *views = new QHash<const QObject *, ViewAccessible *>;
+    return *views;
+}
 
 QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 {
@@ -30,12 +34,12 @@ ViewAccessible::ViewAccessible(QAbstractItemView *view, QAccessible::Role role)
     , m_key(view)
     , m_items(MostItems)
 {
-    s_listenedTo.insert(m_key, this);
+    listenedTo().insert(m_key, this);
 }
 
 ViewAccessible::~ViewAccessible()
 {
-    s_listenedTo.remove(m_key);
+    listenedTo().remove(m_key);
 }
 
 ViewAccessible::Registered::Registered(QAccessibleInterface *interface)
@@ -144,7 +148,7 @@ void ViewAccessible::announce(QAccessible::Event type, int row)
 void ViewAccessible::currentChanged(QAbstractItemView *view, const QModelIndex &current,
                                     const QModelIndex &previous)
 {
-    ViewAccessible *self = s_listenedTo.value(view);
+    ViewAccessible *self = listenedTo().value(view);
     if (!self || !current.isValid())
         return;
     const void *item = current.internalPointer();
@@ -161,7 +165,7 @@ void ViewAccessible::currentChanged(QAbstractItemView *view, const QModelIndex &
 void ViewAccessible::selectionChanged(QAbstractItemView *view, const QItemSelection &selected,
                                       const QItemSelection &deselected)
 {
-    ViewAccessible *self = s_listenedTo.value(view);
+    ViewAccessible *self = listenedTo().value(view);
     if (!self)
         return;
     // A range is told by its first item: one event a row would be a million.
@@ -173,7 +177,7 @@ void ViewAccessible::selectionChanged(QAbstractItemView *view, const QItemSelect
 
 void ViewAccessible::checksChanged(QAbstractItemView *view, int firstRow, int lastRow)
 {
-    ViewAccessible *self = s_listenedTo.value(view);
+    ViewAccessible *self = listenedTo().value(view);
     if (!self)
         return;
     // Of all items only those that somebody has looked at.

@@ -24,18 +24,22 @@ struct Heard
     QAccessible::Event type;
     QString name;
 };
-QVector<Heard> s_heard;
+QVector<Heard> &heardSoFar()
+{
+    static QVector<Heard> heard;
+    return heard;
+}
 
 void listen(QAccessibleEvent *event)
 {
     QAccessibleInterface *source = event->accessibleInterface();
-    s_heard.append({event->type(), source ? source->text(QAccessible::Name) : QString()});
+    heardSoFar().append({event->type(), source ? source->text(QAccessible::Name) : QString()});
 }
 
 QStringList heardOf(QAccessible::Event type)
 {
     QStringList names;
-    for (const Heard &heard : qAsConst(s_heard)) {
+    for (const Heard &heard : qAsConst(heardSoFar())) {
         if (heard.type == type)
             names << heard.name;
     }
@@ -148,7 +152,7 @@ void TestAccessibility::init()
 {
     m_widget.reset(new Content(1));
     m_tree.reset(new RecordTree);
-    s_heard.clear();
+    heardSoFar().clear();
 }
 
 void TestAccessibility::everythingHasAName_data()
@@ -308,17 +312,17 @@ void TestAccessibility::changesAreHeard()
     view()->setFocus();
     const QString third = m_tree->root.childFiles.at(2)->name;
     item(2);
-    s_heard.clear();
+    heardSoFar().clear();
     view()->setCurrentIndex(view()->model()->index(2, 0));
     QCOMPARE(heardOf(QAccessible::Focus), QStringList{third});
-    s_heard.clear();
+    heardSoFar().clear();
     QTest::keyClick(view(), Qt::Key_Space);
     QVERIFY(heardOf(QAccessible::StateChanged).contains(third));
-    s_heard.clear();
+    heardSoFar().clear();
     m_tree->root.childFiles.at(2)->checkState = Qt::Unchecked;
     m_widget->refreshCheckState();
     QCOMPARE(heardOf(QAccessible::StateChanged).count(third), 1);
-    s_heard.clear();
+    heardSoFar().clear();
     m_widget->refreshCheckState();
     QVERIFY(heardOf(QAccessible::StateChanged).isEmpty());
 }
@@ -331,7 +335,7 @@ void TestAccessibility::growthIsNotHeard()
     view()->setFocus();
     view()->setCurrentIndex(view()->model()->index(4, 0));
     QAccessibleInterface *held = item(4);
-    s_heard.clear();
+    heardSoFar().clear();
     for (int i = 0; i < 5; ++i) {
         m_tree->addFiles(10);
         m_widget->updateData(&m_tree->root, QString());
@@ -390,7 +394,7 @@ void TestAccessibility::selectAllTellsItsState()
     QCOMPARE(box->role(), QAccessible::CheckBox);
     m_widget->setCheckAllState(Qt::PartiallyChecked);
     QVERIFY(box->state().checkStateMixed && !box->state().checked);
-    s_heard.clear();
+    heardSoFar().clear();
     box->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     QVERIFY(box->state().checked && !box->state().checkStateMixed);
     QVERIFY(heardOf(QAccessible::StateChanged).contains(box->text(QAccessible::Name)));
