@@ -158,6 +158,7 @@ void ContentViews::setMode(int mode, const QModelIndex &current)
     m_list->setPaneShown(pane);
     m_list->fitColumns();
     if (&before != &placeInUse()) {
+        memory() = ViewMemory();
         m_grid->forgetMultiSelection();
         inUse()->selectionModel()->setCurrentIndex(current.sibling(current.row(), 0),
                                                    QItemSelectionModel::NoUpdate);

@@ -43,10 +43,12 @@ void GridMode::connectCards()
     connect(m_delegate, &IconDelegate::signalCheckStateChange, this, &GridMode::checkChanged);
     connect(m_delegate, &IconDelegate::signalClickListViewItem, this,
             [this](const QModelIndex &index) {
-                emit openRequested(m_model->itemAt(index), QStringLiteral("preview_btn"));
+                if (m_view->mayOpen())
+                    emit openRequested(m_model->itemAt(index), QStringLiteral("preview_btn"));
             });
     connect(m_delegate, &IconDelegate::signalClickDouble, this, [this](const QModelIndex &index) {
-        emit openRequested(m_model->itemAt(index), QStringLiteral("double_click"));
+        if (m_view->mayOpen())
+            emit openRequested(m_model->itemAt(index), QStringLiteral("double_click"));
     });
     connect(m_delegate, &IconDelegate::signalSetCursor, this,
             [this](const QCursor &cursor) { m_view->viewport()->setCursor(cursor); });

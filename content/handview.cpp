@@ -1,8 +1,7 @@
 #include "content/handview.h"
 
-#include "content/viewaccessible.h"
-
 #include "content/layeredselection.h"
+#include "content/viewaccessible.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -125,12 +124,15 @@ QItemSelectionModel::SelectionFlags HandView<View>::selectionCommand(const QMode
 {
     if (m_movingAnchor)
         return QItemSelectionModel::NoUpdate;
+    if (event && event->type() == QEvent::MouseButtonRelease
+        && (m_releaseIsIdle || (m_pressedOnItem && !index.isValid())))
+        return QItemSelectionModel::NoUpdate;
     const QItemSelectionModel::SelectionFlags command = View::selectionCommand(index, event);
     const bool byKey = event && event->type() == QEvent::KeyPress;
     constexpr Qt::KeyboardModifiers both = Qt::ControlModifier | Qt::ShiftModifier;
     if (byKey && command == QItemSelectionModel::NoUpdate
         && (static_cast<const QKeyEvent *>(event)->modifiers() & both) == both)
-        return QItemSelectionModel::SelectCurrent; // the stock view only moves
+        return QItemSelectionModel::SelectCurrent | rowFlag(); // the stock view only moves
     return command;
 }
 
@@ -150,25 +152,33 @@ void HandView<View>::selectionChanged(const QItemSelection &selected,
     m_selectionTouched = true;
     QAbstractItemView::selectionChanged(selected, deselected);
     ViewAccessible::selectionChanged(this, selected, deselected);
+    if (!m_band.isActive())
+        return;
+    const auto *layers = qobject_cast<const LayeredSelection *>(this->selectionModel());
+    if (layers && !m_bandSelects) { // what others do meanwhile, the band does not undo
+        m_beforeBand = layers->combined(m_beforeBand, selected, QItemSelectionModel::Select);
+        m_beforeBand = layers->combined(m_beforeBand, deselected, QItemSelectionModel::Deselect);
+    }
+    selectedByHand(Hand::Presses); // nobody tells of the band before it ends
 }
 
 template <typename View>
-QItemSelectionModel::SelectionFlags HandView<View>::onlyThis() const
+QItemSelectionModel::SelectionFlags HandView<View>::rowFlag() const
 {
-    QItemSelectionModel::SelectionFlags flags = QItemSelectionModel::ClearAndSelect;
+    QItemSelectionModel::SelectionFlags flags;
     flags.setFlag(QItemSelectionModel::Rows, this->selectionBehavior() == View::SelectRows);
     return flags;
 }
 
 template <typename View>
 template <typename Handler>
-void HandView<View>::byHand(Handler handler)
+void HandView<View>::byHand(Handler handler, Hand hand)
 {
     m_selectionTouched = false;
     const QPointer<QObject> self(this); // whoever listens to a click may close the window
     handler();
     if (self && m_selectionTouched)
-        selectedByHand();
+        selectedByHand(hand);
 }
 
 // Keys -------------------------------------------------------------------------------------------
@@ -180,8 +190,10 @@ void HandView<View>::keyboardSearch(const QString &search)
         return;
     const int row = m_typeAhead.search(search, *this->model(), this->currentIndex().row());
     const QModelIndex found = row < 0 ? QModelIndex() : indexOf(row);
-    if (found.isValid())
-        this->setCurrentIndex(found);
+    if (!found.isValid())
+        return;
+    this->setCurrentIndex(found);
+    m_anchor = found; // also when it was current before
 }
 
 template <typename View>
@@ -213,6 +225,27 @@ void HandView<View>::keyPressEvent(QKeyEvent *event)
 // Mouse ------------------------------------------------------------------------------------------
 
 template <typename View>
+void HandView<View>::countClick(const QMouseEvent &event)
+{
+    const ulong since = event.timestamp() - m_lastClick;
+    const bool sameSeries = m_lastClick > 0 && event.timestamp() >= m_lastClick
+        && since < ulong(QApplication::doubleClickInterval())
+        && (event.pos() - m_lastClickPos).manhattanLength() <= QApplication::startDragDistance();
+    if (!sameSeries)
+        ++m_clickSeries;
+    m_lastClick = event.timestamp();
+    m_lastClickPos = event.pos();
+}
+
+template <typename View>
+bool HandView<View>::mayOpen()
+{
+    const bool first = m_clickSeries == 0 || m_openedSeries != m_clickSeries;
+    m_openedSeries = m_clickSeries;
+    return first;
+}
+
+template <typename View>
 void HandView<View>::mousePressEvent(QMouseEvent *event)
 {
     if (m_band.isActive())
@@ -223,10 +256,13 @@ void HandView<View>::mousePressEvent(QMouseEvent *event)
         m_band.disarm();
     m_pressed = this->indexAt(event->pos());
     m_pressResumed = false;
-    if (m_pressed.isValid() && event->button() == Qt::LeftButton) // the delegate tells of it
-        View::mousePressEvent(event);
-    else
-        byHand([&] { View::mousePressEvent(event); });
+    m_pressedOnItem = m_pressed.isValid(); // which may be pushed away meanwhile
+    m_releaseIsIdle = false;
+    countClick(*event);
+    byHand([&] { View::mousePressEvent(event); },
+           event->button() == Qt::LeftButton ? Hand::Presses : Hand::Acts);
+    if (!m_pressed.isValid() && !m_pressResumed)
+        setSelectionAnchor(this->currentIndex()); // the stock view forgets its own
 }
 
 template <typename View>
@@ -250,8 +286,7 @@ template <typename View>
 void HandView<View>::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && m_band.isActive()) {
-        if (event->pos() != m_bandEnd)
-            stretchBand(event->pos(), event->modifiers());
+        stretchBand(event->pos(), event->modifiers()); // the content may have moved since
         bandReleased(event->pos());
         finishBand();
         return;
@@ -267,29 +302,20 @@ void HandView<View>::mouseReleaseEvent(QMouseEvent *event)
 template <typename View>
 void HandView<View>::finishPress(const QMouseEvent &event)
 {
-    if (!m_pressResumed || event.button() != Qt::LeftButton || !m_pressed.isValid()
-        || this->indexAt(event.pos()) != m_pressed)
+    if (!m_pressResumed || m_releaseIsIdle || event.button() != Qt::LeftButton
+        || !m_pressed.isValid() || this->indexAt(event.pos()) != m_pressed)
         return;
     constexpr Qt::KeyboardModifiers extending = Qt::ControlModifier | Qt::ShiftModifier;
     const QPersistentModelIndex index = m_pressed;
     if (!(event.modifiers() & extending) && this->selectionModel()->isSelected(index))
-        this->selectionModel()->select(index, onlyThis());
+        this->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | rowFlag());
     emit this->clicked(index);
 }
 
 template <typename View>
 void HandView<View>::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    // The fourth click of an impatient hand belongs to the first two, not to what they have opened.
-    const ulong since = event->timestamp() - m_lastDoubleClick;
-    m_lastDoubleClick = event->timestamp();
-    if (m_lastDoubleClick > since && since < ulong(QApplication::doubleClickInterval())) {
-        QMouseEvent press(QEvent::MouseButtonPress, event->localPos(), event->windowPos(),
-                          event->screenPos(), event->button(), event->buttons(),
-                          event->modifiers());
-        mousePressEvent(&press);
-        return;
-    }
+    m_lastClick = event->timestamp();
     const QPersistentModelIndex index = this->indexAt(event->pos());
     if (!m_pressResumed || !index.isValid() || index != m_pressed) {
         View::mouseDoubleClickEvent(event);
@@ -329,14 +355,14 @@ void HandView<View>::selectInBand(Qt::KeyboardModifiers modifiers)
         return;
     this->setState(View::DragSelectingState);
     const QItemSelectionModel::SelectionFlags command = bandCommand(modifiers);
-    QItemSelection wanted;
-    if (command & QItemSelectionModel::Clear) {
-        wanted = itemsIn(m_band.rect());
-    } else {
-        wanted = m_beforeBand;
-        wanted.merge(itemsIn(m_band.rect()), command);
+    QItemSelection wanted = itemsIn(m_band.rect());
+    const auto *layers = qobject_cast<const LayeredSelection *>(this->selectionModel());
+    if (layers && !(command & QItemSelectionModel::Clear))
+        wanted = layers->combined(m_beforeBand, wanted, command);
+    {
+        const QScopedValueRollback<bool> guard(m_bandSelects, true);
+        this->selectionModel()->select(wanted, QItemSelectionModel::ClearAndSelect | rowFlag());
     }
-    this->selectionModel()->select(wanted, onlyThis());
     setCurrentInPlace(this->indexAt(m_band.span().bottomRight()));
 }
 
@@ -372,7 +398,7 @@ void HandView<View>::finishBand()
     m_beforeBand.clear();
     this->setState(View::NoState);
     showBand();
-    selectedByHand();
+    selectedByHand(Hand::Acts);
 }
 
 template <typename View>
@@ -383,9 +409,11 @@ void HandView<View>::cancelBand()
     this->setState(View::NoState);
     showBand();
     if (this->selectionModel())
-        this->selectionModel()->select(m_beforeBand, onlyThis());
+        this->selectionModel()->select(m_beforeBand,
+                                       QItemSelectionModel::ClearAndSelect | rowFlag());
     m_beforeBand.clear();
-    selectedByHand();
+    m_releaseIsIdle = true;
+    selectedByHand(Hand::Acts);
 }
 
 template <typename View>
@@ -395,6 +423,15 @@ void HandView<View>::scrollBand()
         return;
     m_band.setOffset(offset());
     showBand();
+}
+
+template <typename View>
+void HandView<View>::hideEvent(QHideEvent *event)
+{
+    if (m_band.isActive())
+        finishBand(); // the release will go elsewhere
+    m_band.disarm();
+    View::hideEvent(event);
 }
 
 template <typename View>

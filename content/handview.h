@@ -27,9 +27,13 @@ public:
     void setSelectionAnchor(const QModelIndex &index) override;
     QModelIndex pressedItem() const override { return m_pressed; }
     void resumePress(const QModelIndex &index) override;
-    bool hasBand() const override { return m_band.isActive(); }
+    bool hasBand() const override { return m_band.isArmed(); }
     QItemSelection selectionBeforeBand() const override { return m_beforeBand; }
     void resumeBand(const QItemSelection &before, const QPoint &originMoved) override;
+
+    /// To be asked before something is opened by the mouse: true once for a series of clicks that
+    /// follow each other as fast as those of a double click, in one place.
+    bool mayOpen();
 
     void setModel(QAbstractItemModel *model) override;
     void reset() override;
@@ -47,8 +51,9 @@ protected:
     virtual void showBand() = 0;
     /// The button was released at \a pos, which may be outside.
     virtual void bandReleased(const QPoint &pos) { Q_UNUSED(pos) }
-    /// The selection has been changed by hand or by key.
-    virtual void selectedByHand() { }
+    enum class Hand { Presses, Acts };
+    /// The selection has been changed by hand or by key. Of a press the delegate tells as well.
+    virtual void selectedByHand(Hand hand) { Q_UNUSED(hand) }
 
     const RubberBand &band() const { return m_band; }
     QPoint offset() const { return {this->horizontalOffset(), this->verticalOffset()}; }
@@ -73,6 +78,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void stretchBand(const QPoint &pos, Qt::KeyboardModifiers modifiers);
@@ -81,10 +87,11 @@ private:
     void autoScrollBand();
     void finishBand();
     void cancelBand();
+    void countClick(const QMouseEvent &event);
     void finishPress(const QMouseEvent &event);
-    QItemSelectionModel::SelectionFlags onlyThis() const;
+    QItemSelectionModel::SelectionFlags rowFlag() const;
     template <typename Handler>
-    void byHand(Handler handler);
+    void byHand(Handler handler, Hand hand = Hand::Acts);
 
     RubberBand m_band;
     QBasicTimer m_autoScroll;
@@ -93,8 +100,14 @@ private:
     TypeAhead m_typeAhead;
     QPersistentModelIndex m_anchor;
     QPersistentModelIndex m_pressed;
-    ulong m_lastDoubleClick = 0;
-    bool m_pressResumed = false; ///< the stock view has lost its pressed item
+    ulong m_lastClick = 0; ///< a timestamp of events
+    QPoint m_lastClickPos;
+    int m_clickSeries = 0;
+    int m_openedSeries = 0;
+    bool m_pressResumed = false;  ///< the stock view has lost its pressed item
+    bool m_pressedOnItem = false; ///< a release on nothing then unselects nothing
+    bool m_releaseIsIdle = false; ///< the band of this press has been given up
+    bool m_bandSelects = false;
     bool m_movingAnchor = false;
     bool m_selectionTouched = false;
 };

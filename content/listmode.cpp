@@ -34,10 +34,12 @@ void ListMode::connectRows()
     connect(m_delegate, &ListDelegate::signalShowTooltip, this, &ListMode::tooltipWanted);
     connect(m_delegate, &ListDelegate::signalPreviewClicked, this,
             [this](const QModelIndex &index) {
-                emit openRequested(m_model->itemAt(index), QStringLiteral("preview_btn"));
+                if (m_table->mayOpen())
+                    emit openRequested(m_model->itemAt(index), QStringLiteral("preview_btn"));
             });
     connect(m_delegate, &ListDelegate::signalClickDouble, this, [this](const QModelIndex &index) {
-        emit openRequested(m_model->itemAt(index), QStringLiteral("double_click"));
+        if (m_table->mayOpen())
+            emit openRequested(m_model->itemAt(index), QStringLiteral("double_click"));
     });
     connect(m_delegate, &ListDelegate::signalPathClicked, this,
             [this](const QModelIndex &index) { emit locationClicked(m_model->itemAt(index)); });

@@ -200,8 +200,8 @@ void ScanTableView::setSelection(const QRect &rect, QItemSelectionModel::Selecti
 {
     const int anchor = rowAt(rect.top());
     const int end = rowAt(rect.bottom());
-    if (!selectionModel() || !isEnabled(indexOf(anchor)) || !isEnabled(indexOf(end)))
-        return;
+    if (!selectionModel() || anchor < 0 || end < 0)
+        return; // where the anchor's record has died, its place still counts
     QItemSelection rows;
     addRows(&rows, qMin(anchor, end), qMax(anchor, end));
     noteAnchor(indexOf(anchor));
@@ -255,8 +255,11 @@ void ScanTableView::bandReleased(const QPoint &pos)
     if (!selectionModel() || reach.isEmpty() || reach.right() < left
         || reach.left() >= left + columnWidth(0))
         return;
-    selectionModel()->select(rowsBetween(reach.top(), reach.bottom()),
-                             QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    const QItemSelection rows = rowsBetween(reach.top(), reach.bottom());
+    QItemSelection missing = rows;
+    missing.merge(selectionModel()->selection(), QItemSelectionModel::Deselect);
+    if (!missing.isEmpty())
+        selectionModel()->select(rows, QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 void ScanTableView::scrollContentsBy(int dx, int dy)

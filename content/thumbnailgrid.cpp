@@ -206,7 +206,7 @@ void ThumbnailGrid::scrollContentsBy(int dx, int dy)
         rememberTop();
     if (m_pointerInside)
         setHover(m_pointer);
-    if (hasBand())
+    if (band().isActive())
         viewport()->update();
     scrollBand();
 }
@@ -318,7 +318,7 @@ void ThumbnailGrid::setSelection(const QRect &rect, QItemSelectionModel::Selecti
     } else {
         const int anchor = grid.rowAt(from);
         const int end = grid.rowAt(to);
-        if (isEnabled(indexOf(anchor)) && isEnabled(indexOf(end)))
+        if (anchor >= 0 && end >= 0) // where the anchor's record has died, its place still counts
             addRows(&selection, qMin(anchor, end), qMax(anchor, end));
         if (anchor >= 0)
             noteAnchor(indexOf(anchor));

@@ -55,7 +55,7 @@ protected:
     QItemSelectionModel::SelectionFlags bandCommand(Qt::KeyboardModifiers modifiers) const override;
     void bandAppears() override;
     void showBand() override;
-    void selectedByHand() override;
+    void selectedByHand(Hand hand) override;
 
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;

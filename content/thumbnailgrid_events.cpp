@@ -183,12 +183,12 @@ void ThumbnailGrid::showBand()
     m_shownBand = now;
 }
 
-void ThumbnailGrid::selectedByHand()
+void ThumbnailGrid::selectedByHand(Hand hand)
 {
-    if (severalSelected())
-        emit signalMutilSelectEvent();
-    else
+    if (!severalSelected())
         emit fewSelected();
+    else if (hand != Hand::Presses)
+        emit signalMutilSelectEvent();
 }
 
 void ThumbnailGrid::keyPressEvent(QKeyEvent *event)

@@ -30,18 +30,9 @@ QItemSelectionModel::SelectionFlags rowFlagOf(const QAbstractItemView &view)
         : QItemSelectionModel::NoUpdate;
 }
 
-QItemSelection settledPart(const QAbstractItemView &view)
+LayeredSelection *layersOf(const QAbstractItemView &view)
 {
-    const auto *layers = qobject_cast<const LayeredSelection *>(view.selectionModel());
-    return layers ? layers->settled() : QItemSelection();
-}
-
-void select(QAbstractItemView &view, const QItemSelection &settled, const QItemSelection &all)
-{
-    if (auto *layers = qobject_cast<LayeredSelection *>(view.selectionModel()))
-        layers->setLayers(settled, all, rowFlagOf(view));
-    else
-        view.selectionModel()->select(all, QItemSelectionModel::ClearAndSelect | rowFlagOf(view));
+    return qobject_cast<LayeredSelection *>(view.selectionModel());
 }
 
 bool isInView(const QAbstractItemView &view, const QModelIndex &index)
@@ -116,9 +107,11 @@ void ViewMemory::capture(ViewPlace &place, const ScanDataModel &model)
 {
     const QAbstractItemView &view = *place.itemView();
     m_selected.capture(view.selectionModel()->selection());
-    m_settled.capture(settledPart(view));
+    const LayeredSelection *layers = layersOf(view);
+    m_settled.capture(layers->settled());
+    m_rangeRunning = layers->isRangeRunning();
     m_anchor.capture(place.selectionAnchor().row(), model);
-    const QModelIndex pressed = place.pressedItem();
+    const QModelIndex pressed = place.pressedItem().siblingAtColumn(0);
     m_pressed.capture(pressed.row(), model);
     m_pressedAt = place.contentPosition(pressed);
     m_hadBand = place.hasBand();
@@ -150,8 +143,10 @@ void ViewMemory::captureEye(ViewPlace &place, const ScanDataModel &model)
 void ViewMemory::restore(ViewPlace &place, const ScanDataModel &model)
 {
     QAbstractItemView &view = *place.itemView();
-    select(view, m_settled.now(model), m_selected.now(model));
-    place.setSelectionAnchor(m_anchor.now(model));
+    layersOf(view)->setLayers(m_settled.now(model), m_selected.now(model), m_rangeRunning,
+                              rowFlagOf(view));
+    const QModelIndex anchor = m_anchor.now(model);
+    place.setSelectionAnchor(anchor.isValid() ? anchor : place.itemView()->currentIndex());
     place.resumePress(m_pressed.now(model));
     restoreEye(place, model); // a scroll to the end asks for more, which may come at once
     if (m_hadBand && place.hasBand())
@@ -193,8 +188,10 @@ void ViewMemory::copySelection(ViewPlace &from, ViewPlace &to, const ScanDataMod
         }
         return rows;
     };
-    const QAbstractItemView &source = *from.itemView();
-    select(*to.itemView(), copied(settledPart(source)),
-           copied(source.selectionModel()->selection()));
-    to.setSelectionAnchor(model.index(from.selectionAnchor().row(), 0));
+    const LayeredSelection *source = layersOf(*from.itemView());
+    const QAbstractItemView &target = *to.itemView();
+    layersOf(target)->setLayers(copied(source->settled()), copied(source->selection()),
+                                source->isRangeRunning(), rowFlagOf(target));
+    const QModelIndex anchor = model.index(from.selectionAnchor().row(), 0);
+    to.setSelectionAnchor(anchor.isValid() ? anchor : target.currentIndex());
 }

@@ -65,6 +65,7 @@ private:
     Mark m_pressed;
     Mark m_held; ///< the item under the eye
     QPoint m_pressedAt;
+    bool m_rangeRunning = false;
     bool m_hadBand = false;
     bool m_heldIsCurrent = false;
     int m_heldY = 0;

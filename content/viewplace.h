@@ -7,8 +7,8 @@
 
 class QAbstractItemView;
 
-/// What a view holds beside its selection and its current item, and what a reset of the model would
-/// take from it. All indexes may be invalid.
+/// What a view holds beside its selection, a LayeredSelection, and its current item, and what a
+/// reset of the model would take from it. All indexes may be invalid.
 class ViewPlace
 {
 public:
@@ -29,6 +29,7 @@ public:
     virtual QModelIndex pressedItem() const = 0;
     virtual void resumePress(const QModelIndex &index) = 0;
 
+    /// A rubber band is being drawn, or would be with a few pixels more.
     virtual bool hasBand() const = 0;
     /// What was selected when the rubber band appeared.
     virtual QItemSelection selectionBeforeBand() const = 0;
