@@ -337,7 +337,6 @@ void HandView<View>::stretchBand(const QPoint &pos, Qt::KeyboardModifiers modifi
     if (!wasActive) {
         m_beforeBand = this->selectionModel() ? this->selectionModel()->selection()
                                               : QItemSelection();
-        bandAppears();
     }
     showBand();
     selectInBand(modifiers);
@@ -363,7 +362,7 @@ void HandView<View>::selectInBand(Qt::KeyboardModifiers modifiers)
         const QScopedValueRollback<bool> guard(m_bandSelects, true);
         this->selectionModel()->select(wanted, QItemSelectionModel::ClearAndSelect | rowFlag());
     }
-    setCurrentInPlace(this->indexAt(m_band.span().bottomRight()));
+    setCurrentInPlace(itemBeside(m_band.span().bottomRight()));
 }
 
 template <typename View>

@@ -46,7 +46,8 @@ protected:
     /// What the band does to the items that it touches; ClearAndSelect forgets the others.
     virtual QItemSelectionModel::SelectionFlags
     bandCommand(Qt::KeyboardModifiers modifiers) const = 0;
-    virtual void bandAppears() { }
+    /// The item that becomes current while the band ends at \a pos.
+    virtual QModelIndex itemBeside(const QPoint &pos) const { return this->indexAt(pos); }
     /// The band is to be shown as it is now; inactive: no more.
     virtual void showBand() = 0;
     /// The button was released at \a pos, which may be outside.

@@ -98,6 +98,11 @@ QItemSelection LayeredSelection::combinedByRows(const QItemSelection &lower,
     QVector<bool> rows(model()->rowCount());
     mark(&rows, lower, Select);
     mark(&rows, upper, command);
+    int lastColumn = 0;
+    for (const QItemSelection &part : {lower, upper}) {
+        for (const QItemSelectionRange &range : part)
+            lastColumn = qMax(lastColumn, range.right());
+    }
     QItemSelection result;
     for (int row = 0; row < rows.size(); ++row) {
         const QModelIndex first = rows.at(row) ? model()->index(row, 0) : QModelIndex();
@@ -109,7 +114,7 @@ QItemSelection LayeredSelection::combinedByRows(const QItemSelection &lower,
             if (next.isValid())
                 last = next;
         }
-        result.append(QItemSelectionRange(first, last));
+        result.append(QItemSelectionRange(first, last.siblingAtColumn(lastColumn)));
     }
     return result;
 }

@@ -45,6 +45,7 @@ protected:
     QModelIndex indexOf(int row) const override;
     QItemSelection itemsIn(const QRect &band) const override;
     QItemSelectionModel::SelectionFlags bandCommand(Qt::KeyboardModifiers modifiers) const override;
+    QModelIndex itemBeside(const QPoint &pos) const override { return indexOf(rowAt(pos.y())); }
     void showBand() override;
     void bandReleased(const QPoint &pos) override;
 

@@ -53,7 +53,6 @@ protected:
     QModelIndex indexOf(int row) const override;
     QItemSelection itemsIn(const QRect &band) const override;
     QItemSelectionModel::SelectionFlags bandCommand(Qt::KeyboardModifiers modifiers) const override;
-    void bandAppears() override;
     void showBand() override;
     void selectedByHand(Hand hand) override;
 

@@ -141,6 +141,11 @@ void ThumbnailGrid::mousePressEvent(QMouseEvent *event)
     m_showFocus = false;
     showFocus();
     HandView::mousePressEvent(event);
+    // a press with Ctrl has toggled its item; a band from there gives all others the same state
+    const QModelIndex pressed = pressedItem();
+    m_ctrlBandCommand = !pressed.isValid() || !selectionModel() ? QItemSelectionModel::Toggle
+        : selectionModel()->isSelected(pressed)                 ? QItemSelectionModel::Select
+                                                                : QItemSelectionModel::Deselect;
 }
 
 void ThumbnailGrid::mouseMoveEvent(QMouseEvent *event)
@@ -152,15 +157,6 @@ void ThumbnailGrid::mouseMoveEvent(QMouseEvent *event)
 void ThumbnailGrid::startDrag(Qt::DropActions)
 {
     // the host's records do not travel
-}
-
-void ThumbnailGrid::bandAppears()
-{
-    // a press with Ctrl has toggled its item; the band gives all others the same state
-    const QModelIndex pressed = indexAt(band().span().topLeft());
-    m_ctrlBandCommand = !pressed.isValid() || !selectionModel() ? QItemSelectionModel::Toggle
-        : selectionModel()->isSelected(pressed)                 ? QItemSelectionModel::Select
-                                                                : QItemSelectionModel::Deselect;
 }
 
 QItemSelectionModel::SelectionFlags

@@ -72,7 +72,7 @@ void ViewMemory::liftSelection(ViewPlace &place)
 {
     QItemSelectionModel *selection = place.itemView()->selectionModel();
     m_selected.capture(selection->selection());
-    m_settled.capture(settledPart(*place.itemView()));
+    m_rangeRunning = layersOf(*place.itemView())->isRangeRunning();
     const QSignalBlocker quiet(selection);
     selection->select(QItemSelection(), QItemSelectionModel::Clear);
 }
@@ -81,7 +81,10 @@ void ViewMemory::layDownSelection(ViewPlace &place, const ScanDataModel &model) 
 {
     QAbstractItemView &view = *place.itemView();
     const QSignalBlocker quiet(view.selectionModel());
-    select(view, m_settled.now(model), m_selected.now(model));
+    const QItemSelection all = m_selected.now(model);
+    // a range is none after a sort: the next one replaces all of it
+    layersOf(view)->setLayers(m_rangeRunning ? QItemSelection() : all, all, m_rangeRunning,
+                              rowFlagOf(view));
     view.viewport()->update();
 }
 
@@ -161,10 +164,11 @@ void ViewMemory::restoreEye(ViewPlace &place, const ScanDataModel &model)
     // Who is at the very top wants to see what comes first, not what was first a moment ago.
     const bool atTop = m_scrollValue == 0 && !m_heldIsCurrent;
     const QModelIndex held = m_held.now(model);
+    const int top = view.visualRect(held).top(); // first: it lays out, which may scroll
     if (atTop || !held.isValid() || m_held.row < model.unchangedPrefix())
         bar->setValue(m_scrollValue);
     else
-        bar->setValue(bar->value() + view.visualRect(held).top() - m_heldY);
+        bar->setValue(bar->value() + top - m_heldY);
     m_held.row = held.row();
     m_restoredValue = bar->value();
 }
