@@ -1,6 +1,7 @@
 #include "host/app/commandline.h"
 
 #include "host/app/languages.h"
+#include "host/scan/syntheticsource.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -43,6 +44,7 @@ CommandLine::Answer CommandLine::parse(const QStringList &arguments, QString *me
     const auto add = [&parser](const char *name, const char *text, const char *value) {
         parser.addOption({QLatin1String(name), QLatin1String(text), QLatin1String(value)});
     };
+    add("items", "Shows a made-up card of N files and folders, for example 1000000.", "N");
     add("view", "How results are shown: grid, list or list-detail.", "VIEW");
     add("theme", "light or dark.", "THEME");
     add("language", "Language, for example German or \"Chinese Simplified\".", "NAME");
@@ -84,6 +86,19 @@ CommandLine::Answer CommandLine::parse(const QStringList &arguments, QString *me
         return Usage;
     }
     source = sources.value(0);
+    if (parser.isSet(QStringLiteral("items"))) {
+        const QString value = parser.value(QStringLiteral("items"));
+        bool isNumber = false;
+        const int items = value.toInt(&isNumber);
+        if (!isNumber || items < 1 || items > SyntheticSource::MaxItems || !source.isEmpty()) {
+            *message = source.isEmpty() ? QStringLiteral("--items takes a number from 1 to %1")
+                                              .arg(SyntheticSource::MaxItems)
+                                        : QStringLiteral("--items makes a card of its own: name no "
+                                                         "source beside it");
+            return Usage;
+        }
+        source = SyntheticSource::pathFor(items);
+    }
     described = parser.isSet(QStringLiteral("describe"));
     search = parser.value(described ? QStringLiteral("describe") : QStringLiteral("search"));
     checkPatterns = parser.values(QStringLiteral("check"));

@@ -3,6 +3,7 @@
 #include "host/scan/foldersource.h"
 #include "host/scan/imagesource.h"
 #include "host/scan/shownpath.h"
+#include "host/scan/syntheticsource.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -18,6 +19,8 @@ std::unique_ptr<ScanSource> ScanSource::create(const QString &path, QString *err
 {
     const QFileInfo info(path);
     const QString shown = shownPath(path);
+    if (const int items = info.exists() ? 0 : SyntheticSource::countOf(path))
+        return std::make_unique<SyntheticSource>(items);
     if (path.isEmpty() || !info.exists()) {
         *error = QCoreApplication::translate("ScanSource", "%1 does not exist.").arg(shown);
         return nullptr;

@@ -34,8 +34,9 @@ public:
     /// Takes how far the scan has come, 0 to 1. Called on the scanning thread, rarely.
     using Progress = std::function<void(double fraction)>;
 
-    /// Opens \a path: a folder, a regular file that is a disk image, or a block device. Null when
-    /// it cannot be read or holds nothing that we know; then \a error is a sentence for the user.
+    /// Opens \a path: a folder, a regular file that is a disk image, or a block device; or what
+    /// SyntheticSource::pathFor() names. Null when it cannot be read or holds nothing that we know;
+    /// then \a error is a sentence for the user.
     static std::unique_ptr<ScanSource> create(const QString &path, QString *error);
 
     virtual ~ScanSource();
