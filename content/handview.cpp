@@ -300,10 +300,16 @@ void HandView<View>::mouseReleaseEvent(QMouseEvent *event)
 }
 
 template <typename View>
+bool HandView<View>::isPressed(const QModelIndex &index) const
+{
+    return m_pressed.isValid() && index.row() == m_pressed.row(); // in whatever column
+}
+
+template <typename View>
 void HandView<View>::finishPress(const QMouseEvent &event)
 {
     if (!m_pressResumed || m_releaseIsIdle || event.button() != Qt::LeftButton
-        || !m_pressed.isValid() || this->indexAt(event.pos()) != m_pressed)
+        || !isPressed(this->indexAt(event.pos())))
         return;
     constexpr Qt::KeyboardModifiers extending = Qt::ControlModifier | Qt::ShiftModifier;
     const QPersistentModelIndex index = m_pressed;
@@ -317,7 +323,7 @@ void HandView<View>::mouseDoubleClickEvent(QMouseEvent *event)
 {
     m_lastClick = event->timestamp();
     const QPersistentModelIndex index = this->indexAt(event->pos());
-    if (!m_pressResumed || !index.isValid() || index != m_pressed) {
+    if (!m_pressResumed || !index.isValid() || !isPressed(index)) {
         View::mouseDoubleClickEvent(event);
         return;
     }

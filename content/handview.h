@@ -88,6 +88,7 @@ private:
     void autoScrollBand();
     void finishBand();
     void cancelBand();
+    bool isPressed(const QModelIndex &index) const;
     void countClick(const QMouseEvent &event);
     void finishPress(const QMouseEvent &event);
     QItemSelectionModel::SelectionFlags rowFlag() const;

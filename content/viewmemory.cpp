@@ -133,7 +133,8 @@ void ViewMemory::captureEye(ViewPlace &place, const ScanDataModel &model)
     const int heldRow = again ? m_held.rowIn(model) : -1;
     const QPair<int, int> visible = place.visibleRows();
     // The first item of a tree is current without anybody having chosen it.
-    m_heldIsCurrent = isInView(view, current) && view.selectionModel()->isSelected(current);
+    m_heldIsCurrent = model.itemAt(current) && isInView(view, current)
+        && view.selectionModel()->isSelected(current);
     int row = visible.first <= visible.second ? visible.first : -1;
     if (m_heldIsCurrent)
         row = current.row();
