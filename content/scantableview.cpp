@@ -191,9 +191,10 @@ QModelIndex ScanTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers
     }
     const int page = qMax(1, viewport()->height() / rows.lineHeight() - 1);
     const int row = GridNavigation::target(rows, current.row(), step, page);
-    return row == current.row()
-        ? current
-        : enterable(row, GridNavigation::direction(rows, step), rows.rowCount);
+    if (row == current.row())
+        return current;
+    const QModelIndex found = enterable(row, GridNavigation::direction(rows, step), rows.rowCount);
+    return found.row() == current.row() ? current : found; // not the same row's first cell
 }
 
 void ScanTableView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command)
