@@ -114,7 +114,10 @@ void ThumbnailStore::orphan(qint64 fileId)
 
 void ThumbnailStore::startSweep()
 {
-    m_toSweep = m_entries.keys().toVector();
+    m_toSweep.clear();
+    m_toSweep.reserve(m_entries.size());
+    for (auto entry = m_entries.constBegin(); entry != m_entries.constEnd(); ++entry)
+        m_toSweep.append(entry.key());
 }
 
 bool ThumbnailStore::sweep(int most)

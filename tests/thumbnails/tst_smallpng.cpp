@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QLoggingCategory>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QtEndian>
@@ -160,6 +161,8 @@ void tst_SmallPng::leavesTheRestAlone()
 
 void tst_SmallPng::survivesDamage()
 {
+    // the unpacking says of each one that it is broken
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     const QByteArray good = pngOf(picture({60, 45}, QImage::Format_ARGB32, Soft));
     QRandomGenerator random(11);
     for (int i = 0; i < 500; ++i) {
@@ -169,6 +172,7 @@ void tst_SmallPng::survivesDamage()
         const QImage image = SmallPng::read(bad);
         QVERIFY(image.isNull() || image.size() == QSize(60, 45));
     }
+    QLoggingCategory::setFilterRules(QString());
 }
 
 QTEST_GUILESS_MAIN(tst_SmallPng)
