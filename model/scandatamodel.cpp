@@ -1,6 +1,7 @@
 #include "model/scandatamodel.h"
 
 #include "common/translation.h"
+#include "model/inparallel.h"
 #include "model/itemtext.h"
 #include "model/nameletters.h"
 #include "model/spokentext.h"
@@ -9,11 +10,14 @@
 #include <QIcon>
 
 #include <algorithm>
+#include <atomic>
 
 namespace {
 
 constexpr int TextAlignment = Qt::AlignLeft | Qt::AlignVCenter;
 constexpr int NumberAlignment = Qt::AlignRight | Qt::AlignVCenter;
+
+constexpr size_t WorthTwoThreads = 100'000; // rows to look at
 
 const char *const s_headerKeys[ScanDataModel::ColumnCount] = {"name", "size", "type",
                                                               "date_modified", "path"};
@@ -61,12 +65,38 @@ template <typename Matches>
 int ScanDataModel::findRow(Matches matches) const
 {
     const QMutexLocker lock(&m_lock);
-    for (size_t row = 0; row < m_items.size(); ++row) {
-        const TreeItemData *const item = guardAt(row).data();
-        if (item && matches(item))
-            return int(row);
-    }
-    return -1;
+    // along the records as they lie in memory: in the order of the rows each one would be a jump
+    const size_t count = m_items.size();
+    std::atomic<bool> settled{false}; // by the first half: nothing comes earlier
+    const auto positions = [&](size_t from, size_t end) {
+        std::vector<size_t> found;
+        for (size_t position = from; position < end && !settled; ++position) {
+            const TreeItemData *const item = m_items[position].data();
+            if (!item || !matches(item))
+                continue;
+            found.push_back(position);
+            if (m_order.empty()) {
+                if (from == 0)
+                    settled = true;
+                break;
+            }
+        }
+        return found;
+    };
+    std::vector<size_t> upper;
+    std::vector<size_t> lower;
+    runInParallel(
+        count >= WorthTwoThreads, [&] { upper = positions(0, count / 2); },
+        [&] { lower = positions(count / 2, count); });
+    upper.insert(upper.end(), lower.begin(), lower.end());
+    if (upper.empty())
+        return -1;
+    if (m_order.empty())
+        return int(upper.front());
+    const auto row = std::find_if(m_order.begin(), m_order.end(), [&](size_t position) {
+        return std::binary_search(upper.begin(), upper.end(), position);
+    });
+    return int(row - m_order.begin());
 }
 
 int ScanDataModel::rowOfFileId(qint64 fileId) const

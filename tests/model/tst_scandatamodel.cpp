@@ -129,6 +129,7 @@ private slots:
     void selectionFollowsASort();
     void chosenSortIsKept();
     void clearSortKeepsTheRows();
+    void rowsOfIds_data();
     void rowsOfIds();
     void rowsFollowTheirRecords();
     void decoration();
@@ -491,17 +492,35 @@ void tst_ScanDataModel::clearSortKeepsTheRows()
     QCOMPARE(idsOf(model), asGiven);
 }
 
+void tst_ScanDataModel::rowsOfIds_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<bool>("sorted");
+    QTest::newRow("few") << 30 << false;
+    QTest::newRow("few, sorted") << 30 << true;
+    QTest::newRow("many") << 120000 << false; // two threads look
+    QTest::newRow("many, sorted") << 120000 << true;
+}
+
 void tst_ScanDataModel::rowsOfIds()
 {
+    QFETCH(int, rows);
+    QFETCH(bool, sorted);
     Host host;
-    for (int i = 0; i < 30; ++i)
+    for (int i = 0; i < rows; ++i)
         host.addFile();
     ScanDataModel model;
     model.openFolder(&host.root);
-    model.sort(ScanDataModel::NameColumn);
-    QCOMPARE(model.rowOfFileId(model.itemAt(4)->fileId), 4);
-    QCOMPARE(model.rowOfSecondaryId(model.itemAt(4)->secondaryId), 4);
+    if (sorted)
+        model.sort(ScanDataModel::NameColumn, Qt::DescendingOrder);
+    for (const int row : {0, 4, rows / 2, rows - 1}) {
+        QCOMPARE(model.rowOfFileId(model.itemAt(row)->fileId), row);
+        QCOMPARE(model.rowOfSecondaryId(model.itemAt(row)->secondaryId), row);
+        QCOMPARE(model.rowOf(model.itemAt(row)), row);
+    }
     QCOMPARE(model.rowOfFileId(-5), -1);
+    model.itemAt(3)->fileId = model.itemAt(rows - 2)->fileId = -7;
+    QCOMPARE(model.rowOfFileId(-7), 3); // the upper one
 }
 
 /// Whatever the host and the user do, remembered rows lead to the records that they showed.
