@@ -12,11 +12,16 @@
 #include <QLoggingCategory>
 #include <QMouseEvent>
 #include <QPluginLoader>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 
 #include <algorithm>
 #include <ctime>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -276,6 +281,52 @@ void growingUpdates(benchmark::State &state)
     state.counters["worst_ms"] = worst;
 }
 
+/// A list of guarded pointers made anew each time.
+void growingRebuilds(benchmark::State &state)
+{
+    constexpr int Updates = 100;
+    for (auto _ : state) {
+        QList<QPointer<TreeItemData>> rows;
+        double all = 0;
+        for (int update = 1; update <= Updates; ++update) {
+            const TreeItemData &root = MillionFiles::instance().folder(MillionFiles::Count / Updates
+                                                                       * update);
+            all += millisecondsOf([&] {
+                rows.clear();
+                for (TreeItemData *item : root.childFiles)
+                    rows.append(item);
+            });
+        }
+        state.SetIterationTime(all / 1e3);
+    }
+}
+
+/// Bytes in use by the allocator, large blocks included; 0 where that cannot be asked.
+double heapBytes()
+{
+#ifdef __GLIBC__
+    const struct mallinfo2 info = mallinfo2();
+    return double(info.uordblks) + double(info.hblkhd);
+#else
+    return 0;
+#endif
+}
+
+/// What the plug-in takes for each listed item, both views attached, nothing looked at or selected.
+void memoryPerItem(benchmark::State &state)
+{
+    Plugin *plugin = Page::instance().operations();
+    TreeItemData &root = MillionFiles::instance().folder(MillionFiles::Count);
+    for (auto _ : state) {
+        plugin->clearData(Plugin::ScanSide);
+        QCoreApplication::processEvents();
+        const double before = heapBytes();
+        plugin->updateScanData(&root);
+        QCoreApplication::processEvents();
+        state.counters["bytes"] = (heapBytes() - before) / MillionFiles::Count;
+    }
+}
+
 // ---- rubber band
 
 /// From one corner of the viewport to the other; each step is shown before the next.
@@ -394,6 +445,10 @@ int main(int argc, char **argv)
     benchmark::RegisterBenchmark("hundredGrowingUpdates/ours", growingUpdates)
         ->Unit(benchmark::kMillisecond)
         ->UseManualTime();
+    benchmark::RegisterBenchmark("hundredGrowingUpdates/stock", growingRebuilds)
+        ->Unit(benchmark::kMillisecond)
+        ->UseManualTime();
+    add("memoryPerItem", memoryPerItem)->Iterations(1);
     for (const auto &entry :
          {std::make_pair("rubberBandStep/ours", &inOurs<QListView, rubberBand>),
           std::make_pair("rubberBandStep/stock", &inStock<QListView, rubberBand>)})

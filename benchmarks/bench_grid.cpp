@@ -129,6 +129,15 @@ BENCHMARK_TEMPLATE(resetToFirstFrame, QListView)
     ->Unit(benchmark::kMillisecond);
 
 template <class View>
+void layoutMemory(benchmark::State &state)
+{
+    for (auto _ : state)
+        state.counters["kB"] = layoutKilobytes<View>();
+}
+BENCHMARK_TEMPLATE(layoutMemory, ThumbnailGrid)->Iterations(1);
+BENCHMARK_TEMPLATE(layoutMemory, QListView)->Iterations(1);
+
+template <class View>
 void pageStep(benchmark::State &state)
 {
     Bench<View> bench;
