@@ -57,7 +57,12 @@ public:
     }
 
     /// What follows belongs to a new phase. From inside a step, whose time goes to the new one.
-    void begin(const std::string &name, bool mayStall) { m_phases.push_back({name, mayStall, {}}); }
+    void begin(const std::string &name, bool mayStall)
+    {
+        m_phases.emplace_back();
+        m_phases.back().name = name;
+        m_phases.back().mayStall = mayStall;
+    }
 
     const std::vector<Phase> &phases() const { return m_phases; }
 
