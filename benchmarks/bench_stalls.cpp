@@ -27,9 +27,10 @@ using Plugin = SDCardScanContentPluginInterface;
 constexpr QSize WindowSize(1280, 800);
 constexpr int FrameMs = 16;
 constexpr int UpdateMs = 100;
+constexpr int AnswerMs = 4;
 constexpr double GoalMs = 50;
 
-/// Answers for thumbnails as a host does: later, one at a time.
+/// Answers for thumbnails as a host does: later, one at a time, 250 a second.
 class Thumbnails : public QObject
 {
     Q_OBJECT
@@ -40,6 +41,7 @@ public:
         , m_picture(300, 200)
     {
         m_picture.fill(Qt::darkCyan);
+        connect(&m_timer, &QTimer::timeout, this, &Thumbnails::answer);
         connect(pluginObject, SIGNAL(signalSaveThumbnail(TreeItemData *)), this,
                 SLOT(take(TreeItemData *)));
     }
@@ -47,14 +49,23 @@ public:
 private slots:
     void take(TreeItemData *item)
     {
-        const qint64 id = item->fileId;
-        QMetaObject::invokeMethod(
-            this, [this, id] { m_plugin->updateThumbnail(id, m_picture); }, Qt::QueuedConnection);
+        m_asked.append(item->fileId);
+        if (!m_timer.isActive())
+            m_timer.start(AnswerMs);
     }
 
 private:
+    void answer()
+    {
+        m_plugin->updateThumbnail(m_asked.takeFirst(), m_picture);
+        if (m_asked.isEmpty())
+            m_timer.stop();
+    }
+
     Plugin *m_plugin;
     QPixmap m_picture;
+    QList<qint64> m_asked;
+    QTimer m_timer;
 };
 
 /// The session, step by step.
@@ -241,8 +252,11 @@ void Session::planHands()
         for (auto *view : m_found->findChildren<QListView *>(QStringLiteral("listView")))
             wheel(view, -120);
     });
-    add("search ends", 1, UpdateMs, [this](int) {
-        m_plugin->clearData(Plugin::SearchSide);
+    add("search ends", 2, UpdateMs, [this](int i) {
+        if (i == 0) {
+            m_plugin->clearData(Plugin::SearchSide);
+            return;
+        }
         m_found->hide();
         m_frame->show();
         m_plugin->updateScanData(&m_root);
