@@ -57,12 +57,13 @@ bool isOpaque(const QImage &picture)
 QImage indexed(const QImage &picture)
 {
     ColourTable table;
+    const int width = picture.width(); // asked for each pixel it takes longer than the rest
     QImage packed(picture.size(), QImage::Format_Indexed8);
     for (int y = 0; y < picture.height() && !packed.isNull(); ++y) {
         const QRgb *const pixels = pixelsOf(picture, y);
         uchar *const line = packed.scanLine(y);
         int index = -1;
-        for (int x = 0; x < picture.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             if (x == 0 || pixels[x] != pixels[x - 1])
                 index = table.indexOf(pixels[x] | 0xFF000000);
             if (index < 0)
