@@ -252,15 +252,13 @@ void Session::planHands()
         for (auto *view : m_found->findChildren<QListView *>(QStringLiteral("listView")))
             wheel(view, -120);
     });
-    add("search ends", 2, UpdateMs, [this](int i) {
-        if (i == 0) {
-            m_plugin->clearData(Plugin::SearchSide);
-            return;
-        }
+    add("search ends", 1, UpdateMs, [this](int) { m_plugin->clearData(Plugin::SearchSide); });
+    add("back to the scan", 1, UpdateMs, [this](int) {
         m_found->hide();
         m_frame->show();
-        m_plugin->updateScanData(&m_root);
     });
+    add("the same tree again, sorted", 3, UpdateMs,
+        [this](int) { m_plugin->updateScanData(&m_root); });
 }
 
 void Session::planLooks()
