@@ -7,7 +7,9 @@
 #include "host/ui/segments.h"
 
 #include <QEvent>
+#include <QHash>
 #include <QHeaderView>
+#include <QSet>
 #include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -39,6 +41,19 @@ protected:
             .paint(painter, box);
     }
 };
+
+/// Of a record that may be gone.
+const TreeItemData *addressOf(const QTreeWidgetItem *row)
+{
+    return static_cast<TreeItemData *>(row->data(NameColumn, RecordRole).value<void *>());
+}
+
+bool isBelow(const QTreeWidgetItem *row, const QTreeWidgetItem *folder)
+{
+    while (row && row != folder)
+        row = row->parent();
+    return row == folder;
+}
 } // namespace
 
 SidePanel::SidePanel(const ItemTree &tree, QWidget *parent)
@@ -89,8 +104,7 @@ SidePanel::SidePanel(const ItemTree &tree, QWidget *parent)
 
 ItemRecord *SidePanel::recordOf(const QTreeWidgetItem *row) const
 {
-    return m_tree.records().find(
-        static_cast<TreeItemData *>(row->data(NameColumn, RecordRole).value<void *>()));
+    return m_tree.records().find(addressOf(row));
 }
 
 QIcon SidePanel::iconOf(const ItemRecord &record) const
@@ -140,14 +154,42 @@ void SidePanel::refreshRow(QTreeWidgetItem *row)
         refreshRow(row->child(i));
 }
 
-/// Folders are only ever appended, so what is missing is at the end.
+/// While a scan runs folders are only appended; another filter takes some away and gives others
+/// another place.
 void SidePanel::fill(QTreeWidgetItem *row)
 {
     const ItemRecord *record = recordOf(row);
     if (!record)
         return;
-    for (int i = row->childCount(); i < record->childFolders.size(); ++i)
-        addRow(row, static_cast<ItemRecord *>(record->childFolders[i]));
+    const QList<TreeItemData *> &folders = record->childFolders;
+    int same = 0;
+    while (same < row->childCount() && same < folders.size()
+           && addressOf(row->child(same)) == folders[same])
+        ++same;
+
+    const QSignalBlocker quiet(m_rows); // a row that moves is no choice of the user
+    QTreeWidgetItem *current = m_rows->currentItem();
+    QHash<const TreeItemData *, QTreeWidgetItem *> moving;
+    QSet<const QTreeWidgetItem *> unfolded;
+    while (row->childCount() > same) {
+        QTreeWidgetItem *child = row->child(row->childCount() - 1);
+        moving.insert(addressOf(child), child);
+        if (child->isExpanded())
+            unfolded.insert(child);
+        row->removeChild(child);
+    }
+    for (int i = same; i < folders.size(); ++i) {
+        QTreeWidgetItem *child = moving.take(folders[i]);
+        if (!child) {
+            addRow(row, static_cast<ItemRecord *>(folders[i]));
+            continue;
+        }
+        row->addChild(child);
+        child->setExpanded(unfolded.contains(child));
+        if (isBelow(current, child))
+            m_rows->setCurrentItem(current);
+    }
+    qDeleteAll(moving);
 }
 
 void SidePanel::setArrangement(Arrangement arrangement)
