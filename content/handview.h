@@ -6,6 +6,7 @@
 #include "content/viewplace.h"
 
 #include <QBasicTimer>
+#include <QColor>
 #include <QListView>
 #include <QPersistentModelIndex>
 #include <QTableView>
@@ -80,6 +81,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+
+    QColor m_bandColor{0, 0, 255, 32};
+    QColor m_bandEdgeColor = Qt::blue;
 
 private:
     void stretchBand(const QPoint &pos, Qt::KeyboardModifiers modifiers);

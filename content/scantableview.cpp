@@ -1,14 +1,13 @@
 #include "content/scantableview.h"
 
+#include "content/bandframe.h"
 #include "content/gridnavigation.h"
 #include "content/viewaccessible.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QRubberBand>
 #include <QScrollBar>
-#include <QStyle>
 
 namespace {
 
@@ -24,7 +23,7 @@ constexpr qreal OutlineRadius = 8;
 
 ScanTableView::ScanTableView(QWidget *parent)
     : HandView(DragDistance, parent)
-    , m_rubberBand(new QRubberBand(QRubberBand::Rectangle, viewport()))
+    , m_rubberBand(new BandFrame(viewport()))
 {
     setShowGrid(false);
     setSelectionBehavior(SelectRows);
@@ -241,7 +240,8 @@ void ScanTableView::showBand()
 {
     if (band().isActive()) {
         // of a band that has been scrolled far away only the sides are seen
-        const int beyond = m_rubberBand->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 1;
+        constexpr int beyond = 1;
+        m_rubberBand->setColors(m_bandColor, m_bandEdgeColor);
         m_rubberBand->setGeometry(band().rect().intersected(
             viewport()->rect().adjusted(-beyond, -beyond, beyond, beyond)));
     }

@@ -4,7 +4,7 @@
 
 #include <QColor>
 
-class QRubberBand;
+class BandFrame;
 
 /// The table of the list modes: rows with a hovered cell for the delegate to paint, and a rubber
 /// band that adds whole rows to the selection. The cursor goes from row to row; its column means
@@ -15,6 +15,8 @@ class ScanTableView : public HandView<QTableView>
     // for the stylesheet: the outline of the current row, with the keyboard in the table or not
     Q_PROPERTY(QColor focusedRowColor MEMBER m_focusedRowColor)
     Q_PROPERTY(QColor currentRowColor MEMBER m_currentRowColor)
+    Q_PROPERTY(QColor bandColor MEMBER m_bandColor)
+    Q_PROPERTY(QColor bandEdgeColor MEMBER m_bandEdgeColor)
 
 public:
     explicit ScanTableView(QWidget *parent = nullptr);
@@ -68,7 +70,7 @@ private:
 
     int m_hoverRow = -1;
     int m_hoverColumn = -1;
-    QRubberBand *m_rubberBand;
+    BandFrame *m_rubberBand;
     QColor m_focusedRowColor = Qt::blue;
     QColor m_currentRowColor = Qt::gray;
 };

@@ -12,7 +12,10 @@
 class ThumbnailGrid : public HandView<QListView>
 {
     Q_OBJECT
-    Q_PROPERTY(QColor focusColor MEMBER m_focusColor) ///< from the stylesheet
+    // for the stylesheet
+    Q_PROPERTY(QColor focusColor MEMBER m_focusColor)
+    Q_PROPERTY(QColor bandColor MEMBER m_bandColor)
+    Q_PROPERTY(QColor bandEdgeColor MEMBER m_bandEdgeColor)
 
 public:
     explicit ThumbnailGrid(QWidget *parent = nullptr);
@@ -86,7 +89,6 @@ private:
     bool severalSelected() const;
 
     void paintCards(QPainter *painter, const QRegion &region);
-    void paintBand(QPainter *painter);
     QRect focusRect(int row) const;
     /// Or no more.
     void showFocus();

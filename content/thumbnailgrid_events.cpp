@@ -2,6 +2,7 @@
 #include "content/thumbnailgrid.h"
 
 #include "common/focusring.h"
+#include "content/bandframe.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -9,7 +10,6 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QStyle>
 
 namespace {
 constexpr int FocusReach = 4;
@@ -21,7 +21,7 @@ void ThumbnailGrid::paintEvent(QPaintEvent *event)
     QPainter painter(viewport());
     paintCards(&painter, event->region());
     if (band().isActive())
-        paintBand(&painter);
+        paintBand(&painter, band().rect(), m_bandColor, m_bandEdgeColor);
 }
 
 void ThumbnailGrid::paintCards(QPainter *painter, const QRegion &region)
@@ -77,18 +77,6 @@ void ThumbnailGrid::showFocus()
 {
     if (currentIndex().isValid())
         viewport()->update(focusRect(currentIndex().row()));
-}
-
-void ThumbnailGrid::paintBand(QPainter *painter)
-{
-    QStyleOptionRubberBand option;
-    option.initFrom(viewport()); // a style may draw an opaque band on a window
-    option.shape = QRubberBand::Rectangle;
-    option.opaque = false;
-    option.rect = band().rect();
-    painter->save();
-    style()->drawControl(QStyle::CE_RubberBand, &option, painter, viewport());
-    painter->restore();
 }
 
 bool ThumbnailGrid::viewportEvent(QEvent *event)
@@ -170,11 +158,10 @@ ThumbnailGrid::bandCommand(Qt::KeyboardModifiers modifiers) const
 
 void ThumbnailGrid::showBand()
 {
-    const int margin = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) + 1;
     const QRect now = band().isActive() ? band().rect() : QRect();
     for (const QRect &area : {m_shownBand, now}) {
         if (area.isValid())
-            viewport()->update(area.adjusted(-margin, -margin, margin, margin));
+            viewport()->update(area.adjusted(-1, -1, 1, 1));
     }
     m_shownBand = now;
 }

@@ -18,6 +18,8 @@ constexpr QSize Window(900, 620);
 constexpr qreal Scale = 3; // at one pixel a unit a thin letter never reaches its colour
 constexpr double TextContrast = 4.5;
 constexpr double MarkContrast = 3;
+constexpr double ReadableVeil = 1.5; // changes by less than this
+constexpr double VisibleBand = 1.8;
 
 // Of cards and rows, as their painters place them.
 constexpr int BoxInset = 8;
@@ -57,6 +59,8 @@ private slots:
     void focus();
     void selection_data();
     void selection();
+    void rubberBand_data() { selection_data(); }
+    void rubberBand();
 
 private:
     static void themes();
@@ -376,6 +380,29 @@ void TestContrast::selection()
         area = QRect(cell(2).right() - 40, cell(2).top(), 40, cell(2).height());
     const double contrast = Contrast::change(plain, selected, area);
     QVERIFY2(contrast >= MarkContrast, qPrintable(QString::number(contrast)));
+}
+
+/// What the band covers stays as readable as it was, and the band is seen.
+void TestContrast::rubberBand()
+{
+    QFETCH(QString, page);
+
+    prepare(page);
+    QWidget *viewport = m_stage->items()->viewport();
+    // beside the cards or rows: a selection changes those
+    const QRect card = m_stage->items()->visualRect(m_stage->items()->model()->index(1, 0));
+    const QPoint from(card.center().x(), card.top() - (page == QLatin1String("grid") ? 6 : 20));
+    const QPoint to(from.x() + 60, card.bottom() + 40);
+    const QRect inside = inWindow(viewport, QRect(from, to).adjusted(2, 2, -2, -2));
+    QTest::mousePress(viewport, Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(viewport, &move);
+    const QImage shown = m_stage->picture(Scale);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
+    const QImage gone = m_stage->picture(Scale);
+
+    QVERIFY(Contrast::change(gone, shown, inside.adjusted(-3, -3, 3, 3)) > VisibleBand);
+    QVERIFY(Contrast::change(gone, shown, inside) < ReadableVeil);
 }
 
 QTEST_MAIN(TestContrast)
