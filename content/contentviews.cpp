@@ -20,6 +20,8 @@
 #include <QGuiApplication>
 #include <QScrollBar>
 
+#include <type_traits>
+
 namespace {
 
 /// The pointer says that a long sort is under way.
@@ -45,8 +47,6 @@ private:
 };
 
 } // namespace
-
-#include <type_traits>
 
 ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel *model,
                            QWidget *parent)

@@ -40,6 +40,17 @@ const std::vector<Page> &all()
              stage.click(4);
              stage.click(6, Qt::ShiftModifier);
          }},
+        {"grid-band",
+         [](Stage &stage) {
+             stage.showScan(&stage.records().mixed, Interface::GridView);
+             stage.drawBand(1, 8);
+         }},
+        {"list-band",
+         [](Stage &stage) {
+             stage.showScan(&stage.records().mixed, Interface::ListWithDetailView);
+             stage.drawBand(2, 6);
+             Stage::settle(PaneRestMs);
+         }},
         {"grid-search",
          [](Stage &stage) {
              stage.showSearch(&stage.records().matches, Records::keyword(), Interface::GridView);

@@ -10,6 +10,7 @@
 #include <QLibrary>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTableView>
 #include <QTextStream>
 #include <QTimer>
 
@@ -178,6 +179,32 @@ void Stage::focus(const QString &name)
     settle(0);
 }
 
+QRect Stage::drawBand(int firstRow, int lastRow)
+{
+    const auto cell = [this](int row, int column) {
+        return items()->visualRect(items()->model()->index(row, column));
+    };
+    const bool rows = qobject_cast<QTableView *>(items());
+    constexpr int BesideACard = 4;
+    const QPoint from = rows ? cell(firstRow, 1).center()
+                             : cell(firstRow, 0).topLeft() - QPoint(BesideACard, BesideACard);
+    m_bandEnd = rows ? cell(lastRow, 3).center() : cell(lastRow, 0).center();
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton);
+    QMouseEvent move(QEvent::MouseMove, m_bandEnd, items()->viewport()->mapToGlobal(m_bandEnd),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(items()->viewport(), &move);
+    m_drawingBand = true;
+    settle(0);
+    return QRect(from, m_bandEnd).normalized();
+}
+
+void Stage::releaseBand()
+{
+    if (m_drawingBand && items())
+        send(QEvent::MouseButtonRelease, m_bandEnd, Qt::LeftButton);
+    m_drawingBand = false;
+}
+
 void Stage::openMenu(int row)
 {
     const QPoint place = placeOf(row, 0);
@@ -269,6 +296,7 @@ QImage Stage::picture(qreal scale)
 
 void Stage::tidyUp()
 {
+    releaseBand();
     if (QWidget *focused = QApplication::focusWidget())
         focused->clearFocus();
     const auto others = QApplication::topLevelWidgets();

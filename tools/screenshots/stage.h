@@ -42,6 +42,10 @@ public:
     void hover(int row, int column = 0);
     void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void openMenu(int row);
+    /// From beside one row to the middle of another; the button stays down. The rectangle of the
+    /// band in the viewport.
+    QRect drawBand(int firstRow, int lastRow);
+    void releaseBand();
     /// As by the Tab key; the widget called \a name, or the one that shows the items.
     void focus(const QString &name = {});
     /// Follows the link of the page in front. The dialog that it opens is shown to whoever looks,
@@ -80,4 +84,6 @@ private:
     QFrame *m_scan = nullptr;
     QFrame *m_search = nullptr;
     std::function<void()> m_onDialog;
+    QPoint m_bandEnd;
+    bool m_drawingBand = false;
 };
