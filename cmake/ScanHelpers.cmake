@@ -74,3 +74,14 @@ function(scan_add_benchmark name)
     target_link_libraries(${name} PRIVATE scancontent scanimages benchmark::benchmark scan_warnings ${arg_LIBS})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
 endfunction()
+
+# scan_export_only(TARGET FILE): what leaves a library is named in the linker's map FILE. Hidden
+# visibility alone lets templates of the standard library out, others with every compiler. A DLL
+# exports what is declared so and needs no map.
+function(scan_export_only target file)
+    if(UNIX AND NOT APPLE)
+        cmake_path(ABSOLUTE_PATH file)
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${file}")
+        set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${file}")
+    endif()
+endfunction()

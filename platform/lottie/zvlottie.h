@@ -47,7 +47,7 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    struct Private;
+    struct Q_DECL_HIDDEN Private;
     std::unique_ptr<Private> d;
 };
 
