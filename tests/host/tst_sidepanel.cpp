@@ -54,6 +54,7 @@ private:
     std::unique_ptr<ItemTree> m_tree;
     std::unique_ptr<SidePanel> m_panel;
     QTreeWidgetItem *m_card = nullptr;
+    int m_picked = 0;
 };
 
 void TestSidePanel::init()
@@ -107,13 +108,12 @@ void TestSidePanel::unfoldedAndCurrentFolderStay()
     auto *inside = static_cast<ItemRecord *>(m_tree->placeRoot()->childFolders[0]->childFolders[1]);
     QCOMPARE(inside->name, QStringLiteral("101CARD"));
     m_panel->follow(inside);
-    int picked = 0;
-    connect(m_panel.get(), &SidePanel::picked, this, [&picked] { ++picked; });
+    connect(m_panel.get(), &SidePanel::picked, this, [this] { ++m_picked; });
     filter(ItemFilter::DeletedOnly);
     QCOMPARE(rows->currentItem()->text(0), inside->name);
     QVERIFY(rows->currentItem()->parent()->isExpanded());
     QCOMPARE(namesBelow(rows->currentItem()->parent()), QStringList{"101CARD"});
-    QCOMPARE(picked, 0);
+    QCOMPARE(m_picked, 0);
 }
 
 QTEST_MAIN(TestSidePanel)
