@@ -41,12 +41,23 @@ bool ItemChecks::isLargeWholeTree(const QVector<SelectedRows::Run> &rows) const
         && rows.first().first == 0 && rows.first().last == count - 1;
 }
 
+bool ItemChecks::isAnyAlive(const QVector<SelectedRows::Run> &rows) const
+{
+    for (const SelectedRows::Run &run : rows) {
+        for (int row = run.first; row <= run.last; ++row) {
+            if (m_model->itemAt(row))
+                return true;
+        }
+    }
+    return false;
+}
+
 void ItemChecks::toggleSelected(const QModelIndex &current)
 {
     guarded(Q_FUNC_INFO, [&] {
         QVector<SelectedRows::Run> rows = SelectedRows::runs(
             m_views->inUse()->selectionModel()->selection());
-        if (rows.isEmpty() && current.isValid())
+        if (!isAnyAlive(rows) && current.isValid())
             rows = {{current.row(), current.row()}};
         if (isLargeWholeTree(rows)) {
             m_control->choose(CheckToggle::nextForAll(*m_model));

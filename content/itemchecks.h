@@ -24,8 +24,9 @@ public:
     /// The top of the tree that is shown; null: none is.
     void setRoot(TreeItemData *root) { m_root = root; }
 
-    /// Checks or unchecks the selected items together; \a current where nothing is selected. Each
-    /// is announced, but for a large tree that is selected as a whole: that is select-all.
+    /// Checks or unchecks the selected items together; \a current where nothing is selected that
+    /// is still alive. Each is announced, but for a large tree that is selected as a whole: that is
+    /// select-all.
     void toggleSelected(const QModelIndex &current);
     /// Checks or unchecks one item.
     void toggle(const QModelIndex &index);
@@ -41,6 +42,7 @@ signals:
 private:
     void setAll(Qt::CheckState state);
     void toggleRows(const QVector<SelectedRows::Run> &rows);
+    bool isAnyAlive(const QVector<SelectedRows::Run> &rows) const;
     bool isLargeWholeTree(const QVector<SelectedRows::Run> &rows) const;
 
     ScanDataModel *m_model;

@@ -27,6 +27,8 @@ private slots:
     void menuMayOutliveItsWidget();
     void anchorOutlivesManyResults_data();
     void anchorOutlivesManyResults();
+    void spaceWhereTheSelectedHaveDied_data();
+    void spaceWhereTheSelectedHaveDied();
 
 private:
     void show(int mode, int files);
@@ -276,6 +278,27 @@ void TestCarelessHands::anchorOutlivesManyResults()
     QVERIFY(now < reached);
     QCOMPARE(m_widget->selectedItems().size(), now - 2 + 1);
     QVERIFY(m_widget->selectedItems().contains(m_tree->root.childFiles.at(2)));
+}
+
+void TestCarelessHands::spaceWhereTheSelectedHaveDied_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("grid") << 0;
+    QTest::newRow("table") << 1;
+}
+
+void TestCarelessHands::spaceWhereTheSelectedHaveDied()
+{
+    QFETCH(int, mode);
+    show(mode, 6);
+    const QList<TreeItemData *> files = m_tree->root.childFiles;
+    QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, spot(1));
+    QTest::keyClick(view(), Qt::Key_Down, Qt::ControlModifier);
+    TreeItemData *current = files.at(view()->currentIndex().row());
+    QVERIFY(current != files.at(1));
+    m_tree->kill(files.at(1));
+    QTest::keyClick(view(), Qt::Key_Space);
+    QCOMPARE(current->checkState, int(Qt::Checked));
 }
 
 QTEST_MAIN(TestCarelessHands)
