@@ -3,6 +3,7 @@
 #include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
 #include "content/thumbnailgrid.h"
+#include "model/headerviewsorttype.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
 #include "popups/rightmenudialog.h"
@@ -58,6 +59,9 @@ private:
     void changeSort();
     void switchView();
     std::vector<Id> shownIds() const;
+    std::vector<Id> treeInOrder() const;
+    /// What is shown, after a look whether it is all that there is, in the chosen order.
+    std::vector<Id> listed();
 
     // the hand
     void click();
@@ -109,6 +113,7 @@ private:
     ScanTableView *m_table = nullptr;
     WalkHand m_hand;
     int m_mode = 0;
+    int m_sort = NoSort;
     int m_treeKey = 0;
     int m_sent = 0;
     ulong m_clock = 1;
@@ -150,6 +155,7 @@ void TestRandomWalk::newTree()
     m_banding = m_bandShown = false;
     m_held = WalkHand::Nothing;
     m_widget->reset();
+    m_sort = NoSort;
     grow();
     m_hand.go(m_hand.order.front());
     m_hand.only({});
@@ -206,7 +212,7 @@ void TestRandomWalk::handOver()
     const QPoint bandItem = bandOnItem ? place().contentPosition(indexOf(m_bandItem)) : QPoint();
 
     m_widget->updateData(&m_tree->root, QString());
-    m_hand.results(shownIds());
+    m_hand.results(listed());
 
     const QScrollBar *bar = view().verticalScrollBar();
     const bool atEnd = bar->value() == bar->minimum() || bar->value() == bar->maximum();
@@ -228,7 +234,8 @@ void TestRandomWalk::changeSort()
     const int type = 1 + random(8);
     say(QStringLiteral("sort %1").arg(type));
     emit m_widget->findChild<ScanTableHeader *>()->signalSortClicked(HeaderViewSortType(type));
-    m_hand.sorted(shownIds());
+    m_sort = type;
+    m_hand.sorted(listed());
 }
 
 void TestRandomWalk::switchView()
@@ -255,6 +262,46 @@ std::vector<WalkHand::Id> TestRandomWalk::shownIds() const
         ids.push_back(id.isValid() ? id.toLongLong() : Id(WalkHand::Nothing));
     }
     return ids;
+}
+
+std::vector<WalkHand::Id> TestRandomWalk::treeInOrder() const
+{
+    QList<TreeItemData *> items = m_tree->root.childFolders + m_tree->root.childFiles;
+    const auto comesBefore = [this](const TreeItemData *a, const TreeItemData *b) {
+        const bool descending = m_sort % 2 == 0;
+        const TreeItemData *first = descending ? b : a;
+        const TreeItemData *second = descending ? a : b;
+        switch (m_sort) {
+        case NameAscending:
+        case NameDescending:
+            return first->name < second->name; // small letters all
+        case SizeAscending:
+        case SizeDescending:
+            return first->fileSize < second->fileSize;
+        case TypeAscending:
+        case TypeDescending:
+            return first->extension < second->extension;
+        case DateAscending:
+        case DateDescending:
+            return first->modifiedTime < second->modifiedTime;
+        default:
+            return false;
+        }
+    };
+    std::stable_sort(items.begin(), items.end(), comesBefore);
+    std::vector<Id> ids;
+    for (const TreeItemData *item : qAsConst(items))
+        ids.push_back(item->fileId);
+    return ids;
+}
+
+std::vector<WalkHand::Id> TestRandomWalk::listed()
+{
+    const std::vector<Id> shown = shownIds();
+    if (shown != treeInOrder())
+        m_complaint =
+            QStringLiteral("not what the tree holds, or out of order, sort %1").arg(m_sort);
+    return shown;
 }
 
 // What it sees -----------------------------------------------------------------------------------

@@ -48,6 +48,8 @@ private slots:
     void bandSelectsWhatAPlainWalkWould_data();
     void bandSelectsWhatAPlainWalkWould();
     void bandAddsToTheSelection();
+    void bandScrollsAtTheEdge_data();
+    void bandScrollsAtTheEdge();
     void hoverRepaintsTheRowsConcerned();
     void leavingClearsTheHoverCellOnce();
     void deadRowsInABand();
@@ -171,6 +173,48 @@ void TestScanTableView::bandAddsToTheSelection()
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, at(2, 5));
     QVERIFY(selectedRows().contains(9));
     QVERIFY(selectedRows().contains(2));
+}
+
+void TestScanTableView::bandScrollsAtTheEdge_data()
+{
+    QTest::addColumn<int>("scroll");
+    QTest::addColumn<int>("pressedRow");
+    QTest::addColumn<int>("beyond"); // pixels from the edge outwards
+    QTest::addColumn<int>("lastRow");
+    QTest::newRow("below the lower edge") << 0 << 2 << 250 << 59;
+    QTest::newRow("above the upper edge") << 100000 << 57 << 250 << 0;
+    QTest::newRow("just inside the lower edge") << 1200 << 33 << -2 << 59;
+}
+
+void TestScanTableView::bandScrollsAtTheEdge()
+{
+    QFETCH(int, scroll);
+    QFETCH(int, pressedRow);
+    QFETCH(int, beyond);
+    QFETCH(int, lastRow);
+    QWidget *viewport = m_table->viewport();
+    QScrollBar *bar = m_table->verticalScrollBar();
+    bar->setValue(scroll);
+    const QPoint pointer(40, lastRow == 0 ? -beyond : viewport->height() + beyond);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, at(pressedRow, 20));
+    QMouseEvent move(QEvent::MouseMove, pointer, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(viewport, &move);
+    QTRY_COMPARE_WITH_TIMEOUT(bar->value(), lastRow == 0 ? 0 : bar->maximum(), 20000);
+    const int first = qMin(pressedRow, lastRow);
+    QTRY_COMPARE(selectedRows().size(), qMax(pressedRow, lastRow) - first + 1);
+    // the band has gone along with its origin, which is far outside by now
+    const QRect drawn = viewport->findChild<QRubberBand *>()->geometry();
+    QVERIFY(lastRow == 0 ? drawn.bottom() >= viewport->height() - 1 : drawn.top() <= 0);
+
+    const QPoint middle = viewport->rect().center();
+    QMouseEvent back(QEvent::MouseMove, middle, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(viewport, &back);
+    const int under = m_table->rowAt(middle.y());
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, middle);
+    const QVector<int> rows = selectedRows();
+    QCOMPARE(rows.first(), qMin(pressedRow, under));
+    QCOMPARE(rows.last(), qMax(pressedRow, under));
+    QCOMPARE(rows.size(), qAbs(pressedRow - under) + 1);
 }
 
 void TestScanTableView::hoverRepaintsTheRowsConcerned()
