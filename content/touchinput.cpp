@@ -35,10 +35,10 @@ TouchInput::TouchInput(QAbstractItemView *view)
     scroller->setScrollerProperties(properties);
 }
 
-bool TouchInput::eventFilter(QObject *watched, QEvent *event)
+// Watches the viewport alone, which outlives all but the bare widget of its view: while the view is
+// taken down, nothing may be asked of it here.
+bool TouchInput::eventFilter(QObject *, QEvent *event)
 {
-    if (watched != m_view->viewport())
-        return false;
     switch (event->type()) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
