@@ -1,6 +1,7 @@
 #pragma once
 
 #include "content/handview.h"
+#include "delegates/hoveredcell.h"
 
 #include <QColor>
 
@@ -9,9 +10,10 @@ class BandFrame;
 /// The table of the list modes: rows with a hovered cell for the delegate to paint, and a rubber
 /// band that adds whole rows to the selection. The cursor goes from row to row; its column means
 /// nothing.
-class ScanTableView : public HandView<QTableView>
+class ScanTableView : public HandView<QTableView>, public HoveredCell
 {
     Q_OBJECT
+    Q_INTERFACES(HoveredCell)
     // for the stylesheet: the outline of the current row, with the keyboard in the table or not
     Q_PROPERTY(QColor focusedRowColor MEMBER m_focusedRowColor)
     Q_PROPERTY(QColor currentRowColor MEMBER m_currentRowColor)
@@ -22,9 +24,8 @@ public:
     explicit ScanTableView(QWidget *parent = nullptr);
     ~ScanTableView() override;
 
-    /// The cell under the mouse; -1 when there is none.
-    int hoverRow() const { return m_hoverRow; }
-    int hoverColumn() const { return m_hoverColumn; }
+    int hoverRow() const override { return m_hoverRow; }
+    int hoverColumn() const override { return m_hoverColumn; }
 
     /// Every row is this high.
     void setRowHeight(int pixels);

@@ -3,9 +3,9 @@
 #include "common/fontmanager.h"
 #include "common/scanviewmanager.h"
 #include "common/thememanager.h"
-#include "content/scantableview.h"
 #include "delegates/delegateitem.h"
 #include "delegates/devicegrid.h"
+#include "delegates/hoveredcell.h"
 #include "delegates/locationtext.h"
 #include "delegates/painterstate.h"
 #include "model/itemtext.h"
@@ -15,6 +15,7 @@
 
 #include <QHeaderView>
 #include <QPainter>
+#include <QTableView>
 #include <QTextBrowser>
 
 namespace {
@@ -97,18 +98,18 @@ void ListDelegate::retranslate() const
     m_rowTexts.setDirty();
 }
 
-void ListDelegate::setTableView(ScanTableView *newView)
+void ListDelegate::setTableView(QTableView *newView)
 {
-    if (const ScanTableView *before = view())
+    if (const QTableView *before = view())
         before->viewport()->removeEventFilter(this);
     m_view = newView;
     if (newView)
         newView->viewport()->installEventFilter(this);
 }
 
-ScanTableView *ListDelegate::view() const
+QTableView *ListDelegate::view() const
 {
-    return qobject_cast<ScanTableView *>(m_view.data());
+    return qobject_cast<QTableView *>(m_view.data());
 }
 
 void ListDelegate::setSearchKeyword(const QString &keyword)
@@ -123,15 +124,28 @@ QSize ListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInd
     return RowLayout::sizeHint();
 }
 
+bool ListDelegate::isRowHovered(int row) const
+{
+    const auto *hovered = qobject_cast<HoveredCell *>(m_view.data());
+    return hovered && hovered->hoverRow() == row;
+}
+
+bool ListDelegate::isCellHovered(const QModelIndex &index) const
+{
+    const auto *hovered = qobject_cast<HoveredCell *>(m_view.data());
+    return hovered && hovered->hoverRow() == index.row()
+        && hovered->hoverColumn() == index.column();
+}
+
 bool ListDelegate::isSorted(int column) const
 {
-    const ScanTableView *table = view();
+    const QTableView *table = view();
     return table && table->horizontalHeader()->sortIndicatorSection() == column;
 }
 
 int ListDelegate::viewportWidth(const QStyleOptionViewItem &option) const
 {
-    const ScanTableView *table = view();
+    const QTableView *table = view();
     return table ? table->viewport()->width() : option.rect.right() + 1;
 }
 
@@ -148,10 +162,9 @@ void ListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     if (m_fontFamily != FontManager::instance()->family())
         retranslate();
 
-    const ScanTableView *table = view();
     const int column = index.column();
     const Cell cell{RowLayout(option.rect, column, option.direction), index, *item,
-                    isSorted(column), table && table->hoverRow() == index.row()};
+                    isSorted(column), isRowHovered(index.row())};
     const DeviceGrid grid(painter);
     {
         const PainterState state(painter);
@@ -255,8 +268,8 @@ void ListDelegate::drawLocation(QPainter *painter, const Cell &cell) const
     const QString text = locationOf(cell.item);
     const QString shown = asPath(texts.elided(text, cell.layout.textWidth, Qt::ElideMiddle),
                                  cell.layout.direction);
-    const bool link = m_pathColumnsActive && cell.rowHovered
-        && view()->hoverColumn() == ScanDataModel::PathColumn && LocationText::isKnown(text);
+    const bool link = m_pathColumnsActive && isCellHovered(cell.index)
+        && LocationText::isKnown(text);
     if (!link) {
         painter->setPen(m_colors.secondaryText);
         texts.draw(painter, cell.layout.text, shown);

@@ -20,7 +20,7 @@
 
 class DeviceGrid;
 class QMouseEvent;
-class ScanTableView;
+class QTableView;
 class TreeItemData;
 
 /// Paints the rows of the list, column by column, and turns mouse events in a cell into signals.
@@ -36,8 +36,8 @@ public:
     explicit ListDelegate(QObject *parent = nullptr);
     ~ListDelegate() override;
 
-    /// Not owned; may be destroyed at any time.
-    void setTableView(ScanTableView *newView);
+    /// Not owned; may be destroyed at any time. Cells are hovered in one that is a HoveredCell.
+    void setTableView(QTableView *newView);
     /// A regular expression; empty: names are plain.
     void setSearchKeyword(const QString &keyword);
     /// Folders may be checked whatever they hold, and show their own state, not their parent's.
@@ -101,7 +101,9 @@ private:
     bool showsLocationImage(const TreeItemData &item) const;
 
     /// Null also for a view that is in its destructor and still sends events.
-    ScanTableView *view() const;
+    QTableView *view() const;
+    bool isRowHovered(int row) const;
+    bool isCellHovered(const QModelIndex &index) const;
     bool isSorted(int column) const;
     bool isFirstColumnShown() const;
     int viewportWidth(const QStyleOptionViewItem &option) const;

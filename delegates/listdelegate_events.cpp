@@ -3,7 +3,6 @@
 #include "delegates/listdelegate.h"
 
 #include "common/translation.h"
-#include "content/scantableview.h"
 #include "delegates/delegateitem.h"
 #include "delegates/locationtext.h"
 #include "model/itemtext.h"
@@ -11,6 +10,7 @@
 #include "platform/item/treeitemdata.h"
 
 #include <QMouseEvent>
+#include <QTableView>
 #include <QTextBrowser>
 
 bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
@@ -20,7 +20,7 @@ bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
             retranslate();
         return false;
     }
-    const ScanTableView *table = view();
+    const QTableView *table = view();
     if (!table || watched != table->viewport())
         return QStyledItemDelegate::eventFilter(watched, event);
     switch (event->type()) {
@@ -43,7 +43,7 @@ bool ListDelegate::eventFilter(QObject *watched, QEvent *event)
 
 bool ListDelegate::isFirstColumnShown() const
 {
-    const ScanTableView *table = view();
+    const QTableView *table = view();
     const int left = table->columnViewportPosition(ScanDataModel::NameColumn);
     const int width = table->columnWidth(ScanDataModel::NameColumn);
     return width > 0 && left < table->viewport()->width() && left + width > 0;
@@ -164,7 +164,7 @@ void ListDelegate::setHoveredImage(const QModelIndex &index)
         return;
     const QModelIndex before = m_hoveredImage;
     m_hoveredImage = index;
-    if (ScanTableView *table = view()) {
+    if (QTableView *table = view()) {
         table->update(before);
         table->update(index);
     }
@@ -172,7 +172,7 @@ void ListDelegate::setHoveredImage(const QModelIndex &index)
 
 void ListDelegate::setCursor(Qt::CursorShape shape)
 {
-    const ScanTableView *table = view();
+    const QTableView *table = view();
     if (table && table->viewport()->cursor().shape() != shape)
         table->viewport()->setCursor(shape);
 }
