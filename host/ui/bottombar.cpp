@@ -2,9 +2,9 @@
 
 #include "host/scan/shownpath.h"
 #include "host/tree/texts.h"
-#include "host/ui/elidedlabel.h"
 #include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
+#include "host/ui/onelinelabel.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -25,11 +25,11 @@ constexpr int WarningSide = 14;
 BottomBar::BottomBar(QWidget *parent)
     : QFrame(parent)
     , m_bar(new QProgressBar(this))
-    , m_counts(new ElidedLabel(this))
-    , m_detail(new ElidedLabel(this))
+    , m_counts(new OneLineLabel(this))
+    , m_detail(new OneLineLabel(this))
     , m_stop(new QPushButton(this))
-    , m_checked(new ElidedLabel(this))
-    , m_checkedDetail(new ElidedLabel(this))
+    , m_checked(new OneLineLabel(this))
+    , m_checkedDetail(new OneLineLabel(this))
     , m_warning(new QLabel(this))
     , m_choose(new QToolButton(this))
     , m_recover(new QPushButton(this))

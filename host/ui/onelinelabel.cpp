@@ -1,4 +1,4 @@
-#include "host/ui/elidedlabel.h"
+#include "host/ui/onelinelabel.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -9,18 +9,18 @@ namespace {
 constexpr int LeastLetters = 6;
 }
 
-QSize ElidedLabel::minimumSizeHint() const
+QSize OneLineLabel::minimumSizeHint() const
 {
     const int least = LeastLetters * fontMetrics().averageCharWidth();
     return {qMin(least, QLabel::minimumSizeHint().width()), QLabel::minimumSizeHint().height()};
 }
 
-bool ElidedLabel::isShort() const
+bool OneLineLabel::isShort() const
 {
     return fontMetrics().horizontalAdvance(text()) > contentsRect().width();
 }
 
-bool ElidedLabel::event(QEvent *event)
+bool OneLineLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && isShort()) {
         QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
@@ -29,7 +29,7 @@ bool ElidedLabel::event(QEvent *event)
     return QLabel::event(event);
 }
 
-void ElidedLabel::paintEvent(QPaintEvent *event)
+void OneLineLabel::paintEvent(QPaintEvent *event)
 {
     if (!isShort()) {
         QLabel::paintEvent(event);

@@ -3,7 +3,7 @@
 #include <QLabel>
 
 /// One line that gives way where the room is short, with the whole text as its tooltip then.
-class ElidedLabel : public QLabel
+class OneLineLabel : public QLabel
 {
     Q_OBJECT
 
