@@ -40,6 +40,6 @@ int TypeAhead::search(const QString &letters, const QAbstractItemModel &model, i
     };
     QModelIndexList found = match(m_typed);
     if (found.isEmpty() && sameLetter)
-        found = match(m_typed.left(1));
+        found = match(QString(m_typed.at(0)));
     return found.isEmpty() ? -1 : found.first().row();
 }

@@ -49,7 +49,8 @@ private:
     static QStringList rows(const ItemDetailView &pane)
     {
         QStringList texts;
-        for (const DataInfoItem *row : pane.findChildren<DataInfoItem *>()) {
+        const auto found = pane.findChildren<DataInfoItem *>();
+        for (const DataInfoItem *row : found) {
             if (!row->isHidden())
                 texts.append(row->title() + QLatin1Char('=') + row->value());
         }
@@ -232,7 +233,8 @@ void TestItemDetailView::chipsWrap()
     QVERIFY(chips.heightForWidth(220) > oneLine);
     QCoreApplication::processEvents();
     const QRect room = chips.findChild<QFrame *>("chipContainerFrame")->rect();
-    for (const QLabel *chip : chips.findChildren<QLabel *>()) {
+    const auto labels = chips.findChildren<QLabel *>();
+    for (const QLabel *chip : labels) {
         if (chip->property("chipLabel").toBool())
             QVERIFY(room.contains(chip->geometry()));
     }

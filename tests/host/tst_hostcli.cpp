@@ -198,7 +198,8 @@ void TestHostCli::recoversWhatIsChecked()
     QCOMPARE(told["signals"].toObject().size(), 11);
 
     QStringList recovered;
-    for (const QJsonValue &value : told["recovered"].toArray()) {
+    const QJsonArray files = told["recovered"].toArray();
+    for (const QJsonValue &value : files) {
         const QJsonObject file = value.toObject();
         const QString path = file["path"].toString();
         recovered.append(path);

@@ -55,7 +55,8 @@ public:
                 m_checked.remove(id);
             return;
         }
-        for (qint64 child : children(id))
+        const auto inside = children(id);
+        for (qint64 child : inside)
             check(child, on);
     }
     void setFilter(const ItemFilter &filter) { m_filter = filter; }
@@ -72,7 +73,8 @@ public:
     qint64 below(qint64 id) const
     {
         qint64 sum = 0;
-        for (qint64 child : children(id))
+        const auto inside = children(id);
+        for (qint64 child : inside)
             sum += 1 + below(child);
         return sum;
     }
@@ -81,7 +83,8 @@ public:
         if (!m_items.value(id).folder && id >= 0)
             return m_items.value(id).size;
         qint64 sum = 0;
-        for (qint64 child : children(id))
+        const auto inside = children(id);
+        for (qint64 child : inside)
             sum += bytes(child);
         return sum;
     }
@@ -260,7 +263,8 @@ void TestTreeChecks::behavesLikeThePlainModel()
         QCOMPARE(tree.placeRoot()->folderSize, model.bytes(-1));
         if (id % 10 != 0)
             continue;
-        for (qint64 shown : model.ids()) {
+        const auto ids = model.ids();
+        for (qint64 shown : ids) {
             if (!model.isShown(shown))
                 continue;
             const ItemRecord *record = model.record(shown);

@@ -72,7 +72,7 @@ bool Wishes::read(const QStringList &arguments, int *exitCode)
     size = sides.size() == 2 ? QSize(sides.at(0).toInt(), sides.at(1).toInt()) : QSize();
     if (size.isEmpty())
         return refuse(QStringLiteral("a size is, for example, 1280x800"));
-    for (const QString &scale : scales) {
+    for (const QString &scale : qAsConst(scales)) {
         if (scale.toDouble() < 1 || scale.toDouble() > 4)
             return refuse(QStringLiteral("a scale lies between 1 and 4"));
     }
