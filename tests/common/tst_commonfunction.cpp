@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeZone>
 #include <QTranslator>
 #include <QWidget>
 
@@ -157,11 +158,14 @@ void TestCommonFunction::dates()
 
     const QByteArray before = qgetenv("TZ");
     qputenv("TZ", zone);
+    const bool there = QTimeZone::systemTimeZoneId() == zone;
     const QString date = CommonFunction::dateText(seconds);
     if (before.isNull())
         qunsetenv("TZ");
     else
         qputenv("TZ", before);
+    if (!there)
+        QSKIP("this system takes its time zone from elsewhere");
     QCOMPARE(date, text);
 }
 

@@ -1,6 +1,7 @@
 #include "common/qssloader.h"
 #include "common/thememanager.h"
 #include "probe.h"
+#include "support/usersettings.h"
 
 #include <QApplication>
 #include <QDir>
@@ -8,7 +9,6 @@
 #include <QJsonArray>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 #include <QWidget>
@@ -80,60 +80,48 @@ private slots:
     void loadsStyleSheets_data();
     void loadsStyleSheets();
     void missingStyleSheetKeepsTheLook();
-
-private:
-    static void writeConfig(const QString &folder, const QString &text);
 };
-
-void TestThemeManager::writeConfig(const QString &folder, const QString &text)
-{
-    QDir(folder).mkpath(QStringLiteral("Zenvoor"));
-    QFile file(folder + QStringLiteral("/Zenvoor/Quarvo.conf"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text.toUtf8());
-}
 
 void TestThemeManager::start_data()
 {
     QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("system");
+    QTest::addColumn<bool>("systemDark");
     QTest::addColumn<int>("theme");
     QTest::addColumn<int>("property");
     QTest::addColumn<bool>("follow");
 
-    QTest::newRow("nothing stored, light") << ""
-                                           << "Adwaita" << 0 << 0 << true;
-    QTest::newRow("nothing stored, dark") << ""
-                                          << "Adwaita:dark" << 1 << 1 << true;
-    QTest::newRow("own theme beats the system") << "followSystemTheme=false\ntheme=1"
-                                                << "Adwaita" << 1 << 1 << false;
-    QTest::newRow("light of its own in a dark system") << "followSystemTheme=false\ntheme=0"
-                                                       << "Adwaita:dark" << 0 << 0 << false;
-    QTest::newRow("following ignores the stored theme") << "followSystemTheme=true\ntheme=1"
-                                                        << "Adwaita" << 0 << 0 << true;
-    QTest::newRow("no follow, no theme") << "followSystemTheme=false"
-                                         << "x:dark" << 0 << 0 << false;
-    QTest::newRow("theme of no name") << "followSystemTheme=false\ntheme=7"
-                                      << "Adwaita" << 7 << 1 << false;
-    QTest::newRow("unreadable theme") << "followSystemTheme=false\ntheme=night"
-                                      << "x:dark" << 0 << 0 << false;
-    QTest::newRow("theme only") << "theme=1"
-                                << "Adwaita" << 0 << 0 << true;
+    QTest::newRow("nothing stored, light") << "" << false << 0 << 0 << true;
+    QTest::newRow("nothing stored, dark") << "" << true << 1 << 1 << true;
+    QTest::newRow("own theme beats the system")
+        << "followSystemTheme=false theme=1" << false << 1 << 1 << false;
+    QTest::newRow("light of its own in a dark system")
+        << "followSystemTheme=false theme=0" << true << 0 << 0 << false;
+    QTest::newRow("following ignores the stored theme")
+        << "followSystemTheme=true theme=1" << false << 0 << 0 << true;
+    QTest::newRow("no follow, no theme") << "followSystemTheme=false" << true << 0 << 0 << false;
+    QTest::newRow("theme of no name")
+        << "followSystemTheme=false theme=7" << false << 7 << 1 << false;
+    QTest::newRow("unreadable theme")
+        << "followSystemTheme=false theme=night" << true << 0 << 0 << false;
+    QTest::newRow("theme only") << "theme=1" << false << 0 << 0 << true;
 }
 
 void TestThemeManager::start()
 {
     QFETCH(QString, stored);
-    QFETCH(QString, system);
+    QFETCH(bool, systemDark);
     QFETCH(int, theme);
     QFETCH(int, property);
     QFETCH(bool, follow);
 
-    QTemporaryDir config;
-    if (!stored.isEmpty())
-        writeConfig(config.path(), QStringLiteral("[General]\n") + stored);
-    const QJsonObject result = Probe::run(
-        {}, {{"XDG_CONFIG_HOME", config.path()}, {"GTK_THEME", system}});
+    UserSettings user;
+    QVector<QPair<QString, QString>> values;
+    const QStringList parts = stored.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &part : parts)
+        values.append({part.section(QLatin1Char('='), 0, 0), part.section(QLatin1Char('='), 1)});
+    user.store(values);
+    user.setSystemDark(systemDark);
+    const QJsonObject result = Probe::run({}, user.environment());
     QVERIFY(!result.isEmpty());
     QCOMPARE(result.value(QStringLiteral("theme")).toInt(), theme);
     QCOMPARE(result.value(QStringLiteral("property")).toInt(), property);
@@ -169,9 +157,8 @@ void TestThemeManager::changes()
     QFETCH(int, savedFollow);
     QFETCH(QJsonArray, signalled);
 
-    QTemporaryDir config;
-    const QJsonObject result = Probe::run(
-        steps, {{"XDG_CONFIG_HOME", config.path()}, {"GTK_THEME", QStringLiteral("Adwaita")}});
+    UserSettings user;
+    const QJsonObject result = Probe::run(steps, user.environment());
     QVERIFY(!result.isEmpty());
     QCOMPARE(result.value(QStringLiteral("theme")).toInt(), theme);
     QCOMPARE(result.value(QStringLiteral("property")).toInt(), property);
@@ -181,8 +168,8 @@ void TestThemeManager::changes()
 
     // what was saved is what the next start finds
     if (savedFollow == 0) {
-        const QJsonObject next = Probe::run(
-            {}, {{"XDG_CONFIG_HOME", config.path()}, {"GTK_THEME", QStringLiteral("x:dark")}});
+        user.setSystemDark(true);
+        const QJsonObject next = Probe::run({}, user.environment());
         QCOMPARE(next.value(QStringLiteral("first")).toInt(), savedTheme);
     }
 }

@@ -93,7 +93,8 @@ void TestTextFit::lookAtWidget(const SeenWidget &seen)
     else if (label->sizeHint().width() > label->width())
         complain(seen.widget->objectName(), label->text(), label->sizeHint().width(),
                  label->width());
-    if (label->fontMetrics().height() > label->height())
+    constexpr int Leading = 1; // a stand-in font may ask for more room than its letters take
+    if (label->fontMetrics().height() > label->height() + Leading)
         complain(seen.widget->objectName(), label->text(), label->fontMetrics().height(),
                  label->height());
 }

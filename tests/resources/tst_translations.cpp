@@ -217,6 +217,8 @@ void TestTranslations::languages()
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 
     // and the program can load what the build made of it
+    if (stem == QLatin1String(s_stems[1]) && !HOST_IS_BUILT)
+        return;
     QTranslator translator;
     const QString compiled = QCoreApplication::applicationDirPath()
         + QLatin1String("/translations/") + stem.section(QLatin1Char('/'), -1) + QLatin1Char('_')
@@ -298,6 +300,8 @@ void TestTranslations::plurals()
     QFETCH(int, number);
     QFETCH(QString, text);
 
+    if (!HOST_IS_BUILT)
+        QSKIP("the host is not part of this build");
     QTranslator translator;
     QVERIFY(
         translator.load(QStringLiteral("quarvo-host_") + code,
@@ -324,6 +328,8 @@ void TestTranslations::wordsOfQt()
         const QString source = it.key().section(QLatin1Char('/'), 1);
         QCOMPARE(machinery(it->forms.value(0)), machinery(source));
     }
+    if (!HOST_IS_BUILT)
+        QSKIP("the host is not part of this build");
     QTranslator translator;
     QVERIFY(
         translator.load(QStringLiteral("qtbase_") + code,
@@ -351,6 +357,9 @@ void TestTranslations::cataloguesKnowTheSources()
     QVERIFY(QFile::copy(original, copy));
     QProcess update;
     update.setWorkingDirectory(QLatin1String(SOURCE_FOLDER));
+    if (QSysInfo::productType() == QLatin1String("windows")
+        && !QStringLiteral(LUPDATE).endsWith(QLatin1String(".exe")))
+        QSKIP("built for another system than the one that has lupdate");
     update.start(QStringLiteral(LUPDATE),
                  arguments.split(QLatin1Char(' ')) << QStringLiteral("-ts") << copy);
     QVERIFY2(update.waitForFinished(UpdateMs), qPrintable(update.errorString()));
