@@ -48,6 +48,13 @@ set(SCAN_SANITIZER_ENVIRONMENT
     "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp")
 
+# A DLL is called by its name on every Windows compiler, MinGW's "lib" in front of it or not.
+function(scan_plain_name target)
+    if(WIN32)
+        set_target_properties(${target} PROPERTIES PREFIX "")
+    endif()
+endfunction()
+
 # scan_add_test(NAME [SOURCES ...] [LIBS ...] [TIMEOUT seconds])
 # tests/<folder>/NAME.cpp with Qt Test, headless and under a time limit. SOURCES are further files.
 function(scan_add_test name)

@@ -30,9 +30,11 @@ fail() {
 
 is_installed() { dpkg-query -W -f '${db:Status-Abbrev}' "$1" 2>/dev/null | grep -q '^ii'; }
 
+# install_packages [GROUPS]: what package_groups lists, or another function like it.
 install_packages() {
+    local groups=${1:-package_groups}
     local all missing=() lines=() reason packages package lacking log="$root/build/setup.log"
-    all=$(package_groups | cut -d'|' -f2 | tr '\n' ' ')
+    all=$("$groups" | cut -d'|' -f2 | tr '\n' ' ')
     [ -z "${QUARVO_SKIP_SETUP:-}" ] || return 0
     command -v dpkg-query >/dev/null && command -v apt-get >/dev/null \
         || fail "no apt here; install the like of these and set QUARVO_SKIP_SETUP=1: $all"
@@ -45,7 +47,7 @@ install_packages() {
         [ ${#lacking[@]} -eq 0 ] && continue
         missing+=("${lacking[@]}")
         lines+=("  ${lacking[*]} ($reason)")
-    done < <(package_groups)
+    done < <("$groups")
     [ ${#missing[@]} -eq 0 ] && return 0
 
     local as_root=()
