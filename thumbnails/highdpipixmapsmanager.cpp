@@ -6,7 +6,6 @@
 #include <QEvent>
 #include <QFile>
 #include <QLabel>
-#include <QMutexLocker>
 #include <QSettings>
 #include <QTimer>
 #include <QtConcurrent>
@@ -76,7 +75,7 @@ void HighDpiPixmapsManager::startAnalysisPixmapItemList()
     for (int i = 0; i < SpriteSheets::Count && !skipped; ++i) {
         // Images, for pixmaps belong to the GUI thread.
         QVector<QImage> frames = SpriteSheets::cut(SpriteSheets::layout(SpriteSheets::Sheet(i)));
-        QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         m_cut[size_t(i)] = std::move(frames);
     }
     qDebug() << "startAnalysisPixmapItemList end";
@@ -89,7 +88,7 @@ QVector<QPixmap> HighDpiPixmapsManager::frames(SpriteSheets::Sheet sheet)
         return frames;
     QVector<QImage> cut;
     {
-        QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         cut = std::exchange(m_cut[size_t(sheet)], {});
     }
     frames.reserve(cut.size());

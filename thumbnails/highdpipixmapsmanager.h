@@ -3,12 +3,12 @@
 #include "common/highdpipixmapsbutton.h"
 #include "thumbnails/spritesheets.h"
 
-#include <QMutex>
 #include <QObject>
 #include <QPixmap>
 #include <QVector>
 
 #include <array>
+#include <mutex>
 
 class QLabel;
 
@@ -60,7 +60,7 @@ private:
 
     const Look m_look;
     bool m_preloads = false;
-    QMutex m_mutex; ///< guards m_cut alone
+    std::mutex m_mutex; ///< guards m_cut alone
     std::array<QVector<QImage>, SpriteSheets::Count> m_cut;
     std::array<QVector<QPixmap>, SpriteSheets::Count> m_frames;
 };
