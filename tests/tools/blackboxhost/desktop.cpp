@@ -1,0 +1,115 @@
+#include "desktop.h"
+
+#include "hand.h"
+#include "report.h"
+#include "stage.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFontInfo>
+#include <QIcon>
+#include <QPainter>
+#include <QPushButton>
+
+namespace {
+
+constexpr int IconSide = 64;
+
+/// Where a card has the icon of its type.
+QImage iconOn(const Side &side, const QString &name)
+{
+    const QImage card = side.pictureOf(side.index(name));
+    return card.copy((card.width() - IconSide) / 2, 9, IconSide, IconSide);
+}
+
+bool isDrawnOn(const QImage &icon)
+{
+    for (int y = 0; y < icon.height(); ++y) {
+        for (int x = 0; x < icon.width(); ++x) {
+            if (icon.pixel(x, y) != icon.pixel(0, 0))
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+void provideDesktopIcons(const QString &folder)
+{
+    const QString theme = folder + QStringLiteral("/proof");
+    QFile index(theme + QStringLiteral("/index.theme"));
+    QImage icon(IconSide, IconSide, QImage::Format_ARGB32_Premultiplied);
+    icon.fill(Qt::transparent);
+    QPainter(&icon).fillRect(8, 16, 48, 32, Qt::darkMagenta);
+    if (!QDir().mkpath(theme + QStringLiteral("/64x64")) || !index.open(QIODevice::WriteOnly)
+        || !icon.save(theme + QStringLiteral("/64x64/text-vcard.png")))
+        qFatal("no place for an icon theme");
+    index.write("[Icon Theme]\nName=proof\nDirectories=64x64\n[64x64]\nSize=64\n");
+    index.close();
+    QIcon::setThemeSearchPaths({folder});
+    QIcon::setThemeName(QStringLiteral("proof"));
+}
+
+void proveDesktopIcons(Stage &stage)
+{
+    stage.begin();
+    const QImage own = iconOn(stage.scan, stage.card.unknown->name);
+    const QImage ofDesktop = iconOn(stage.scan, stage.card.contact->name);
+    Report::tell(isDrawnOn(own), QStringLiteral("a file of no type has the general icon"));
+    Report::tell(isDrawnOn(ofDesktop) && ofDesktop != own,
+                 QStringLiteral("a type of the desktop has the desktop's icon"));
+}
+
+void proveFonts(Stage &stage)
+{
+    stage.begin();
+    const auto nameOn = [&](const QString &name) {
+        const QImage card = stage.scan.pictureOf(stage.scan.index(name));
+        return card.copy(0, card.height() - 42, card.width(), 22);
+    };
+    const QImage one = nameOn(QStringLiteral("IMG_0028.JPG"));
+    const QImage other = nameOn(QStringLiteral("IMG_0031.JPG")); // as many letters
+    Report::tell(isDrawnOn(one) && one != other, QStringLiteral("names are written in letters"),
+                 QFontInfo(stage.scan.child("sizeButton")->font()).family());
+    const QString text = stage.scan.child<QPushButton>("sizeButton")->text();
+    Report::tell(text == QLatin1String("Size"), QStringLiteral("the catalogue has the texts"),
+                 text);
+}
+
+void takePictures(Stage &stage, const QString &folder)
+{
+    QDir().mkpath(folder);
+    stage.answer();
+    stage.begin();
+    const auto take = [&](const QString &name) {
+        const QString file = folder + QLatin1Char('/') + name + QStringLiteral(".png");
+        Report::tell(stage.window.grab().save(file), QStringLiteral("picture"), file);
+    };
+    for (const QString &name : {QStringLiteral("IMG_0002.JPG"), QStringLiteral("MVI_0061.MP4")}) {
+        Hand::click(stage.scan.view()->viewport(),
+                    Hand::placeOn(stage.scan.view(), stage.scan.index(name), Hand::OnCheckBox));
+    }
+    for (const THEMETYPE theme : {LightTheme, DarkTheme}) {
+        const QString suffix = theme == DarkTheme ? QStringLiteral("-dark")
+                                                  : QStringLiteral("-light");
+        stage.view->updateTheme(theme);
+        stage.view->setViewMode(View::GridView);
+        Report::happens([&] {
+            return theme == DarkTheme
+                || stage.ear.hasHeard("signalSaveThumbnail(TreeItemData*)",
+                                      QStringLiteral("IMG_0020.JPG"));
+        });
+        QCoreApplication::processEvents();
+        take(QStringLiteral("grid") + suffix);
+        stage.view->setViewMode(View::ListWithDetailView);
+        const TreeItemData *item = stage.card.file(QStringLiteral("IMG_0004.JPG"));
+        Hand::click(stage.scan.view()->viewport(),
+                    Hand::placeOn(stage.scan.view(), stage.scan.index(item->name), Hand::OnName));
+        Report::happens([&] { return !item->metaData.isEmpty(); });
+        QCoreApplication::processEvents();
+        take(QStringLiteral("list") + suffix);
+    }
+    stage.view->updateTheme(LightTheme);
+}
