@@ -19,6 +19,21 @@ constexpr int OutlineInsetX = 4;
 constexpr int OutlineInsetY = 2;
 constexpr qreal OutlineRadius = 8;
 
+/// A hidden header. The stock one repaints the sections of the current row, and computes the places
+/// of a million sections for it.
+class HiddenRowHeader : public QHeaderView
+{
+public:
+    explicit HiddenRowHeader(QWidget *parent)
+        : QHeaderView(Qt::Vertical, parent)
+    {
+        hide();
+    }
+
+protected:
+    void currentChanged(const QModelIndex &, const QModelIndex &) override { }
+};
+
 } // namespace
 
 ScanTableView::ScanTableView(QWidget *parent)
@@ -32,7 +47,7 @@ ScanTableView::ScanTableView(QWidget *parent)
     viewport()->setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
     viewport()->setAttribute(Qt::WA_Hover);
-    verticalHeader()->hide();
+    setVerticalHeader(new HiddenRowHeader(this));
     setVerticalScrollMode(ScrollPerPixel);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false); // Tab leads on to the pane
@@ -71,7 +86,8 @@ void ScanTableView::repaintMatching(int role, qint64 id)
 
 void ScanTableView::repaintRow(int row)
 {
-    viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+    if (isVisible()) // the place of a row is not worth computing else
+        viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
 }
 
 void ScanTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)

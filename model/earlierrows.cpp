@@ -2,18 +2,13 @@
 
 #include <algorithm>
 
-void EarlierRows::note(const RowSort::Order &order, size_t folders, size_t files)
+void EarlierRows::begin(size_t folders, size_t files)
 {
-    if (!m_expected) {
-        forget();
-        return;
-    }
-    m_order = order;
-    m_left.clear();
-    m_folders = m_foldersNow = folders;
-    m_files = m_filesNow = files;
-    m_expected = false;
-    m_known = true;
+    const bool expected = m_expected;
+    forget();
+    m_known = expected;
+    m_folders = folders;
+    m_files = files;
 }
 
 void EarlierRows::leaves(size_t position, Guard &&guard)
@@ -21,10 +16,12 @@ void EarlierRows::leaves(size_t position, Guard &&guard)
     m_left.emplace_back(quint32(position), std::move(guard));
 }
 
-void EarlierRows::noteParts(size_t folders, size_t files)
+void EarlierRows::end(RowSort::Order &&order, size_t foldersNow, size_t filesNow)
 {
-    m_foldersNow = folders;
-    m_filesNow = files;
+    if (m_known)
+        m_order = std::move(order);
+    m_foldersNow = foldersNow;
+    m_filesNow = filesNow;
 }
 
 EarlierRows::Places EarlierRows::placesOf(const Runs &rows) const

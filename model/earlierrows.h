@@ -27,12 +27,12 @@ public:
     void forget() { *this = EarlierRows(); }
     bool isKnown() const { return m_known; }
 
-    /// A change begins. \a order: position by row before it; empty: the same. Unless it is
-    /// expected, nothing is kept of it.
-    void note(const RowSort::Order &order, size_t folders, size_t files);
-    /// What was at \a position will not be there any more. In any order, after note().
+    /// A change begins, of so many records. Unless it is expected, nothing is kept of it.
+    void begin(size_t folders, size_t files);
+    /// What was at \a position will not be there any more. In any order, after begin().
     void leaves(size_t position, Guard &&guard);
-    void noteParts(size_t folders, size_t files);
+    /// The change is done. \a order: position by row before it; empty: the same.
+    void end(RowSort::Order &&order, size_t foldersNow, size_t filesNow);
 
     struct Places
     {

@@ -12,19 +12,25 @@ constexpr quint32 FirstMask = (1u << FirstBits) - 1;
 constexpr quint32 OtherMask = (1u << OtherBits) - 1;
 
 /// A letter beyond the basic plane only says that there is one.
+ushort foldedBeyondAscii(QChar letter)
+{
+    return letter.isSurrogate() ? ushort(0) : letter.toCaseFolded().unicode();
+}
+
+// No branch that depends on the case: a wrong guess stops the processor, which reads ahead.
 ushort folded(QChar letter)
 {
     const ushort unit = letter.unicode();
-    if (unit < 0x80)
-        return unit >= 'A' && unit <= 'Z' ? ushort(unit + ('a' - 'A')) : unit;
-    return letter.isSurrogate() ? ushort(0) : letter.toCaseFolded().unicode();
+    constexpr uint Letters = 'Z' - 'A' + 1;
+    const uint isCapital = uint(unit - 'A') < Letters;
+    return unit < 0x80 ? ushort(unit + isCapital * ('a' - 'A')) : foldedBeyondAscii(letter);
 }
 
 } // namespace
 
-quint32 NameLetters::of(const QString &name)
+quint32 NameLetters::of(QStringView name)
 {
-    const int size = name.size();
+    const int size = int(name.size());
     if (size == 0)
         return 0;
     quint32 letters = folded(name.at(0)) & FirstMask;

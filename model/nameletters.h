@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 
 /// What a million names are looked through for without reading them: a few bits for each of the
 /// first letters, whatever their case. Names that begin alike have the same bits; a name with the
 /// right bits is still to be read.
 namespace NameLetters {
 
-quint32 of(const QString &name);
+quint32 of(QStringView name);
 
 /// The bits of all names that begin with \a text, however they are written.
 class Pattern

@@ -1,23 +1,18 @@
 #include "model/scandatamodel.h"
 
 #include "common/translation.h"
-#include "model/inparallel.h"
 #include "model/itemtext.h"
-#include "model/nameletters.h"
 #include "model/spokentext.h"
 
 #include <QFileInfo>
 #include <QIcon>
 
 #include <algorithm>
-#include <atomic>
 
 namespace {
 
 constexpr int TextAlignment = Qt::AlignLeft | Qt::AlignVCenter;
 constexpr int NumberAlignment = Qt::AlignRight | Qt::AlignVCenter;
-
-constexpr size_t WorthTwoThreads = 100'000; // rows to look at
 
 const char *const s_headerKeys[ScanDataModel::ColumnCount] = {"name", "size", "type",
                                                               "date_modified", "path"};
@@ -51,9 +46,9 @@ ScanDataModel::~ScanDataModel() = default;
 TreeItemData *ScanDataModel::itemAt(int row) const
 {
     const QMutexLocker lock(&m_lock);
-    if (row < 0 || size_t(row) >= m_items.size())
+    if (row < 0 || size_t(row) >= m_records.size())
         return nullptr;
-    return guardAt(size_t(row)).data();
+    return m_records.at(positionOf(size_t(row)));
 }
 
 TreeItemData *ScanDataModel::itemAt(const QModelIndex &index) const
@@ -61,68 +56,48 @@ TreeItemData *ScanDataModel::itemAt(const QModelIndex &index) const
     return index.model() == this ? itemAt(index.row()) : nullptr;
 }
 
-template <typename Matches>
-int ScanDataModel::findRow(Matches matches) const
+int ScanDataModel::firstRow(const std::vector<size_t> &positions) const
 {
-    const QMutexLocker lock(&m_lock);
-    // along the records as they lie in memory: in the order of the rows each one would be a jump
-    const size_t count = m_items.size();
-    std::atomic<bool> settled{false}; // by the first half: nothing comes earlier
-    const auto positions = [&](size_t from, size_t end) {
-        std::vector<size_t> found;
-        for (size_t position = from; position < end && !settled; ++position) {
-            const TreeItemData *const item = m_items[position].data();
-            if (!item || !matches(item))
-                continue;
-            found.push_back(position);
-            if (m_order.empty()) {
-                if (from == 0)
-                    settled = true;
-                break;
-            }
-        }
-        return found;
-    };
-    std::vector<size_t> upper;
-    std::vector<size_t> lower;
-    runInParallel(
-        count >= WorthTwoThreads, [&] { upper = positions(0, count / 2); },
-        [&] { lower = positions(count / 2, count); });
-    upper.insert(upper.end(), lower.begin(), lower.end());
-    if (upper.empty())
+    if (positions.empty())
         return -1;
     if (m_order.empty())
-        return int(upper.front());
-    const auto row = std::find_if(m_order.begin(), m_order.end(), [&](size_t position) {
-        return std::binary_search(upper.begin(), upper.end(), position);
-    });
+        return int(positions.front());
+    const auto row = positions.size() == 1
+        ? std::find(m_order.begin(), m_order.end(), positions.front())
+        : std::find_if(m_order.begin(), m_order.end(), [&](size_t position) {
+              return std::binary_search(positions.begin(), positions.end(), position);
+          });
     return int(row - m_order.begin());
+}
+
+int ScanDataModel::rowOfId(RecordId which, qint64 id) const
+{
+    const QMutexLocker lock(&m_lock);
+    return firstRow(m_records.positionsOfId(which, id, m_order.empty()));
 }
 
 int ScanDataModel::rowOfFileId(qint64 fileId) const
 {
-    return findRow([fileId](const TreeItemData *item) { return item->fileId == fileId; });
+    return rowOfId(RecordId::File, fileId);
 }
 
 int ScanDataModel::rowOfSecondaryId(qint64 secondaryId) const
 {
-    return findRow(
-        [secondaryId](const TreeItemData *item) { return item->secondaryId == secondaryId; });
+    return rowOfId(RecordId::Secondary, secondaryId);
 }
 
 int ScanDataModel::rowOf(const TreeItemData *item) const
 {
-    return findRow([item](const TreeItemData *listed) { return listed == item; });
+    const QMutexLocker lock(&m_lock);
+    return firstRow(m_records.positionsOf(item, m_order.empty()));
 }
 
 void ScanDataModel::setAllCheckStates(int state)
 {
     {
         const QMutexLocker lock(&m_lock);
-        for (const Guard &item : m_items) {
-            if (item)
-                item->checkState = state;
-        }
+        m_records.visit(0, m_records.size(),
+                        [state](TreeItemData &item) { item.checkState = state; });
     }
     refreshCheckStates();
 }
@@ -160,7 +135,7 @@ QModelIndex ScanDataModel::parent(const QModelIndex &) const
 int ScanDataModel::rowCount(const QModelIndex &) const
 {
     const QMutexLocker lock(&m_lock);
-    return int(m_items.size());
+    return int(m_records.size());
 }
 
 int ScanDataModel::columnCount(const QModelIndex &) const
@@ -280,17 +255,17 @@ int ScanDataModel::rowOfName(const QString &text, int from) const
     const auto search = [&](size_t row, size_t end) {
         for (; row < end; ++row) {
             const size_t position = positionOf(row);
-            if (!pattern.fits(m_letters[position]))
+            if (!m_records.mayBegin(position, pattern))
                 continue;
-            const TreeItemData *const item = m_items[position].data();
+            const TreeItemData *const item = m_records.at(position);
             if (item && item->name.startsWith(text, Qt::CaseInsensitive))
                 return int(row);
         }
         return -1;
     };
     const size_t first = size_t(from);
-    const int row = search(first, m_items.size());
-    return row >= 0 ? row : search(0, std::min(first, m_items.size()));
+    const int row = search(first, m_records.size());
+    return row >= 0 ? row : search(0, std::min(first, m_records.size()));
 }
 
 QVariant ScanDataModel::headerData(int section, Qt::Orientation orientation, int role) const

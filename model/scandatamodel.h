@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/earlierrows.h"
+#include "model/listedrecords.h"
 #include "model/recoverability.h"
 #include "model/rowsort.h"
 #include "model/scanitemrole.h"
@@ -45,7 +46,8 @@ public:
     /// The record of a row; null when the row is outside or its record has died.
     TreeItemData *itemAt(int row) const;
     TreeItemData *itemAt(const QModelIndex &index) const;
-    /// First row with this id; -1 when there is none.
+    /// First row that had this id when it was listed and still has it, or else the first one that
+    /// has it now; -1 when there is none.
     int rowOfFileId(qint64 fileId) const;
     int rowOfSecondaryId(qint64 secondaryId) const;
 
@@ -53,7 +55,7 @@ public:
     /// How many of the first rows show the same records as before the last openFolder(): row
     /// numbers below it still hold. Never too many; all of them when the folder has only grown.
     int unchangedPrefix() const { return m_unchangedPrefix; }
-    /// Row of a record, -1 when it is not listed. \a item is compared, never read: it may be dead.
+    /// Row of a living record, -1 when it is not listed.
     int rowOf(const TreeItemData *item) const;
     /// The next openFolder() or sort() notes where its rows come from, until forgetRows().
     void rememberRows() { m_earlier.expect(); }
@@ -93,13 +95,12 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
-    using Guard = QPointer<TreeItemData>;
-
     /// Takes over the children of \a folder, keeping the guards that still fit.
     void takeChildren(const TreeItemData &folder);
-    /// Makes the \a size guards from \a first on those of \a children. Returns how many of the
-    /// first ones were right already.
-    size_t replacePart(size_t first, size_t size, const QList<TreeItemData *> &children);
+    /// How many of the first rows show the same records as with \a previous, the order of before,
+    /// when there were \a before records, of which the first \a same of each part have stayed.
+    int prefixSince(const RowSort::Order &previous, const ListedRecords::Parts &before,
+                    const ListedRecords::Parts &same) const;
     /// The first row from \a from on, and then from the top, whose name begins with \a text.
     int rowOfName(const QString &text, int from) const;
     RowSort::Order sortedOrder(const RowSort::Order &known) const;
@@ -108,16 +109,13 @@ private:
     QVariant displayText(const TreeItemData &item, int column) const;
     QString spokenDescription(const TreeItemData &item) const;
 
-    const Guard &guardAt(size_t row) const { return m_items[positionOf(row)]; }
     size_t positionOf(size_t row) const { return m_order.empty() ? row : m_order[row]; }
-    template <typename Matches>
-    int findRow(Matches matches) const;
+    int firstRow(const std::vector<size_t> &positions) const;
+    int rowOfId(RecordId which, qint64 id) const;
 
-    std::vector<Guard> m_items;     ///< in the host's order: folders, then files
-    std::vector<quint32> m_letters; ///< of the names, as they were when the records were listed
-    RowSort::Order m_order;         ///< position in m_items by row; empty: the same
+    ListedRecords m_records;
+    RowSort::Order m_order; ///< position in m_records by row; empty: the same
     EarlierRows m_earlier;
-    size_t m_folderCount = 0;
     int m_sortRole = NameRole;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     RecoverabilitySource m_recoverability;
@@ -131,9 +129,14 @@ template <typename Visit>
 void ScanDataModel::visitRows(int first, int last, Visit visit) const
 {
     const QMutexLocker lock(&m_lock);
-    const size_t end = size_t(qBound(0, last + 1, int(m_items.size())));
-    for (size_t row = size_t(qMax(0, first)); row < end; ++row) {
-        if (TreeItemData *const item = guardAt(row).data())
+    const size_t end = size_t(qBound(0, last + 1, int(m_records.size())));
+    const size_t from = size_t(qMax(0, first));
+    if (m_order.empty()) {
+        m_records.visit(from, end, visit);
+        return;
+    }
+    for (size_t row = from; row < end; ++row) {
+        if (TreeItemData *const item = m_records.at(m_order[row]))
             visit(*item);
     }
 }

@@ -1,5 +1,4 @@
 // Which records are listed, and in which order.
-#include "model/nameletters.h"
 #include "model/recordcheck.h"
 #include "model/scandatamodel.h"
 
@@ -38,23 +37,13 @@ bool isOfUnknownContents(const TreeItemData &folder)
     return folder.itemCount < 0 && folder.extraCount < 1;
 }
 
-TreeItemData *plausible(TreeItemData *record)
-{
-    return isPlausible(record) ? record : nullptr;
-}
-
-quint32 lettersOf(const TreeItemData *record)
-{
-    return record ? NameLetters::of(record->name) : 0;
-}
-
 } // namespace
 
 void ScanDataModel::openFolder(TreeItemData *folder)
 {
     if (!isPlausible(folder) || isOfUnknownContents(*folder))
         return;
-    const Guard guard(folder);
+    const QPointer<TreeItemData> guard(folder);
     const QMutexLocker lock(&m_lock);
     m_rootType = rootTypeOf(folder);
     beginResetModel();
@@ -69,10 +58,8 @@ void ScanDataModel::clear()
 {
     const QMutexLocker lock(&m_lock);
     beginResetModel();
-    std::vector<Guard>().swap(m_items);
-    std::vector<quint32>().swap(m_letters);
+    m_records.clear();
     RowSort::Order().swap(m_order);
-    m_folderCount = 0;
     m_unchangedPrefix = 0;
     m_earlier.forget();
     endResetModel();
@@ -85,93 +72,57 @@ void ScanDataModel::clearSort()
 
 void ScanDataModel::takeChildren(const TreeItemData &folder)
 {
-    const size_t oldFolders = m_folderCount;
-    const size_t oldFiles = m_items.size() - m_folderCount;
-    const size_t newFolders = size_t(folder.childFolders.size());
-    const size_t newFiles = size_t(folder.childFiles.size());
-    const size_t newSize = newFolders + newFiles;
-    if (m_items.capacity() < newSize) {
-        m_items.reserve(newSize + newSize / 8); // a scan comes back for more
-        m_letters.reserve(newSize + newSize / 8);
-    }
-    m_earlier.note(m_order, oldFolders, oldFiles);
-    const size_t sameFiles = replacePart(oldFolders, oldFiles, folder.childFiles);
-    const size_t sameFolders = replacePart(0, oldFolders, folder.childFolders);
-    m_folderCount = newFolders;
-    m_earlier.noteParts(newFolders, newFiles);
+    const ListedRecords::Parts before = m_records.parts();
+    m_earlier.begin(before.folders, before.files);
+    const ListedRecords::Parts same = m_records.replace(folder, m_earlier);
+    const ListedRecords::Parts now = m_records.parts();
 
     RowSort::Order previous;
     previous.swap(m_order);
-    const size_t oldSize = oldFolders + oldFiles;
-    const auto oldPosition = [&](size_t row) { return previous.empty() ? row : previous[row]; };
-    // where a position of before is now
-    const auto moved = [&](size_t position) {
-        return position < oldFolders ? position : position - oldFolders + newFolders;
-    };
     if (m_sorted) {
-        RowSort::Order known;
-        const bool grown = newFolders >= oldFolders && newFiles >= oldFiles;
-        if (grown && !previous.empty()) {
-            known.resize(oldSize);
-            std::transform(previous.begin(), previous.end(), known.begin(),
-                           [&](quint32 position) { return quint32(moved(position)); });
+        const bool grown = now.folders >= before.folders && now.files >= before.files;
+        if (!grown || previous.empty()) {
+            m_order = sortedOrder({});
+        } else if (now.folders == before.folders) {
+            m_order = sortedOrder(previous);
+        } else {
+            RowSort::Order known = previous;
+            for (quint32 &position : known) {
+                if (position >= before.folders)
+                    position += quint32(now.folders - before.folders);
+            }
+            m_order = sortedOrder(known);
         }
-        m_order = sortedOrder(known);
     }
-
-    const size_t comparable = std::min(oldSize, newSize);
-    size_t row = 0;
-    for (; row < comparable; ++row) {
-        const size_t position = oldPosition(row);
-        const bool same = position < oldFolders ? position < sameFolders
-                                                : position - oldFolders < sameFiles;
-        if (!same || moved(position) != positionOf(row))
-            break;
-    }
-    m_unchangedPrefix = int(row);
+    m_unchangedPrefix = prefixSince(previous, before, same);
+    m_earlier.end(std::move(previous), now.folders, now.files);
 }
 
-size_t ScanDataModel::replacePart(size_t first, size_t size, const QList<TreeItemData *> &children)
+int ScanDataModel::prefixSince(const RowSort::Order &previous, const ListedRecords::Parts &before,
+                               const ListedRecords::Parts &same) const
 {
-    const size_t newSize = size_t(children.size());
-    const size_t common = std::min(size, newSize);
-    size_t same = common;
-    for (size_t i = 0; i < common; ++i) {
-        TreeItemData *const child = plausible(children.at(int(i)));
-        // the guard, not the address: another record may live where one has died
-        if (m_items[first + i].data() == child)
-            continue;
-        if (m_earlier.isKnown())
-            m_earlier.leaves(first + i, std::move(m_items[first + i]));
-        m_items[first + i] = child;
-        m_letters[first + i] = lettersOf(child);
-        same = std::min(same, i);
+    const ListedRecords::Parts now = m_records.parts();
+    const bool foldersStayed = same.folders == before.folders && now.folders == before.folders;
+    if (previous.empty() && m_order.empty())
+        return int(same.folders + (foldersStayed ? same.files : 0));
+    const size_t comparable = std::min(before.total(), now.total());
+    size_t row = 0;
+    for (; row < comparable; ++row) {
+        size_t position = previous.empty() ? row : previous[row];
+        const bool isFolder = position < before.folders;
+        if (isFolder ? position >= same.folders : position - before.folders >= same.files)
+            break;
+        if (!isFolder)
+            position += now.folders - before.folders;
+        if (position != positionOf(row))
+            break;
     }
-    const auto begin = m_items.begin() + std::ptrdiff_t(first);
-    const auto letters = m_letters.begin() + std::ptrdiff_t(first);
-    if (newSize < size) {
-        for (size_t i = newSize; i < size && m_earlier.isKnown(); ++i)
-            m_earlier.leaves(first + i, std::move(m_items[first + i]));
-        m_items.erase(begin + std::ptrdiff_t(newSize), begin + std::ptrdiff_t(size));
-        m_letters.erase(letters + std::ptrdiff_t(newSize), letters + std::ptrdiff_t(size));
-    } else if (newSize > size) {
-        auto guard = m_items.insert(begin + std::ptrdiff_t(size), newSize - size, Guard());
-        auto letter = m_letters.insert(letters + std::ptrdiff_t(size), newSize - size, 0);
-        for (size_t i = size; i < newSize; ++i) {
-            TreeItemData *const child = plausible(children.at(int(i)));
-            *guard++ = child;
-            *letter++ = lettersOf(child);
-        }
-    }
-    return same;
+    return int(row);
 }
 
 RowSort::Order ScanDataModel::sortedOrder(const RowSort::Order &known) const
 {
-    std::vector<const TreeItemData *> records(m_items.size());
-    std::transform(m_items.begin(), m_items.end(), records.begin(),
-                   [](const Guard &guard) { return guard.data(); });
-    return RowSort::sorted(records, m_sortRole, m_sortOrder, known);
+    return RowSort::sorted(m_records.all(), m_sortRole, m_sortOrder, known);
 }
 
 EarlierRows::Runs ScanDataModel::rowsNow(const EarlierRows::Runs &before) const
@@ -181,10 +132,10 @@ EarlierRows::Runs ScanDataModel::rowsNow(const EarlierRows::Runs &before) const
         return before;
     const EarlierRows::Places places = m_earlier.placesOf(before);
     EarlierRows::Runs runs;
-    for (size_t row = 0; row < m_items.size(); ++row) {
+    for (size_t row = 0; row < m_records.size(); ++row) {
         const size_t position = positionOf(row);
         const bool found = places.positions[position]
-            || (!places.elsewhere.isEmpty() && places.elsewhere.contains(m_items[position].data()));
+            || (!places.elsewhere.isEmpty() && places.elsewhere.contains(m_records.at(position)));
         if (!found)
             continue;
         if (!runs.isEmpty() && runs.last().second == int(row) - 1)
@@ -205,11 +156,13 @@ void ScanDataModel::sort(int column, Qt::SortOrder order)
     emit layoutAboutToBeChanged({}, SortHint);
     {
         const QMutexLocker lock(&m_lock);
-        m_earlier.note(m_order, m_folderCount, m_items.size() - m_folderCount);
+        const ListedRecords::Parts parts = m_records.parts();
+        m_earlier.begin(parts.folders, parts.files);
         m_unchangedPrefix = 0;
         RowSort::Order previous = sortedOrder({});
         previous.swap(m_order);
         remapPersistentIndexes(previous);
+        m_earlier.end(std::move(previous), parts.folders, parts.files);
     }
     emit layoutChanged({}, SortHint);
 }

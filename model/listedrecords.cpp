@@ -1,0 +1,203 @@
+#include "model/listedrecords.h"
+
+#include "model/earlierrows.h"
+#include "model/inparallel.h"
+#include "model/recordcheck.h"
+
+#include <QStringView>
+
+#include <array>
+#include <atomic>
+
+namespace {
+
+constexpr size_t WorthTwoThreads = 100'000; // records to look at
+
+TreeItemData *plausible(TreeItemData *record)
+{
+    return isPlausible(record) ? record : nullptr;
+}
+
+} // namespace
+
+ListedRecords::Parts ListedRecords::replace(const TreeItemData &folder, EarlierRows &earlier)
+{
+    const Parts before = parts();
+    Parts same;
+    same.files = replacePart(before.folders, before.files, folder.childFiles, earlier);
+    same.folders = replacePart(0, before.folders, folder.childFolders, earlier);
+    m_folderCount = size_t(folder.childFolders.size());
+    return same;
+}
+
+void ListedRecords::clear()
+{
+    // each guard gives up its share in a counter of its own
+    const bool worthwhile = size() >= WorthTwoThreads;
+    Blocks<Guard> half = m_guards.takeLastHalf();
+    runInParallel(
+        worthwhile, [&half] { half.resize(0); }, [this] { m_guards.resize(0); });
+    *this = ListedRecords();
+}
+
+size_t ListedRecords::replacePart(size_t first, size_t size, const QList<TreeItemData *> &children,
+                                  EarlierRows &earlier)
+{
+    const size_t newSize = size_t(children.size());
+    const size_t common = std::min(size, newSize);
+    const size_t same = firstDifference(first, common, children);
+    for (size_t i = same; i < common; i = difference(first, i + 1, common, children)) {
+        if (earlier.isKnown())
+            earlier.leaves(first + i, std::move(m_guards[first + i]));
+        list(first, i, i + 1, children);
+    }
+    if (newSize < size) {
+        for (size_t i = newSize; i < size && earlier.isKnown(); ++i)
+            earlier.leaves(first + i, std::move(m_guards[first + i]));
+        m_guards.remove(first + newSize, size - newSize);
+        m_letters.remove(first + newSize, size - newSize);
+        m_marks.remove(first + newSize, size - newSize);
+    } else if (newSize > size) {
+        m_guards.insert(first + size, newSize - size);
+        m_letters.insert(first + size, newSize - size);
+        m_marks.insert(first + size, newSize - size);
+        list(first, size, newSize, children);
+    }
+    return same;
+}
+
+size_t ListedRecords::firstDifference(size_t first, size_t end,
+                                      const QList<TreeItemData *> &children) const
+{
+    const size_t middle = end / 2;
+    size_t upper = 0;
+    size_t lower = 0;
+    runInParallel(
+        end >= WorthTwoThreads, [&] { upper = difference(first, 0, middle, children); },
+        [&] { lower = difference(first, middle, end, children); });
+    return upper < middle ? upper : lower;
+}
+
+size_t ListedRecords::difference(size_t first, size_t from, size_t end,
+                                 const QList<TreeItemData *> &children) const
+{
+    const auto child = children.constBegin();
+    while (from < end) {
+        const Guard *const guards = &m_guards[first + from];
+        const size_t count = m_guards.adjacent(first + from, first + end);
+        for (size_t i = 0; i < count; ++i) {
+            TreeItemData *const record = child[int(from + i)];
+            // the guard, not the address: another record may live where one has died
+            const TreeItemData *const listed = guards[i].data();
+            if (listed != record && listed != plausible(record))
+                return from + i;
+        }
+        from += count;
+    }
+    return end;
+}
+
+void ListedRecords::list(size_t first, size_t from, size_t end,
+                         const QList<TreeItemData *> &children)
+{
+    // A processor fetches many records at once as long as it is asked for little of each, and for
+    // nothing atomic, as the count of a guard is. So a batch is gone through three times.
+    constexpr size_t Batch = 64;
+    std::array<QStringView, Batch> names;
+    const auto child = children.constBegin();
+    while (from < end) {
+        const size_t count = std::min(Batch, end - from);
+        for (size_t i = 0; i < count; ++i) {
+            const TreeItemData *const record = plausible(child[int(from + i)]);
+            names[i] = record ? QStringView(record->name) : QStringView();
+            m_marks[first + from + i] = record ? IdMarks::of(*record) : quint16(0);
+        }
+        for (size_t i = 0; i < count; ++i)
+            m_letters[first + from + i] = NameLetters::of(names[i]);
+        for (size_t i = 0; i < count; ++i)
+            m_guards[first + from + i] = plausible(child[int(from + i)]);
+        from += count;
+    }
+}
+
+template <typename Matches>
+std::vector<size_t> ListedRecords::positionsByMark(const IdMarks::Pattern &pattern, bool one,
+                                                   Matches matches) const
+{
+    std::vector<size_t> found;
+    for (size_t from = 0; from < size();) {
+        const quint16 *const marks = &m_marks[from];
+        const size_t count = m_marks.adjacent(from, size());
+        for (size_t i = 0; i < count; ++i) {
+            if (!pattern.fits(marks[i]))
+                continue;
+            const TreeItemData *const record = at(from + i);
+            if (!record || !matches(*record))
+                continue;
+            found.push_back(from + i);
+            if (one)
+                return found;
+        }
+        from += count;
+    }
+    return found;
+}
+
+template <typename Matches>
+std::vector<size_t> ListedRecords::positionsOneByOne(bool one, Matches matches) const
+{
+    std::atomic<bool> settled{false}; // by the first half: nothing comes earlier
+    const auto positions = [&](size_t from, size_t end) {
+        std::vector<size_t> found;
+        for (size_t position = from; position < end && !settled; ++position) {
+            const TreeItemData *const record = at(position);
+            if (!record || !matches(*record))
+                continue;
+            found.push_back(position);
+            if (one) {
+                if (from == 0)
+                    settled = true;
+                break;
+            }
+        }
+        return found;
+    };
+    std::vector<size_t> found;
+    std::vector<size_t> later;
+    runInParallel(
+        size() >= WorthTwoThreads, [&] { found = positions(0, size() / 2); },
+        [&] { later = positions(size() / 2, size()); });
+    if (!one || found.empty())
+        found.insert(found.end(), later.begin(), later.end());
+    return found;
+}
+
+std::vector<size_t> ListedRecords::positionsOfId(RecordId which, qint64 id, bool one) const
+{
+    const auto hasId = [which, id](const TreeItemData &record) {
+        return idOf(record, which) == id;
+    };
+    const std::vector<size_t> found = positionsByMark(IdMarks::Pattern(which, id), one, hasId);
+    return found.empty() ? positionsOneByOne(one, hasId) : found;
+}
+
+std::vector<size_t> ListedRecords::positionsOf(const TreeItemData *record, bool one) const
+{
+    const auto isIt = [record](const TreeItemData &listed) { return &listed == record; };
+    const std::vector<size_t> found = positionsByMark(
+        IdMarks::Pattern(RecordId::File, record->fileId), one, isIt);
+    return found.empty() ? positionsOneByOne(one, isIt) : found;
+}
+
+std::vector<const TreeItemData *> ListedRecords::all() const
+{
+    std::vector<const TreeItemData *> records(size());
+    const auto collect = [&](size_t from, size_t end) {
+        for (; from < end; ++from)
+            records[from] = at(from);
+    };
+    runInParallel(
+        size() >= WorthTwoThreads, [&] { collect(0, size() / 2); },
+        [&] { collect(size() / 2, size()); });
+    return records;
+}
