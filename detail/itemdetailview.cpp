@@ -319,6 +319,7 @@ void ItemDetailView::loadStyleSheet()
 void ItemDetailView::retranslate()
 {
     ui->openButton->setText(translatedKey("preview"));
+    ui->openButton->setFont(FontManager::instance()->getFont(false));
     ui->namelabel->setFont(FontManager::instance()->getFont(true));
     m_path->setTitle(translatedKey("path"));
     m_status->setTitle(translatedKey("file_status"));

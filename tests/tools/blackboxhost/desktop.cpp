@@ -73,6 +73,17 @@ void proveFonts(Stage &stage)
     const QImage other = nameOn(QStringLiteral("IMG_0031.JPG")); // as many letters
     Report::tell(isDrawnOn(one) && one != other, QStringLiteral("names are written in letters"),
                  QFontInfo(stage.scan.child("sizeButton")->font()).family());
+    stage.view->setViewMode(View::ListWithDetailView);
+    const QString family = stage.scan.child("sizeButton")->font().family();
+    QStringList others;
+    const auto widgets = stage.scan.frame()->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!widget->property("text").toString().isEmpty() && widget->isVisible()
+            && !widget->font().family().startsWith(family))
+            others << widget->objectName();
+    }
+    Report::tell(others.isEmpty(), QStringLiteral("all texts in one family"),
+                 others.isEmpty() ? family : others.join(QLatin1Char(' ')));
     const QString text = stage.scan.child<QPushButton>("sizeButton")->text();
     Report::tell(text == QLatin1String("Size"), QStringLiteral("the catalogue has the texts"),
                  text);
