@@ -38,5 +38,17 @@ start_wine() {
     ln -sf /usr/share/fonts/truetype/open-sans/*.ttf /usr/share/fonts/opentype/noto/NotoSansCJK-*.ttc \
         /usr/share/fonts/truetype/noto/NotoSans{,Arabic,Devanagari,Thai}-{Regular,Bold}.ttf "$1/fonts"
     wineboot --init >"$root/build/wine.log" 2>&1 </dev/null || fail "Wine does not start; see build/wine.log"
+    # the families that Windows has and Wine lacks; its own choice for them may well be a serif
+    cat >"$WINEPREFIX/fonts.reg" <<'FONTS'
+REGEDIT4
+
+[HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]
+"Segoe UI"="Open Sans"
+"Segoe UI Semibold"="Open Sans Semibold"
+"Yu Gothic UI"="Noto Sans CJK JP"
+"Malgun Gothic"="Noto Sans CJK KR"
+"Microsoft JhengHei UI"="Noto Sans CJK TC"
+FONTS
+    wine regedit /S "Z:$WINEPREFIX/fonts.reg" >>"$root/build/wine.log" 2>&1 </dev/null || true
     wineserver --persistent=900 >/dev/null 2>&1 </dev/null || true
 }
