@@ -24,6 +24,8 @@
 
 namespace {
 
+constexpr int LongSort = 100000; // rows; from here on it takes longer than a frame
+
 /// The pointer says that a long sort is under way.
 class BusyPointer
 {
@@ -42,7 +44,6 @@ public:
     Q_DISABLE_COPY(BusyPointer)
 
 private:
-    static constexpr int LongSort = 100000;
     const bool m_shown;
 };
 
@@ -209,7 +210,17 @@ void ContentViews::recall()
 
 void ContentViews::sort(int column, Qt::SortOrder order)
 {
-    const BusyPointer busy(m_model->rowCount());
+    {
+        const BusyPointer busy(m_model->rowCount());
+        sortRows(column, order);
+    }
+    // A click that waits comes before any paint, and would make it two sorts without a picture.
+    if (m_model->rowCount() >= LongSort)
+        placeInUse().itemView()->viewport()->repaint();
+}
+
+void ContentViews::sortRows(int column, Qt::SortOrder order)
+{
     constexpr int Many = 1000;
     ViewPlace &grid = *m_grid->view();
     ViewPlace &table = *m_list->table();

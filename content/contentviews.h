@@ -47,7 +47,8 @@ public:
 
     /// What assistive technology calls the views.
     void setName(const QString &name);
-    /// Sorts the model; whatever is selected stays selected.
+    /// Sorts the model; whatever is selected stays selected. The new order of many rows is painted
+    /// at once.
     void sort(int column, Qt::SortOrder order);
 
     void setAssessmentFinished(bool finished);
@@ -80,6 +81,7 @@ private:
     void orderTabs();
     void describeItems();
     void connectTouch();
+    void sortRows(int column, Qt::SortOrder order);
     ViewPlace &placeInUse() const;
     /// Of the view in use; the other takes its selection over when it is shown.
     ViewMemory &memory() { return m_mode == GridOnly ? m_gridMemory : m_tableMemory; }

@@ -1,12 +1,15 @@
 // Space on large selections, and what a host gets to read of them.
+#include "content/checktoggle.h"
 #include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
 #include "content/thumbnailgrid.h"
 #include "model/headerview.h"
+#include "model/scandatamodel.h"
 #include "model/scanitemrole.h"
 #include "support/recordtree.h"
 
 #include <QPushButton>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -34,6 +37,9 @@ private slots:
     void selectionIsReadBackByRows();
     void largeSelectionStaysThroughASort_data();
     void largeSelectionStaysThroughASort();
+    void togetherIsLikeOneByOne();
+    void everyLongSortIsSeen_data();
+    void everyLongSortIsSeen();
 
 private:
     QAbstractItemView *view(int mode)
@@ -231,6 +237,125 @@ void TestBulkChecks::largeSelectionStaysThroughASort()
     if (mode == 0) { // the multi-selection has gone with its items, too
         view(mode)->selectionModel()->clearSelection();
         QCOMPARE(widget->selectedItems(), expected);
+    }
+}
+
+// Random rows of a random tree: the same states as when each is written through the model, told of
+// in few ranges that leave nothing out.
+void TestBulkChecks::togetherIsLikeOneByOne()
+{
+    QRandomGenerator random(5);
+    for (int round = 0; round < 150; ++round) {
+        RecordTree bulk;
+        RecordTree single;
+        const int count = 1 + random.bounded(120);
+        const int mostlyChecked = random.bounded(2);
+        for (int i = 0; i < count; ++i) {
+            const int kind = random.bounded(4);
+            const int state = mostlyChecked && random.bounded(100) ? int(Qt::Checked)
+                                                                   : random.bounded(3);
+            const int inside = random.bounded(2);
+            for (RecordTree *each : {&bulk, &single}) {
+                TreeItemData *item = kind == 0 ? each->addFolder(QStringLiteral("folder"))
+                                               : each->addFile(QStringLiteral("file.jpg"));
+                item->checkState = state;
+                if (kind == 0)
+                    item->itemCount = inside;
+            }
+        }
+        ScanDataModel together;
+        ScanDataModel oneByOne;
+        together.openFolder(&bulk.root);
+        oneByOne.openFolder(&single.root);
+        for (int i = random.bounded(4); i > 0; --i) {
+            const int row = random.bounded(count);
+            if (TreeItemData *const item = together.itemAt(row)) {
+                bulk.kill(item);
+                single.kill(oneByOne.itemAt(row));
+            }
+        }
+        QVector<SelectedRows::Run> runs;
+        for (int row = random.bounded(4); row < count; row += 2 + random.bounded(9)) {
+            const int last = qMin(count - 1, row + random.bounded(6));
+            runs.append({row, last});
+            row = last;
+        }
+
+        std::vector<int> targets;
+        bool allChecked = true;
+        for (const SelectedRows::Run &run : qAsConst(runs)) {
+            for (int row = run.first; row <= run.last; ++row) {
+                const TreeItemData *const item = oneByOne.itemAt(row);
+                if (!item || (item->kind == 1 && item->itemCount == 0))
+                    continue;
+                targets.push_back(row);
+                allChecked = allChecked && item->checkState == Qt::Checked;
+            }
+        }
+        const int wanted = allChecked ? Qt::Unchecked : Qt::Checked;
+        for (const int row : targets)
+            oneByOne.setData(oneByOne.index(row, 0), wanted, Qt::CheckStateRole);
+
+        QSignalSpy changed(&together, &QAbstractItemModel::dataChanged);
+        const CheckToggle::Result result = CheckToggle::toggle(together, runs);
+        QCOMPARE(int(result.state), wanted);
+        QCOMPARE(result.items.size(), targets.size());
+        QVERIFY(changed.count() <= 16);
+        QItemSelection told;
+        for (const QList<QVariant> &signal : qAsConst(changed)) {
+            for (int row = signal.at(0).toModelIndex().row();
+                 row <= signal.at(1).toModelIndex().row(); ++row)
+                told.select(together.index(row, 0), together.index(row, 0));
+        }
+        for (size_t i = 0; i < targets.size(); ++i) {
+            QCOMPARE(result.items[i].data(), together.itemAt(targets[i]));
+            QVERIFY(told.contains(together.index(targets[i], 0)));
+        }
+        for (int row = 0; row < count; ++row) {
+            if (const TreeItemData *const item = oneByOne.itemAt(row))
+                QCOMPARE(together.itemAt(row)->checkState, item->checkState);
+        }
+    }
+}
+
+void TestBulkChecks::everyLongSortIsSeen_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("grid") << 0;
+    QTest::newRow("list") << 2;
+}
+
+// Two clicks that wait for the same moment: painting never stands still for both.
+void TestBulkChecks::everyLongSortIsSeen()
+{
+    QFETCH(int, mode);
+    constexpr int Long = 100000;
+    tree->addFiles(Long - Many);
+    widget->setViewMode(mode);
+    widget->updateData(&tree->root, QString());
+    QCoreApplication::processEvents();
+    class PaintCounter : public QObject
+    {
+    public:
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            count += event->type() == QEvent::Paint;
+            return false;
+        }
+        int count = 0;
+    } paints;
+    view(mode)->viewport()->installEventFilter(&paints);
+    int busy = 0;
+    connect(model(), &QAbstractItemModel::layoutAboutToBeChanged, &paints, [&] {
+        const QCursor *const pointer = QGuiApplication::overrideCursor();
+        busy += pointer && pointer->shape() == Qt::WaitCursor;
+    });
+    for (int click = 1; click <= 2; ++click) {
+        emit widget->findChild<HeaderView *>()->signalSortClicked(click == 1 ? SizeAscending
+                                                                             : SizeDescending);
+        QCOMPARE(paints.count, click);
+        QCOMPARE(busy, click);
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 }
 
