@@ -3,6 +3,7 @@
 #include "thumbnails/smallpng.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QThread>
 
@@ -93,6 +94,9 @@ QSize targetSize(const QSize &size)
 
 QImage load(const QString &path, const QSize &room)
 {
+    // a pipe of that name would have the worker wait for whoever writes into it
+    if (!QFileInfo(path).isFile())
+        return {};
     InterruptibleFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};

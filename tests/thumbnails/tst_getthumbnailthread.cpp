@@ -2,10 +2,13 @@
 #include "thumbnails/getthumbnailthread.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
+#include <QBuffer>
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QTest>
 #include <QThread>
 
+#include <cstring>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -61,7 +64,9 @@ private slots:
     void pauseEmptiesTheQueue();
     void pauseWakesTheSleeper();
     void pauseBeforeTheLoopBegins();
+    void endsInTheMiddleOfAPicture_data();
     void endsInTheMiddleOfAPicture();
+    void aPipeHoldsNothingUp();
 
 private:
     TemporaryRoot m_root;
@@ -141,15 +146,31 @@ void tst_GetThumbnailThread::pauseBeforeTheLoopBegins()
     }
 }
 
+void tst_GetThumbnailThread::endsInTheMiddleOfAPicture_data()
+{
+    QTest::addColumn<bool>("jpeg");
+    QTest::newRow("bitmap") << false;
+    QTest::newRow("photo of 36 megapixels") << true;
+}
+
 void tst_GetThumbnailThread::endsInTheMiddleOfAPicture()
 {
+    QFETCH(bool, jpeg);
     RunningWorker running;
     std::vector<std::unique_ptr<Photo>> photos;
+    QByteArray huge;
+    if (jpeg) {
+        QImage image(6000, 6000, QImage::Format_Grayscale8);
+        for (int y = 0; y < image.height(); ++y)
+            std::memset(image.scanLine(y), y * 7919 % 256, size_t(image.width()));
+        QBuffer buffer(&huge);
+        QVERIFY(image.save(&buffer, "jpg", 50));
+    }
     for (int i = 0; i < 20; ++i) {
         photos.push_back(std::make_unique<Photo>(200 + i));
         const auto &photo = *photos.back();
-        QVERIFY(
-            TemporaryRoot::saveSlowOne(ThumbnailFiles::plainImage(photo.fileId, photo.extension)));
+        const QString path = ThumbnailFiles::plainImage(photo.fileId, photo.extension);
+        QVERIFY(jpeg ? TemporaryRoot::write(path, huge) : TemporaryRoot::saveSlowOne(path));
         QVERIFY(running.worker.enqueue(photos.back().get()));
     }
     running.thread.start();
@@ -160,6 +181,19 @@ void tst_GetThumbnailThread::endsInTheMiddleOfAPicture()
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     QCoreApplication::processEvents();
     QCOMPARE(running.misses.size(), 0); // given up is not missing
+}
+
+void tst_GetThumbnailThread::aPipeHoldsNothingUp()
+{
+    RunningWorker running;
+    Photo photo(300);
+    const QString path = ThumbnailFiles::plainImage(photo.fileId, photo.extension);
+    QVERIFY(TemporaryRoot::write(path, {}) && QFile::remove(path));
+    if (QProcess::execute(QStringLiteral("mkfifo"), {path}) != 0)
+        QSKIP("no pipes with names here");
+    QVERIFY(running.worker.enqueue(&photo));
+    running.thread.start();
+    QTRY_COMPARE(running.misses, QVector<qint64>{300});
 }
 
 QTEST_MAIN(tst_GetThumbnailThread)
