@@ -12,13 +12,13 @@ QString ElideCache::elided(const QString &text, int width, const QFontMetrics &m
 {
     if (text.size() <= m_neverCut)
         return text;
-    const QString key = text + QLatin1Char('|') + QString::number(width);
-    if (const QString *cached = m_cache.object(key))
-        return *cached;
-
     const QString shown = text.size() <= LongText
         ? text
         : text.left(LongText / 2) + text.right(LongText / 2);
+    const QString key = shown + QLatin1Char('|') + QString::number(width);
+    if (const QString *cached = m_cache.object(key))
+        return *cached;
+
     const QString result = metrics.horizontalAdvance(shown) < width
         ? shown
         : metrics.elidedText(shown, m_mode, width);

@@ -4,12 +4,13 @@
 #include "platform/item/treeitemdata.h"
 #include "platform/system/system.h"
 
+#include <QCache>
 #include <QHash>
-#include <QMap>
 
 namespace {
 
 constexpr int FileKind = 2;
+constexpr int MostIconKilobytes = 8 * 1024;
 const char *const s_defaultFamily = "Default";
 
 struct ExtensionFamily
@@ -93,20 +94,21 @@ QPixmap picture(const char *family, FileTypeIcons::Size size)
     return *found;
 }
 
-/// The desktop's own icon; asked for once an extension and size.
+/// The desktop's own icon; asked for once an extension and size. A damaged card may hold more
+/// extensions than anyone would look at twice: the ones not shown for longest are given up.
 QPixmap desktopIcon(const QString &upperExtension, FileTypeIcons::Size size)
 {
     const qreal scale = CommonFunction::getScaleFactor();
     const int side = qRound(int(size) * scale);
-    static QMap<QPair<QString, int>, QPixmap> icons;
+    static QCache<QPair<QString, int>, QPixmap> icons(MostIconKilobytes);
     const QPair<QString, int> key(upperExtension, side);
-    auto found = icons.find(key);
-    if (found == icons.end()) {
-        QPixmap icon = System::fileTypeIcon(upperExtension, side);
-        icon.setDevicePixelRatio(scale);
-        found = icons.insert(key, icon);
-    }
-    return *found;
+    if (const QPixmap *const known = icons.object(key))
+        return *known;
+    QPixmap icon = System::fileTypeIcon(upperExtension, side);
+    icon.setDevicePixelRatio(scale);
+    const qint64 bytes = qint64(icon.width()) * icon.height() * 4 + upperExtension.size() * 2;
+    icons.insert(key, new QPixmap(icon), 1 + int(bytes / 1024));
+    return icon;
 }
 
 } // namespace
