@@ -8,6 +8,7 @@
 #include "model/scantableheader.h"
 #include "popups/rightmenudialog.h"
 #include "support/recordtree.h"
+#include "thumbnails/scanpluginpreviewmanager.h"
 #include "walkhand.h"
 
 #include <QLoggingCategory>
@@ -40,13 +41,15 @@ unsigned fromEnvironment(const char *name, unsigned fallback)
 
 } // namespace
 
-class TestRandomWalk : public QObject
+/// One walk, over a content area of its own. The same seed goes the same way.
+class Walk : public QObject
 {
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void walk();
+public:
+    explicit Walk(unsigned seed);
+    /// Until so many events have been sent. What is wrong, if anything is.
+    QString run(int events);
+    /// Of all that has been done and seen.
+    uint digest() const { return m_digest; }
 
 private:
     using Id = WalkHand::Id;
@@ -104,8 +107,14 @@ private:
 
     void step();
     QString disagreement();
-    void say(const QString &what) { m_log.append(what); }
+    void say(const QString &what)
+    {
+        m_log.append(what);
+        m_digest = qHash(what, m_digest);
+    }
 
+    const unsigned m_seed;
+    uint m_digest = 0;
     std::mt19937 m_random;
     std::unique_ptr<RecordTree> m_tree;
     std::unique_ptr<SDCardContentDataWidget> m_widget;
@@ -136,16 +145,9 @@ private:
     int m_heldScroll = -1;
 };
 
-void TestRandomWalk::initTestCase()
-{
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
-    QApplication::setKeyboardInputInterval(3600 * 1000); // how fast a walk types is no matter here
-    qRegisterMetaType<Qt::CheckState>("Qt::CheckState");
-}
-
 // The world --------------------------------------------------------------------------------------
 
-void TestRandomWalk::newTree()
+void Walk::newTree()
 {
     say(QStringLiteral("new tree"));
     auto old = std::move(m_tree); // which outlives the change: hosts do it so
@@ -161,7 +163,7 @@ void TestRandomWalk::newTree()
     m_hand.only({});
 }
 
-void TestRandomWalk::grow()
+void Walk::grow()
 {
     const int count = 1 + random(m_tree->root.childFiles.size() < 60 ? 30 : 6);
     for (int i = 0; i < count; ++i) {
@@ -177,7 +179,7 @@ void TestRandomWalk::grow()
     handOver();
 }
 
-void TestRandomWalk::kill()
+void Walk::kill()
 {
     if (m_tree->root.childFiles.size() < 8)
         return;
@@ -189,7 +191,7 @@ void TestRandomWalk::kill()
     m_tree->kill(victim);
 }
 
-void TestRandomWalk::handOver()
+void Walk::handOver()
 {
     say(QStringLiteral("results"));
     const QPoint before = origin();
@@ -227,7 +229,7 @@ void TestRandomWalk::handOver()
         m_bandOrigin += origin() - before;
 }
 
-void TestRandomWalk::changeSort()
+void Walk::changeSort()
 {
     if (!m_hand.dead.empty())
         handOver();
@@ -238,7 +240,7 @@ void TestRandomWalk::changeSort()
     m_hand.sorted(listed());
 }
 
-void TestRandomWalk::switchView()
+void Walk::switchView()
 {
     if (!m_hand.dead.empty())
         handOver();
@@ -254,7 +256,7 @@ void TestRandomWalk::switchView()
     m_widget->setViewMode(mode);
 }
 
-std::vector<WalkHand::Id> TestRandomWalk::shownIds() const
+std::vector<WalkHand::Id> Walk::shownIds() const
 {
     std::vector<Id> ids;
     for (int row = 0; row < view().model()->rowCount(); ++row) {
@@ -264,7 +266,7 @@ std::vector<WalkHand::Id> TestRandomWalk::shownIds() const
     return ids;
 }
 
-std::vector<WalkHand::Id> TestRandomWalk::treeInOrder() const
+std::vector<WalkHand::Id> Walk::treeInOrder() const
 {
     QList<TreeItemData *> items = m_tree->root.childFolders + m_tree->root.childFiles;
     const auto comesBefore = [this](const TreeItemData *a, const TreeItemData *b) {
@@ -295,7 +297,7 @@ std::vector<WalkHand::Id> TestRandomWalk::treeInOrder() const
     return ids;
 }
 
-std::vector<WalkHand::Id> TestRandomWalk::listed()
+std::vector<WalkHand::Id> Walk::listed()
 {
     const std::vector<Id> shown = shownIds();
     if (shown != treeInOrder())
@@ -306,19 +308,19 @@ std::vector<WalkHand::Id> TestRandomWalk::listed()
 
 // What it sees -----------------------------------------------------------------------------------
 
-ViewPlace &TestRandomWalk::place() const
+ViewPlace &Walk::place() const
 {
     if (isGrid())
         return *m_grid;
     return *m_table;
 }
 
-TreeItemData *TestRandomWalk::recordAt(const QModelIndex &index) const
+TreeItemData *Walk::recordAt(const QModelIndex &index) const
 {
     return static_cast<ScanDataModel *>(m_grid->model())->itemAt(index);
 }
 
-WalkHand::Id TestRandomWalk::idAt(const QPoint &pos) const
+WalkHand::Id Walk::idAt(const QPoint &pos) const
 {
     for (int row = 0; row < int(m_hand.order.size()); ++row) {
         QRect rect = rectOfRow(row);
@@ -330,7 +332,7 @@ WalkHand::Id TestRandomWalk::idAt(const QPoint &pos) const
     return WalkHand::Nothing;
 }
 
-WalkHand::Id TestRandomWalk::visibleItem()
+WalkHand::Id Walk::visibleItem()
 {
     std::vector<Id> seen;
     const QRect area = view().viewport()->rect();
@@ -342,7 +344,7 @@ WalkHand::Id TestRandomWalk::visibleItem()
     return seen.empty() ? Id(WalkHand::Nothing) : seen[size_t(random(int(seen.size())))];
 }
 
-QPoint TestRandomWalk::spotOn(Id id, bool checkBox) const
+QPoint Walk::spotOn(Id id, bool checkBox) const
 {
     if (isGrid()) {
         const QRect card = rectOf(id);
@@ -355,7 +357,7 @@ QPoint TestRandomWalk::spotOn(Id id, bool checkBox) const
     return {size.left() + 45, size.center().y()};
 }
 
-QPoint TestRandomWalk::blankSpot()
+QPoint Walk::blankSpot()
 {
     const QRect area = view().viewport()->rect();
     for (int attempt = 0; attempt < 8; ++attempt) {
@@ -366,7 +368,7 @@ QPoint TestRandomWalk::blankSpot()
     return {-1, -1};
 }
 
-WalkHand::Id TestRandomWalk::keyTarget(int key) const
+WalkHand::Id Walk::keyTarget(int key) const
 {
     const int rows = int(m_hand.order.size());
     const int from = m_hand.rowOf(m_hand.current);
@@ -436,8 +438,8 @@ WalkHand::Id TestRandomWalk::keyTarget(int key) const
 
 // The hand ---------------------------------------------------------------------------------------
 
-void TestRandomWalk::send(QEvent::Type type, const QPoint &pos, Qt::MouseButton button,
-                          Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+void Walk::send(QEvent::Type type, const QPoint &pos, Qt::MouseButton button,
+                Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
 {
     QWidget *viewport = view().viewport();
     QMouseEvent event(type, pos, viewport->mapToGlobal(pos), button, buttons, modifiers);
@@ -446,7 +448,7 @@ void TestRandomWalk::send(QEvent::Type type, const QPoint &pos, Qt::MouseButton 
     ++m_sent;
 }
 
-void TestRandomWalk::sendKey(int key, Qt::KeyboardModifiers modifiers, const QString &text)
+void Walk::sendKey(int key, Qt::KeyboardModifiers modifiers, const QString &text)
 {
     QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
     QApplication::sendEvent(&view(), &press);
@@ -455,7 +457,7 @@ void TestRandomWalk::sendKey(int key, Qt::KeyboardModifiers modifiers, const QSt
     ++m_sent;
 }
 
-Qt::KeyboardModifiers TestRandomWalk::randomModifiers()
+Qt::KeyboardModifiers Walk::randomModifiers()
 {
     switch (random(4)) {
     case 0:
@@ -467,7 +469,7 @@ Qt::KeyboardModifiers TestRandomWalk::randomModifiers()
     }
 }
 
-void TestRandomWalk::pressed(Id id, Qt::KeyboardModifiers modifiers, bool wasSelected)
+void Walk::pressed(Id id, Qt::KeyboardModifiers modifiers, bool wasSelected)
 {
     if (modifiers & Qt::ShiftModifier) {
         m_hand.rangeTo(id);
@@ -480,7 +482,7 @@ void TestRandomWalk::pressed(Id id, Qt::KeyboardModifiers modifiers, bool wasSel
     }
 }
 
-void TestRandomWalk::click()
+void Walk::click()
 {
     m_clock += Pause;
     if (chance(12)) {
@@ -523,7 +525,7 @@ void TestRandomWalk::click()
         m_hand.only({id});
 }
 
-void TestRandomWalk::rightClick()
+void Walk::rightClick()
 {
     const Id id = visibleItem();
     if (id == WalkHand::Nothing)
@@ -541,7 +543,7 @@ void TestRandomWalk::rightClick()
         menu->close();
 }
 
-void TestRandomWalk::doubleClick()
+void Walk::doubleClick()
 {
     const Id id = visibleItem();
     if (id == WalkHand::Nothing)
@@ -568,7 +570,7 @@ void TestRandomWalk::doubleClick()
     ++m_opensExpected;
 }
 
-void TestRandomWalk::key()
+void Walk::key()
 {
     static const std::vector<int> keys{Qt::Key_Left, Qt::Key_Right,  Qt::Key_Up,
                                        Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
@@ -621,7 +623,7 @@ void TestRandomWalk::key()
     m_hand.go(to);
 }
 
-void TestRandomWalk::typeAhead()
+void Walk::typeAhead()
 {
     const QChar letter('a' + random(3));
     const bool anew = m_typed.isEmpty() || chance(40);
@@ -652,7 +654,7 @@ void TestRandomWalk::typeAhead()
     m_hand.go(found);
 }
 
-void TestRandomWalk::wheel()
+void Walk::wheel()
 {
     say(QStringLiteral("wheel"));
     const QPointF pos = view().viewport()->rect().center();
@@ -663,7 +665,7 @@ void TestRandomWalk::wheel()
     ++m_sent;
 }
 
-void TestRandomWalk::checkAll()
+void Walk::checkAll()
 {
     auto *button = m_widget->findChild<QPushButton *>(QStringLiteral("allCheckButton"));
     const int state = m_tree->root.checkState == Qt::Checked ? Qt::Unchecked : Qt::Checked;
@@ -676,7 +678,7 @@ void TestRandomWalk::checkAll()
 
 // Rubber band ------------------------------------------------------------------------------------
 
-void TestRandomWalk::startBand()
+void Walk::startBand()
 {
     const QPoint blank = chance(50) ? blankSpot() : QPoint(-1, -1);
     const Id id = blank.x() < 0 ? visibleItem() : Id(WalkHand::Nothing);
@@ -704,7 +706,7 @@ void TestRandomWalk::startBand()
     m_hand.settle();
 }
 
-std::set<WalkHand::Id> TestRandomWalk::touchedByBand() const
+std::set<WalkHand::Id> Walk::touchedByBand() const
 {
     const QRect area = view().viewport()->rect();
     const QPoint from = m_bandOrigin - origin();
@@ -725,7 +727,7 @@ std::set<WalkHand::Id> TestRandomWalk::touchedByBand() const
     return touched;
 }
 
-void TestRandomWalk::moveBand()
+void Walk::moveBand()
 {
     const QRect area = view().viewport()->rect();
     m_bandEnd = chance(20)
@@ -736,7 +738,7 @@ void TestRandomWalk::moveBand()
     followBand();
 }
 
-void TestRandomWalk::followBand()
+void Walk::followBand()
 {
     const QRect area = view().viewport()->rect();
     if (!m_bandShown) {
@@ -769,7 +771,7 @@ void TestRandomWalk::followBand()
         m_hand.current = under;
 }
 
-void TestRandomWalk::endBand()
+void Walk::endBand()
 {
     if (m_bandShown && chance(20)) {
         say(QStringLiteral("Escape from the band"));
@@ -798,7 +800,7 @@ void TestRandomWalk::endBand()
 
 // ------------------------------------------------------------------------------------------------
 
-void TestRandomWalk::step()
+void Walk::step()
 {
     if (m_banding) {
         switch (random(10)) {
@@ -844,7 +846,7 @@ void TestRandomWalk::step()
         newTree();
 }
 
-QString TestRandomWalk::disagreement()
+QString Walk::disagreement()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
     if (!m_complaint.isEmpty())
@@ -895,21 +897,25 @@ QString TestRandomWalk::disagreement()
     return {};
 }
 
-void TestRandomWalk::walk()
+Walk::Walk(unsigned seed)
+    : m_seed(seed)
+    , m_random(seed)
+    , m_widget(std::make_unique<SDCardContentDataWidget>(1))
+    , m_grid(m_widget->findChild<ThumbnailGrid *>())
+    , m_table(m_widget->findChild<ScanTableView *>())
 {
-    const unsigned seed = fromEnvironment("QUARVO_WALK_SEED", DefaultSeed);
-    const int events = int(fromEnvironment("QUARVO_WALK_EVENTS", DefaultEvents));
-    m_random.seed(seed);
-    m_widget = std::make_unique<SDCardContentDataWidget>(1);
-    m_grid = m_widget->findChild<ThumbnailGrid *>();
-    m_table = m_widget->findChild<ScanTableView *>();
     connect(m_widget.get(), &SDCardContentDataWidget::signalDoubleClicked, this,
             [this] { ++m_opens; });
     connect(m_widget.get(), &SDCardContentDataWidget::signalItemDataCheck, this,
             [this] { ++m_checkSignals; });
     m_widget->resize(700, 520);
     m_widget->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_widget.get()));
+}
+
+QString Walk::run(int events)
+{
+    if (!QTest::qWaitForWindowExposed(m_widget.get()))
+        return QStringLiteral("no window");
     newTree();
     QCoreApplication::processEvents();
 
@@ -918,17 +924,57 @@ void TestRandomWalk::walk()
         const QString wrong = disagreement();
         if (!wrong.isEmpty()) {
             const QStringList last = m_log.mid(qMax(0, m_log.size() - 14));
-            QFAIL(qPrintable(QStringLiteral("seed %1, event %2, mode %3: %4\n  %5")
-                                 .arg(seed)
-                                 .arg(m_sent)
-                                 .arg(m_mode)
-                                 .arg(wrong, last.join(QLatin1String("\n  ")))));
+            return QStringLiteral("seed %1, event %2, mode %3: %4\n  %5")
+                .arg(m_seed)
+                .arg(m_sent)
+                .arg(m_mode)
+                .arg(wrong, last.join(QLatin1String("\n  ")));
         }
         if (m_log.size() > 100)
             m_log = m_log.mid(80);
         if (steps % PollEvery == 0 && !m_banding)
             QCoreApplication::processEvents();
     }
+    return {};
+}
+
+class TestRandomWalk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void walk();
+    void sameSeedSameWay();
+};
+
+void TestRandomWalk::initTestCase()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    QApplication::setKeyboardInputInterval(3600 * 1000); // how fast a walk types is no matter here
+    qRegisterMetaType<Qt::CheckState>("Qt::CheckState");
+}
+
+void TestRandomWalk::walk()
+{
+    Walk walk(fromEnvironment("QUARVO_WALK_SEED", DefaultSeed));
+    const QString wrong = walk.run(int(fromEnvironment("QUARVO_WALK_EVENTS", DefaultEvents)));
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+    qInfo("digest %x", walk.digest());
+}
+
+// Or no fault that a walk finds could be looked for.
+void TestRandomWalk::sameSeedSameWay()
+{
+    constexpr int Events = 4000;
+    uint digests[2];
+    for (uint &digest : digests) {
+        ScanPluginPreviewManager::instance()->stop();
+        Walk walk(DefaultSeed + 1);
+        QCOMPARE(walk.run(Events), QString());
+        digest = walk.digest();
+    }
+    QCOMPARE(digests[0], digests[1]);
 }
 
 QTEST_MAIN(TestRandomWalk)
