@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <limits>
 #include <memory>
 #include <numeric>
 
@@ -57,9 +58,12 @@ QString randomText(QRandomGenerator &random, const QString &alphabet, int maxSiz
 
 qint64 randomNumber(QRandomGenerator &random)
 {
-    switch (random.bounded(4)) {
+    switch (random.bounded(5)) {
     case 0:
         return random.bounded(4);
+    case 4:
+        return random.bounded(2) ? std::numeric_limits<qint64>::min()
+                                 : std::numeric_limits<qint64>::max();
     case 1:
         return -qint64(random.generate());
     case 2:
@@ -84,7 +88,9 @@ public:
             record->fileSize = randomNumber(m_random);
             record->folderSize = randomNumber(m_random);
             record->modifiedTime = randomNumber(m_random);
-            records.push_back(m_random.bounded(50) == 0 ? nullptr : record.get());
+            // a dead one has no text, and then all would share no beginning
+            const bool isDead = prefix.isEmpty() && m_random.bounded(50) == 0;
+            records.push_back(isDead ? nullptr : record.get());
             owned.push_back(std::move(record));
         }
     }
@@ -131,11 +137,19 @@ void tst_RowSort::sameAsPlain_data()
     QTest::newRow("longer when lowered") << 3000 << "" << QString::fromUtf8("İiIı̇ßẞ") << 20;
     QTest::newRow("beyond the basic plane")
         << 3000 << "" << (QString::fromUtf8("😀𐐀z") + QChar(0xFFFD) + QChar(0xE000)) << 20;
+    QTest::newRow("where the encoding changes") << 3000 << "" << [] {
+        QString units;
+        for (const ushort unit : {0x7F, 0x80, 0x7FF, 0x800, 0xFFF, 0x1000, 0x2FC0, 0x3000, 0xD7FF,
+                                  0xD800, 0xDFFF, 0xE000, 0xFFFF})
+            units += QChar(unit);
+        return units;
+    }() << 6;
     QTest::newRow("many scripts") << 3000 << "" << QString::fromUtf8("ÄäéΩωЖж文件ü9") << 20;
     // few texts for so many records: these are compared once each
     QTest::newRow("texts that many share") << 9000 << "/Volume/" << QStringLiteral("aAb") << 4;
     QTest::newRow("shared, longer when lowered") << 9000 << "" << QString::fromUtf8("İiIı̇ẞ") << 3;
-    QTest::newRow("enough for two threads") << 50001 << "IMG_" << ascii << 12;
+    QTest::newRow("enough for two threads") << 20001 << "" << ascii << 12;
+    QTest::newRow("two threads, a shared beginning") << 20001 << "/Volume/DCIM/IMG_" << ascii << 12;
 }
 
 void tst_RowSort::sameAsPlain()
