@@ -16,7 +16,7 @@ to take frames from videos|libffmpegthumbnailer-dev
 to make the sample card|dosfstools mtools
 so that texts are visible|fonts-open-sans fonts-noto-core fonts-noto-cjk
 for Qt's own words in other languages|qttranslations5-l10n
-for the benchmarks|libbenchmark-dev
+for the benchmarks|libbenchmark-dev python3
 for tests with other file systems|e2fsprogs exfatprogs
 for tests on a screen without a compositor|xvfb
 GROUPS
