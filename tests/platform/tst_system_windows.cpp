@@ -1,10 +1,13 @@
+#include "platform/system/storage.h"
 #include "platform/system/system.h"
 #include "support/usersettings.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QImage>
 #include <QSet>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QWindow>
 
@@ -22,6 +25,7 @@ private slots:
     void memoryIsWhatWindowsSays();
     void classShadowGoes();
     void pinnedLibraryStays();
+    void namesOfOneFolder();
 };
 
 void TestSystemWindows::colourScheme()
@@ -116,6 +120,24 @@ void TestSystemWindows::pinnedLibraryStays()
     FreeLibrary(library);
     FreeLibrary(library);
     QVERIFY(GetModuleHandleW(L"msimg32.dll"));
+}
+
+void TestSystemWindows::namesOfOneFolder()
+{
+    const QTemporaryDir place;
+    QVERIFY(QDir(place.path()).mkpath(QStringLiteral("Card/DCIM")));
+    const QString card = place.filePath(QStringLiteral("Card"));
+    const QString native = QDir::toNativeSeparators(card);
+    for (const QString &name :
+         {card.toUpper(), native, native + QLatin1Char('\\'), QStringLiteral("\\\\?\\") + native}) {
+        QVERIFY2(System::isSameFile(name, card), qPrintable(name));
+        QVERIFY2(System::isInside(card + QStringLiteral("/DCIM"), name), qPrintable(name));
+        QCOMPARE(System::disksOf(name), System::disksOf(card));
+    }
+    // a whole volume as a device is on the disk of what lies on it
+    const QString volume = QStringLiteral("\\\\.\\") + card.left(2);
+    QVERIFY(!System::isOnMedium(card, QStringLiteral("\\\\.\\PhysicalDrive999")));
+    QVERIFY(System::isOnMedium(card, volume));
 }
 
 QTEST_MAIN(TestSystemWindows)
