@@ -427,7 +427,10 @@ void TestThumbnailGrid::repaintsOnlyWhatChanged()
     QFETCH(int, painted);
     show(1000);
     QCOMPARE(m_grid->visibleRows(), qMakePair(0, 15));
-    m_delegate->painted = 0;
+    do { // a system that has just shown a window soon asks for all of it again
+        m_delegate->painted = 0;
+        QTest::qWait(50);
+    } while (m_delegate->painted > 0);
     emit m_model->dataChanged(m_model->index(first, 0), m_model->index(last, 0));
     QCoreApplication::processEvents();
     QCOMPARE(m_delegate->painted, painted);
