@@ -43,6 +43,23 @@ if(QUARVO_SANITIZE)
     endif()
 endif()
 
+# scan_precompile(TARGET): reads what most files include once, for all targets that ask for it. The
+# first of them brings the headers; the others need no fewer libraries. Not for systems on which
+# libraries and programs are compiled differently.
+option(QUARVO_PRECOMPILE "Precompile headers: a build from nothing is faster" OFF)
+function(scan_precompile target)
+    if(NOT QUARVO_PRECOMPILE)
+        return()
+    endif()
+    get_property(owner GLOBAL PROPERTY SCAN_PRECOMPILED)
+    if(owner)
+        target_precompile_headers(${target} REUSE_FROM ${owner})
+    else()
+        target_precompile_headers(${target} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/precompiled.h")
+        set_property(GLOBAL PROPERTY SCAN_PRECOMPILED ${target})
+    endif()
+endfunction()
+
 # What is Qt's own and not ours to mend; part of every test's environment.
 set(SCAN_SANITIZER_ENVIRONMENT
     "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
@@ -66,6 +83,7 @@ function(scan_add_test name)
     target_link_libraries(${name} PRIVATE scancontent scanimages Qt5::Test scan_warnings ${arg_LIBS})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${QUARVO_BIN_DIR}")
+    scan_precompile(${name})
     add_test(NAME ${name} COMMAND ${name})
     cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
     set_tests_properties(${name} PROPERTIES
@@ -74,12 +92,23 @@ function(scan_add_test name)
         TIMEOUT ${arg_TIMEOUT})
 endfunction()
 
-# scan_add_benchmark(NAME [LIBS ...]): benchmarks/NAME.cpp with Google Benchmark; run by hand.
+# scan_add_benchmark(NAME [LIBS ...] [BRIEFLY arguments]): benchmarks/NAME.cpp with Google Benchmark;
+# run by hand. Where nobody does, on a system that is built for from another one, a test starts it
+# with the arguments that make it brief.
 function(scan_add_benchmark name)
-    cmake_parse_arguments(arg "" "" "LIBS" ${ARGN})
+    cmake_parse_arguments(arg "" "" "LIBS;BRIEFLY" ${ARGN})
     add_executable(${name} ${name}.cpp)
     target_link_libraries(${name} PRIVATE scancontent scanimages benchmark::benchmark scan_warnings ${arg_LIBS})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    scan_precompile(${name})
+    if(CMAKE_CROSSCOMPILING)
+        if(NOT arg_BRIEFLY)
+            set(arg_BRIEFLY --benchmark_list_tests)
+        endif()
+        add_test(NAME ${name} COMMAND ${name} ${arg_BRIEFLY})
+        set_tests_properties(${name} PROPERTIES
+            LABELS benchmarks ENVIRONMENT QT_QPA_PLATFORM=offscreen TIMEOUT 120)
+    endif()
 endfunction()
 
 # scan_export_only(TARGET FILE): what leaves a library is named in the linker's map FILE. Hidden
