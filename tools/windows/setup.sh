@@ -23,16 +23,16 @@ debian_source() {
 # For install_packages: what a Windows build needs beside the native one.
 windows_package_groups() {
     cat <<'GROUPS'
-to build for Windows|g++-mingw-w64-x86-64-posix dpkg-dev
+to build for Windows|g++-mingw-w64-x86-64-posix dpkg-dev perl xz-utils
 to play the animations there|libstb-dev rapidjson-dev
 to run what was built|wine wine64 xvfb xauth
 GROUPS
 }
 
-# start_wine BUILD: one Windows for all tests of a build, started before them: the first program
-# would otherwise start it and be taken for running as long as it does.
+# start_wine BUILD [NAME]: one Windows for all tests of a build, started before them: the first
+# program would otherwise start it and be taken for running as long as it does.
 start_wine() {
-    export WINEPREFIX="$1/wine" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
+    export WINEPREFIX="$1/${2:-wine}" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
     mkdir -p "$WINEPREFIX" "$1/fonts"
     # without a display Qt takes its fonts from one folder
     ln -sf /usr/share/fonts/truetype/open-sans/*.ttf /usr/share/fonts/opentype/noto/NotoSansCJK-*.ttc \
