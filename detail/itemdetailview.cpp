@@ -11,6 +11,7 @@
 #include "detail/metadatatitles.h"
 #include "model/itemtext.h"
 #include "model/recoverability.h"
+#include "model/spokentext.h"
 #include "popups/previewframe.h"
 #include "thumbnails/filetypeicons.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
@@ -318,6 +319,7 @@ void ItemDetailView::loadStyleSheet()
 
 void ItemDetailView::retranslate()
 {
+    ui->scrollArea->verticalScrollBar()->setAccessibleName(SpokenText::scrollBar());
     ui->openButton->setText(translatedKey("preview"));
     ui->openButton->setFont(FontManager::instance()->getFont(false));
     ui->namelabel->setFont(FontManager::instance()->getFont(true));

@@ -174,13 +174,24 @@ void TestAccessibility::everythingHasAName()
     m_tree->root.childFiles.first()->aiScenes = QStringList{"pet", "food"};
     m_tree->root.childFiles.first()->path = QStringLiteral("\\DCIM");
     show(mode);
+    constexpr int LowHeight = 260;
+    const int height = m_widget->height();
     QHash<int, int> counts;
-    walk(interfaceOf(m_widget.data()), [&](QAccessibleInterface *each) {
+    const auto look = [&](QAccessibleInterface *each) {
         ++counts[each->role()];
         if (needsName(each->role()) && !dynamic_cast<ScanTableHeader *>(each->object()))
             QVERIFY2(!each->text(QAccessible::Name).isEmpty(),
-                     each->object() ? qPrintable(each->object()->objectName()) : "no object");
-    });
+                     each->object() ? qPrintable(each->object()->objectName()
+                                                 + each->object()->metaObject()->className())
+                                    : "no object");
+    };
+    m_widget->resize(m_widget->width(), LowHeight); // everything that scrolls has to
+    QCoreApplication::processEvents();
+    walk(interfaceOf(m_widget.data()), look);
+    m_widget->resize(m_widget->width(), height);
+    QCoreApplication::processEvents();
+    counts.clear();
+    walk(interfaceOf(m_widget.data()), look);
     QCOMPARE(counts.value(QAccessible::ColumnHeader), headers);
     QCOMPARE(counts.value(QAccessible::Row), rows);
     QCOMPARE(counts.value(QAccessible::Cell), mode == 0 ? 0 : 40 * headers);
