@@ -1,5 +1,6 @@
 #include "common/commonfunction.h"
 #include "probe.h"
+#include "support/datarow.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -104,20 +105,13 @@ void TestCommonFunction::categoryKeys_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("video") << "zenvo_video"
-                           << "Video";
-    QTest::newRow("games have another key") << "zenvo_game_files"
-                                            << "Game";
-    QTest::newRow("unsaved") << "zenvo_unsaved_files"
-                             << "Unsaved files";
-    QTest::newRow("other case") << "zenvo_Video"
-                                << "";
-    QTest::newRow("longer") << "zenvo_video2"
-                            << "";
-    QTest::newRow("prefix only") << "zenvo_"
-                                 << "";
-    QTest::newRow("empty") << ""
-                           << "";
+    addRow("video", "zenvo_video", "Video");
+    addRow("games have another key", "zenvo_game_files", "Game");
+    addRow("unsaved", "zenvo_unsaved_files", "Unsaved files");
+    addRow("other case", "zenvo_Video", "");
+    addRow("longer", "zenvo_video2", "");
+    addRow("prefix only", "zenvo_", "");
+    addRow("empty", "", "");
 }
 
 void TestCommonFunction::categoryKeys()
@@ -134,20 +128,18 @@ void TestCommonFunction::dates_data()
     QTest::addColumn<QString>("text");
 
     const qint64 noon = 1709290800; // 2024-03-01 11:00 UTC
-    QTest::newRow("Taiwan") << QByteArray("Asia/Taipei") << noon << "2024-03-01";
-    QTest::newRow("China") << QByteArray("Asia/Shanghai") << noon << "2024-03-01";
-    QTest::newRow("Hong Kong") << QByteArray("Asia/Hong_Kong") << noon << "2024-03-01";
-    QTest::newRow("Macau") << QByteArray("Asia/Macau") << noon << "2024-03-01";
-    QTest::newRow("Germany") << QByteArray("Europe/Berlin") << noon << "03-01-2024";
-    QTest::newRow("Singapore") << QByteArray("Asia/Singapore") << noon << "03-01-2024";
-    QTest::newRow("local day") << QByteArray("America/New_York") << qint64(1709254800)
-                               << "02-29-2024";
-    QTest::newRow("before the epoch")
-        << QByteArray("Europe/Berlin") << qint64(-86400 * 365) << "01-01-1969";
-    QTest::newRow("beyond every calendar")
-        << QByteArray("Europe/Berlin") << std::numeric_limits<qint64>::max() << "";
-    QTest::newRow("before every calendar")
-        << QByteArray("Europe/Berlin") << std::numeric_limits<qint64>::min() << "";
+    addRow("Taiwan", QByteArray("Asia/Taipei"), noon, "2024-03-01");
+    addRow("China", QByteArray("Asia/Shanghai"), noon, "2024-03-01");
+    addRow("Hong Kong", QByteArray("Asia/Hong_Kong"), noon, "2024-03-01");
+    addRow("Macau", QByteArray("Asia/Macau"), noon, "2024-03-01");
+    addRow("Germany", QByteArray("Europe/Berlin"), noon, "03-01-2024");
+    addRow("Singapore", QByteArray("Asia/Singapore"), noon, "03-01-2024");
+    addRow("local day", QByteArray("America/New_York"), qint64(1709254800), "02-29-2024");
+    addRow("before the epoch", QByteArray("Europe/Berlin"), qint64(-86400 * 365), "01-01-1969");
+    addRow("beyond every calendar", QByteArray("Europe/Berlin"), std::numeric_limits<qint64>::max(),
+           "");
+    addRow("before every calendar", QByteArray("Europe/Berlin"), std::numeric_limits<qint64>::min(),
+           "");
 }
 
 void TestCommonFunction::dates()
@@ -175,15 +167,14 @@ void TestCommonFunction::sizes_data()
     QTest::addColumn<QString>("text");
 
     const qint64 kilo = 1024;
-    QTest::newRow("none") << qint64(0) << "0 SizeUnit_Bytes";
-    QTest::newRow("last byte") << kilo - 1 << "1023 SizeUnit_Bytes";
-    QTest::newRow("first kilobyte") << kilo << "1.00 SizeUnit_KB";
-    QTest::newRow("half") << kilo + kilo / 2 << "1.50 SizeUnit_KB";
-    QTest::newRow("never 1024.00") << kilo * kilo - 1 << "1.00 SizeUnit_MB";
-    QTest::newRow("gigabyte") << kilo * kilo * kilo << "1.00 SizeUnit_GB";
-    QTest::newRow("beyond the last unit")
-        << kilo * kilo * kilo * kilo * 2048 << "2048.00 SizeUnit_TB";
-    QTest::newRow("negative") << -kilo << "-1.00 SizeUnit_KB";
+    addRow("none", qint64(0), "0 SizeUnit_Bytes");
+    addRow("last byte", kilo - 1, "1023 SizeUnit_Bytes");
+    addRow("first kilobyte", kilo, "1.00 SizeUnit_KB");
+    addRow("half", kilo + kilo / 2, "1.50 SizeUnit_KB");
+    addRow("never 1024.00", kilo * kilo - 1, "1.00 SizeUnit_MB");
+    addRow("gigabyte", kilo * kilo * kilo, "1.00 SizeUnit_GB");
+    addRow("beyond the last unit", kilo * kilo * kilo * kilo * 2048, "2048.00 SizeUnit_TB");
+    addRow("negative", -kilo, "-1.00 SizeUnit_KB");
 }
 
 void TestCommonFunction::sizes()
@@ -199,42 +190,20 @@ void TestCommonFunction::locations_data()
     QTest::addColumn<QString>("root");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("volume dropped") << "/Volume/DCIM/100"
-                                    << "E:"
-                                    << "E:\\DCIM\\100";
-    QTest::newRow("closed root") << "/Volume/DCIM/100"
-                                 << "E:\\"
-                                 << "E:\\DCIM\\100";
-    QTest::newRow("root closed by a slash") << "DCIM"
-                                            << "/mnt/card/"
-                                            << "/mnt/card/DCIM";
-    QTest::newRow("no root") << "DCIM/100"
-                             << ""
-                             << "DCIM\\100";
-    QTest::newRow("no root, leading slash") << "/DCIM"
-                                            << ""
-                                            << "DCIM";
-    QTest::newRow("no root, backslashes") << "\\DCIM\\100"
-                                          << ""
-                                          << "DCIM\\100";
-    QTest::newRow("no root keeps the volume") << "/Volume/DCIM"
-                                              << ""
-                                              << "Volume\\DCIM";
+    addRow("volume dropped", "/Volume/DCIM/100", "E:", "E:\\DCIM\\100");
+    addRow("closed root", "/Volume/DCIM/100", "E:\\", "E:\\DCIM\\100");
+    addRow("root closed by a slash", "DCIM", "/mnt/card/", "/mnt/card/DCIM");
+    addRow("no root", "DCIM/100", "", "DCIM\\100");
+    addRow("no root, leading slash", "/DCIM", "", "DCIM");
+    addRow("no root, backslashes", "\\DCIM\\100", "", "DCIM\\100");
+    addRow("no root keeps the volume", "/Volume/DCIM", "", "Volume\\DCIM");
     QTest::newRow("only one leading separator") << "//server/share"
                                                 << ""
                                                 << "\\server\\share";
-    QTest::newRow("volume itself") << "Volume"
-                                   << "E:"
-                                   << "E:\\";
-    QTest::newRow("volume itself, with a slash") << "/Volume"
-                                                 << "E:"
-                                                 << "E:\\";
-    QTest::newRow("a folder that begins like it") << "Volumes/a"
-                                                  << "E:"
-                                                  << "E:\\Volumes\\a";
-    QTest::newRow("nowhere") << ""
-                             << "E:"
-                             << "";
+    addRow("volume itself", "Volume", "E:", "E:\\");
+    addRow("volume itself, with a slash", "/Volume", "E:", "E:\\");
+    addRow("a folder that begins like it", "Volumes/a", "E:", "E:\\Volumes\\a");
+    addRow("nowhere", "", "E:", "");
 }
 
 void TestCommonFunction::locations()
@@ -251,16 +220,11 @@ void TestCommonFunction::screens_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<int>("ratio");
 
-    QTest::newRow("1") << "1"
-                       << "base.jpg" << 1;
-    QTest::newRow("1.5") << "1.5"
-                         << "base.jpg" << 1;
-    QTest::newRow("2") << "2"
-                       << "base@2x.jpg" << 2;
-    QTest::newRow("2.5") << "2.5"
-                         << "base@2x.jpg" << 2;
-    QTest::newRow("3") << "3"
-                       << "base@2x.jpg" << 3;
+    addRow("1", "1", "base.jpg", 1);
+    addRow("1.5", "1.5", "base.jpg", 1);
+    addRow("2", "2", "base@2x.jpg", 2);
+    addRow("2.5", "2.5", "base@2x.jpg", 2);
+    addRow("3", "3", "base@2x.jpg", 3);
 }
 
 void TestCommonFunction::screens()
@@ -282,13 +246,11 @@ void TestCommonFunction::themedImages_data()
     QTest::addColumn<QString>("path");
 
     const QString there = QStringLiteral("icon16_check_normal");
-    QTest::newRow("light") << QVariant(0) << there << ":/Images/icon16_check_normal.png";
-    QTest::newRow("dark") << QVariant(1) << there << ":/Images/Dark/icon16_check_normal.png";
-    QTest::newRow("dark twin missing") << QVariant(1) << "nosuch"
-                                       << ":/Images/nosuch.png";
-    QTest::newRow("neither light nor dark")
-        << QVariant(5) << there << ":/Images/icon16_check_normal.png";
-    QTest::newRow("no theme yet") << QVariant() << there << ":/Images/icon16_check_normal.png";
+    addRow("light", QVariant(0), there, ":/Images/icon16_check_normal.png");
+    addRow("dark", QVariant(1), there, ":/Images/Dark/icon16_check_normal.png");
+    addRow("dark twin missing", QVariant(1), "nosuch", ":/Images/nosuch.png");
+    addRow("neither light nor dark", QVariant(5), there, ":/Images/icon16_check_normal.png");
+    addRow("no theme yet", QVariant(), there, ":/Images/icon16_check_normal.png");
 }
 
 void TestCommonFunction::themedImages()

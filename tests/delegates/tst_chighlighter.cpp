@@ -1,4 +1,5 @@
 #include "delegates/chighlighter.h"
+#include "support/datarow.h"
 
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -53,51 +54,22 @@ void TestHighlighter::marks_data()
     QTest::addColumn<QString>("keyword");
     QTest::addColumn<QString>("result");
 
-    QTest::newRow("every occurrence") << "photo-photo.jpg"
-                                      << "photo"
-                                      << "[photo]-[photo].jpg";
-    QTest::newRow("first match ignores case") << "Photo photo"
-                                              << "photo"
-                                              << "[Photo] [photo]";
-    QTest::newRow("the following ones do not") << "photo Photo"
-                                               << "photo"
-                                               << "[photo] Photo";
-    QTest::newRow("upper-case keyword") << "photo"
-                                        << "PHOTO"
-                                        << "[photo]";
-    QTest::newRow("keyword is a pattern") << "abc"
-                                          << "a.c"
-                                          << "[abc]";
-    QTest::newRow("a lone dot marks nothing") << "a.b"
-                                              << "."
-                                              << "a.b";
-    QTest::newRow("a lone asterisk is literal") << "2*3*4"
-                                                << "*"
-                                                << "2[*]3[*]4";
-    QTest::newRow("words by themselves") << "words of two"
-                                         << "two words"
-                                         << "[words] of [two]";
-    QTest::newRow("words together") << "two words"
-                                    << "two words"
-                                    << "[two words]";
-    QTest::newRow("many spaces") << "a b"
-                                 << "  b "
-                                 << "a [b]";
-    QTest::newRow("no valid pattern") << "a(b[c"
-                                      << "(b["
-                                      << "a(b[c";
-    QTest::newRow("matches the empty string") << "aab"
-                                              << "x*"
-                                              << "aab";
-    QTest::newRow("empty keyword") << "abc"
-                                   << ""
-                                   << "abc";
-    QTest::newRow("empty text") << ""
-                                << "abc"
-                                << "";
+    addRow("every occurrence", "photo-photo.jpg", "photo", "[photo]-[photo].jpg");
+    addRow("first match ignores case", "Photo photo", "photo", "[Photo] [photo]");
+    addRow("the following ones do not", "photo Photo", "photo", "[photo] Photo");
+    addRow("upper-case keyword", "photo", "PHOTO", "[photo]");
+    addRow("keyword is a pattern", "abc", "a.c", "[abc]");
+    addRow("a lone dot marks nothing", "a.b", ".", "a.b");
+    addRow("a lone asterisk is literal", "2*3*4", "*", "2[*]3[*]4");
+    addRow("words by themselves", "words of two", "two words", "[words] of [two]");
+    addRow("words together", "two words", "two words", "[two words]");
+    addRow("many spaces", "a b", "  b ", "a [b]");
+    addRow("no valid pattern", "a(b[c", "(b[", "a(b[c");
+    addRow("matches the empty string", "aab", "x*", "aab");
+    addRow("empty keyword", "abc", "", "abc");
+    addRow("empty text", "", "abc", "");
     // the lower-cased text is one character longer, and the match lies past the end
-    QTest::newRow("lower case is longer")
-        << QStringLiteral("\u0130x") << "x" << QStringLiteral("\u0130x");
+    addRow("lower case is longer", QStringLiteral("\u0130x"), "x", QStringLiteral("\u0130x"));
 }
 
 void TestHighlighter::marks()

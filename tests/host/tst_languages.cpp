@@ -1,4 +1,5 @@
 #include "host/app/languages.h"
+#include "support/datarow.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -38,38 +39,24 @@ void TestLanguages::spellings_data()
 {
     QTest::addColumn<QString>("spelling");
     QTest::addColumn<QString>("name");
-    QTest::newRow("as it stands") << "Chinese Simplified"
-                                  << "Chinese Simplified";
-    QTest::newRow("small letters and a hyphen") << "chinese-simplified"
-                                                << "Chinese Simplified";
-    QTest::newRow("in one word") << "ChineseSimplified"
-                                 << "Chinese Simplified";
-    QTest::newRow("underscore, spaces around") << " CHINESE_traditional "
-                                               << "Chinese Traditional";
-    QTest::newRow("code") << "de"
-                          << "German";
-    QTest::newRow("code with a land") << "zh_CN"
-                                      << "Chinese Simplified";
-    QTest::newRow("locale") << "ZH-tw"
-                            << "Chinese Traditional";
-    QTest::newRow("its own name") << QString::fromUtf8("日本語") << "Japanese";
-    QTest::newRow("its own name in capitals") << QString::fromUtf8("FRANÇAIS") << "French";
-    QTest::newRow("its own name, accent apart") << QString::fromUtf8("Franc\u0327ais") << "French";
-    QTest::newRow("right to left") << QString::fromUtf8("العربية") << "Arab";
-    QTest::newRow("as people call it") << "dutch"
-                                       << "Netherland";
-    QTest::newRow("Hindi") << "hi-in"
-                           << "Hindi";
-    QTest::newRow("unknown") << "Klingon"
-                             << "";
-    QTest::newRow("only a part") << "Chinese"
-                                 << "";
-    QTest::newRow("a land of ours, a language of none") << "xx-de"
-                                                        << "";
-    QTest::newRow("nothing") << ""
-                             << "";
-    QTest::newRow("nothing but marks") << " -_"
-                                       << "";
+    addRow("as it stands", "Chinese Simplified", "Chinese Simplified");
+    addRow("small letters and a hyphen", "chinese-simplified", "Chinese Simplified");
+    addRow("in one word", "ChineseSimplified", "Chinese Simplified");
+    addRow("underscore, spaces around", " CHINESE_traditional ", "Chinese Traditional");
+    addRow("code", "de", "German");
+    addRow("code with a land", "zh_CN", "Chinese Simplified");
+    addRow("locale", "ZH-tw", "Chinese Traditional");
+    addRow("its own name", QString::fromUtf8("日本語"), "Japanese");
+    addRow("its own name in capitals", QString::fromUtf8("FRANÇAIS"), "French");
+    addRow("its own name, accent apart", QString::fromUtf8("Franc\u0327ais"), "French");
+    addRow("right to left", QString::fromUtf8("العربية"), "Arab");
+    addRow("as people call it", "dutch", "Netherland");
+    addRow("Hindi", "hi-in", "Hindi");
+    addRow("unknown", "Klingon", "");
+    addRow("only a part", "Chinese", "");
+    addRow("a land of ours, a language of none", "xx-de", "");
+    addRow("nothing", "", "");
+    addRow("nothing but marks", " -_", "");
 }
 
 void TestLanguages::spellings()

@@ -1,5 +1,6 @@
 #include "host/recovery/targetcheck.h"
 #include "platform/system/storage.h"
+#include "support/datarow.h"
 
 #include <QDir>
 #include <QFile>
@@ -76,30 +77,19 @@ void TestTargetCheck::folders_data()
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("target");
     QTest::addColumn<bool>("refused");
-    QTest::newRow("beside it") << "card"
-                               << "other" << false;
-    QTest::newRow("a name that only begins alike") << "card"
-                                                   << "cards" << false;
-    QTest::newRow("the folder above") << "card/DCIM"
-                                      << "card" << false;
-    QTest::newRow("not there yet") << "card"
-                                   << "new/deeper" << false;
-    QTest::newRow("a broken link") << "card"
-                                   << "other/broken" << false;
-    QTest::newRow("itself") << "card"
-                            << "card" << true;
-    QTest::newRow("in it") << "card"
-                           << "card/DCIM/100" << true;
-    QTest::newRow("in it, not there yet") << "card"
-                                          << "card/out/put" << true;
+    addRow("beside it", "card", "other", false);
+    addRow("a name that only begins alike", "card", "cards", false);
+    addRow("the folder above", "card/DCIM", "card", false);
+    addRow("not there yet", "card", "new/deeper", false);
+    addRow("a broken link", "card", "other/broken", false);
+    addRow("itself", "card", "card", true);
+    addRow("in it", "card", "card/DCIM/100", true);
+    addRow("in it, not there yet", "card", "card/out/put", true);
     QTest::newRow("slashes and dots") << "card//"
                                       << "other/.././card/DCIM/" << true;
-    QTest::newRow("through a link") << "card"
-                                    << "link/DCIM" << true;
-    QTest::newRow("the source through a link") << "link"
-                                               << "card/DCIM" << true;
-    QTest::newRow("a link that leads into it") << "card"
-                                               << "other/deep/new" << true;
+    addRow("through a link", "card", "link/DCIM", true);
+    addRow("the source through a link", "link", "card/DCIM", true);
+    addRow("a link that leads into it", "card", "other/deep/new", true);
 }
 
 void TestTargetCheck::folders()
@@ -120,20 +110,13 @@ void TestTargetCheck::images_data()
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("target");
     QTest::addColumn<bool>("refused");
-    QTest::newRow("the folder that holds it") << "card.img"
-                                              << "." << false;
-    QTest::newRow("itself") << "card.img"
-                            << "card.img" << true;
-    QTest::newRow("below it") << "card.img"
-                              << "card.img/out" << true;
-    QTest::newRow("a link to it") << "card.img"
-                                  << "image link" << true;
-    QTest::newRow("another name of the same file") << "card.img"
-                                                   << "twin.img" << true;
-    QTest::newRow("the source is the link") << "image link"
-                                            << "card.img" << true;
-    QTest::newRow("an image that is gone") << "gone.img"
-                                           << "other" << false;
+    addRow("the folder that holds it", "card.img", ".", false);
+    addRow("itself", "card.img", "card.img", true);
+    addRow("below it", "card.img", "card.img/out", true);
+    addRow("a link to it", "card.img", "image link", true);
+    addRow("another name of the same file", "card.img", "twin.img", true);
+    addRow("the source is the link", "image link", "card.img", true);
+    addRow("an image that is gone", "gone.img", "other", false);
 }
 
 void TestTargetCheck::images()
@@ -150,19 +133,14 @@ void TestTargetCheck::mounts_data()
     QTest::addColumn<QString>("point");
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("target");
-    QTest::newRow("the folder bound elsewhere") << QStringList{"--bind", at("card")} << "bound"
-                                                << "card"
-                                                << "bound/new";
-    QTest::newRow("a part of the folder bound elsewhere")
-        << QStringList{"--bind", at("card/DCIM")} << "part"
-        << "card"
-        << "part/new";
-    QTest::newRow("two folders of a card") << QStringList{"-t", "tmpfs", "none"} << "usb"
-                                           << "usb/DCIM"
-                                           << "usb/out";
-    QTest::newRow("the image is mounted") << QStringList{"-o", "loop", at("card.img")} << "loop"
-                                          << "card.img"
-                                          << "loop/out";
+    addRow("the folder bound elsewhere", QStringList{"--bind", at("card")}, "bound", "card",
+           "bound/new");
+    addRow("a part of the folder bound elsewhere", QStringList{"--bind", at("card/DCIM")}, "part",
+           "card", "part/new");
+    addRow("two folders of a card", QStringList{"-t", "tmpfs", "none"}, "usb", "usb/DCIM",
+           "usb/out");
+    addRow("the image is mounted", QStringList{"-o", "loop", at("card.img")}, "loop", "card.img",
+           "loop/out");
 }
 
 void TestTargetCheck::mounts()

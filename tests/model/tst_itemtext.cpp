@@ -1,6 +1,7 @@
 #include "model/itemtext.h"
 #include "model/recoverability.h"
 #include "platform/item/treeitemdata.h"
+#include "support/datarow.h"
 
 #include <QTest>
 
@@ -27,28 +28,18 @@ void tst_ItemText::displayPath_data()
     QTest::addColumn<int>("rootType");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("drive letter without separator") << "/Volume/DCIM/100"
-                                                    << "E:" << 0 << "E:\\DCIM\\100";
-    QTest::newRow("drive letter with separator") << "/Volume/DCIM/100"
-                                                 << "E:\\" << 0 << "E:\\DCIM\\100";
-    QTest::newRow("slash as separator of the root") << "DCIM"
-                                                    << "E:/" << 0 << "E:/DCIM";
-    QTest::newRow("complete path") << "DCIM/100"
-                                   << "" << 0 << "DCIM\\100";
-    QTest::newRow("leading separator") << "/DCIM"
-                                       << "" << 0 << "DCIM";
+    addRow("drive letter without separator", "/Volume/DCIM/100", "E:", 0, "E:\\DCIM\\100");
+    addRow("drive letter with separator", "/Volume/DCIM/100", "E:\\", 0, "E:\\DCIM\\100");
+    addRow("slash as separator of the root", "DCIM", "E:/", 0, "E:/DCIM");
+    addRow("complete path", "DCIM/100", "", 0, "DCIM\\100");
+    addRow("leading separator", "/DCIM", "", 0, "DCIM");
     QTest::newRow("only one leading separator goes") << "//DCIM"
                                                      << "" << 0 << "\\DCIM";
-    QTest::newRow("a complete path keeps its volume") << "/Volume/DCIM"
-                                                      << "" << 0 << "Volume\\DCIM";
-    QTest::newRow("folder named Volume") << "Volume"
-                                         << "E:" << 0 << "E:\\Volume";
-    QTest::newRow("volume alone") << "/Volume"
-                                  << "E:" << 0 << "E:\\";
-    QTest::newRow("nothing known") << ""
-                                   << "" << 0 << "--";
-    QTest::newRow("lost location") << "/Volume/DCIM"
-                                   << "E:" << 3 << "File lost location";
+    addRow("a complete path keeps its volume", "/Volume/DCIM", "", 0, "Volume\\DCIM");
+    addRow("folder named Volume", "Volume", "E:", 0, "E:\\Volume");
+    addRow("volume alone", "/Volume", "E:", 0, "E:\\");
+    addRow("nothing known", "", "", 0, "--");
+    addRow("lost location", "/Volume/DCIM", "E:", 3, "File lost location");
 }
 
 void tst_ItemText::displayPath()
@@ -85,14 +76,10 @@ void tst_ItemText::typeOfKinds_data()
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("extension");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("folder with an extension") << 1 << "app"
-                                              << "folder";
-    QTest::newRow("file") << 2 << "jpg"
-                          << "JPG";
-    QTest::newRow("file without extension") << 2 << ""
-                                            << "--";
-    QTest::newRow("other node") << 0 << ""
-                                << "--";
+    addRow("folder with an extension", 1, "app", "folder");
+    addRow("file", 2, "jpg", "JPG");
+    addRow("file without extension", 2, "", "--");
+    addRow("other node", 0, "", "--");
 }
 
 void tst_ItemText::typeOfKinds()

@@ -1,4 +1,5 @@
 #include "langbuffer.h"
+#include "support/datarow.h"
 #include "zvlang.h"
 
 #include <QCoreApplication>
@@ -88,11 +89,9 @@ void TestZVLang::texts_data()
 
     const auto storage = [](const char *name, const char *lang, const char *bytes,
                             const char *precision, const char *text) {
-        QTest::newRow(name) << LangFunction(Lang_GetStorageStr)
-                            << withLang(lang,
-                                        QByteArray("\"bytes\":") + bytes
-                                            + ",\"precision\":" + precision)
-                            << QString::fromUtf8(text);
+        addRow(name, LangFunction(Lang_GetStorageStr),
+               withLang(lang, QByteArray("\"bytes\":") + bytes + ",\"precision\":" + precision),
+               QString::fromUtf8(text));
     };
     storage("nothing", "en_US", "0", "2", "0 bytes");
     storage("one byte", "en_US", "1", "2", "1 byte");
@@ -119,7 +118,7 @@ void TestZVLang::texts_data()
 
     const auto row = [](const char *name, LangFunction function, const QByteArray &request,
                         const char *text) {
-        QTest::newRow(name) << function << request << QString::fromUtf8(text);
+        addRow(name, function, request, QString::fromUtf8(text));
     };
     const QByteArray march = "\"timestamp\":1709305440"; // 2024-03-01 15:04:00
     row("date", Lang_GetDateStr, withLang("en_US", march), "3/1/2024");
@@ -238,22 +237,14 @@ void TestZVLang::longTextsAreCutBetweenCharacters_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("kept"); // of it in eight bytes
 
-    QTest::newRow("fits") << "1234567"
-                          << "1234567";
-    QTest::newRow("one too long") << "12345678"
-                                  << "1234567";
-    QTest::newRow("two bytes across the end") << "123456é"
-                                              << "123456";
-    QTest::newRow("two bytes before the end") << "12345é"
-                                              << "12345é";
-    QTest::newRow("three bytes across the end") << "12345日"
-                                                << "12345";
-    QTest::newRow("four bytes across the end") << "1234😀"
-                                               << "1234";
-    QTest::newRow("four bytes before the end") << "123😀9"
-                                               << "123😀";
-    QTest::newRow("nothing fits") << ""
-                                  << "";
+    addRow("fits", "1234567", "1234567");
+    addRow("one too long", "12345678", "1234567");
+    addRow("two bytes across the end", "123456é", "123456");
+    addRow("two bytes before the end", "12345é", "12345é");
+    addRow("three bytes across the end", "12345日", "12345");
+    addRow("four bytes across the end", "1234😀", "1234");
+    addRow("four bytes before the end", "123😀9", "123😀");
+    addRow("nothing fits", "", "");
 }
 
 void TestZVLang::longTextsAreCutBetweenCharacters()

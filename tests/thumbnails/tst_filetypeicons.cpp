@@ -1,4 +1,5 @@
 #include "platform/item/treeitemdata.h"
+#include "support/datarow.h"
 #include "thumbnails/filetypeicons.h"
 
 #include <QTest>
@@ -21,30 +22,18 @@ void tst_FileTypeIcons::families_data()
     QTest::addColumn<int>("category");
     QTest::addColumn<QString>("extension");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("folder") << 1 << 8 << "jpg"
-                            << "icon64_File_Folder";
-    QTest::newRow("folder-like") << 0 << 0 << ""
-                                 << "icon64_File_Folder";
-    QTest::newRow("first category") << 2 << 2 << ""
-                                    << "icon64_File_Audio";
-    QTest::newRow("last category") << 2 << 10 << ""
-                                   << "icon64_File_Archive";
-    QTest::newRow("one past the last") << 2 << 11 << ""
-                                       << "icon64_File_Default";
-    QTest::newRow("photo") << 2 << 8 << "jpg"
-                           << "icon64_File_Photo";
-    QTest::newRow("camera raw among photos") << 2 << 8 << "cr2"
-                                             << "icon64_File_Raw";
-    QTest::newRow("document of a known kind") << 2 << 5 << "Docx"
-                                              << "icon64_File_Word";
-    QTest::newRow("other document") << 2 << 5 << "epub"
-                                    << "icon64_File_Document";
-    QTest::newRow("known without category") << 2 << 0 << "MP4"
-                                            << "icon64_File_Video";
-    QTest::newRow("part of a known extension") << 2 << 0 << "M"
-                                               << "icon64_File_Default";
-    QTest::newRow("two extensions") << 2 << 0 << "PDF TXT"
-                                    << "icon64_File_Default";
+    addRow("folder", 1, 8, "jpg", "icon64_File_Folder");
+    addRow("folder-like", 0, 0, "", "icon64_File_Folder");
+    addRow("first category", 2, 2, "", "icon64_File_Audio");
+    addRow("last category", 2, 10, "", "icon64_File_Archive");
+    addRow("one past the last", 2, 11, "", "icon64_File_Default");
+    addRow("photo", 2, 8, "jpg", "icon64_File_Photo");
+    addRow("camera raw among photos", 2, 8, "cr2", "icon64_File_Raw");
+    addRow("document of a known kind", 2, 5, "Docx", "icon64_File_Word");
+    addRow("other document", 2, 5, "epub", "icon64_File_Document");
+    addRow("known without category", 2, 0, "MP4", "icon64_File_Video");
+    addRow("part of a known extension", 2, 0, "M", "icon64_File_Default");
+    addRow("two extensions", 2, 0, "PDF TXT", "icon64_File_Default");
 }
 
 void tst_FileTypeIcons::families()

@@ -1,3 +1,4 @@
+#include "support/datarow.h"
 #include "thumbnailfixture.h"
 #include "thumbnails/filetypeicons.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
@@ -100,46 +101,14 @@ void tst_ScanPluginPreviewManager::bestCandidateWins_data()
     QTest::addColumn<QString>("plain");
     QTest::addColumn<QString>("expected"); // empty: none can be read
 
-    QTest::newRow("all") << "red"
-                         << "green"
-                         << "blue"
-                         << "yellow"
-                         << "red";
-    QTest::newRow("no repaired one") << ""
-                                     << "green"
-                                     << "blue"
-                                     << "yellow"
-                                     << "green";
-    QTest::newRow("jpeg") << ""
-                          << ""
-                          << "blue"
-                          << "yellow"
-                          << "blue";
-    QTest::newRow("plain") << ""
-                           << ""
-                           << ""
-                           << "yellow"
-                           << "yellow";
-    QTest::newRow("repaired is broken") << "broken"
-                                        << "green"
-                                        << ""
-                                        << ""
-                                        << "green";
-    QTest::newRow("all but the last broken") << "broken"
-                                             << "broken"
-                                             << "broken"
-                                             << "yellow"
-                                             << "yellow";
-    QTest::newRow("all broken") << "broken"
-                                << "broken"
-                                << "broken"
-                                << "broken"
-                                << "";
-    QTest::newRow("none") << ""
-                          << ""
-                          << ""
-                          << ""
-                          << "";
+    addRow("all", "red", "green", "blue", "yellow", "red");
+    addRow("no repaired one", "", "green", "blue", "yellow", "green");
+    addRow("jpeg", "", "", "blue", "yellow", "blue");
+    addRow("plain", "", "", "", "yellow", "yellow");
+    addRow("repaired is broken", "broken", "green", "", "", "green");
+    addRow("all but the last broken", "broken", "broken", "broken", "yellow", "yellow");
+    addRow("all broken", "broken", "broken", "broken", "broken", "");
+    addRow("none", "", "", "", "", "");
 }
 
 void tst_ScanPluginPreviewManager::bestCandidateWins()
