@@ -1,6 +1,6 @@
 #include "host/scan/paintedphotos.h"
 
-#include "tools/samplecard/paint/scenes.h"
+#include "scenes/scenes.h"
 
 #include <QBuffer>
 #include <QImageWriter>

@@ -1,6 +1,6 @@
 #include "documents.h"
 
-#include "paint/scenes.h"
+#include "scenes/scenes.h"
 
 #include <QBuffer>
 #include <QPageSize>

@@ -1,6 +1,6 @@
 #include "movies.h"
 
-#include "paint/scenes.h"
+#include "scenes/scenes.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #include "photolist.h"
 
-#include "paint/scenes.h"
 #include "photometadata.h"
+#include "scenes/scenes.h"
 
 #include <QBuffer>
 #include <QFileInfo>

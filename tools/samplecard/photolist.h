@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cardfile.h"
-#include "paint/canvas.h"
+#include "scenes/canvas.h"
 
 #include <QSize>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "sounds.h"
 
-#include "paint/noise.h"
+#include "scenes/noise.h"
 
 #include <QDataStream>
 

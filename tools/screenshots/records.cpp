@@ -1,6 +1,6 @@
 #include "records.h"
 
-#include "tools/samplecard/paint/scenes.h"
+#include "scenes/scenes.h"
 
 #include <QImage>
 #include <QtConcurrent>

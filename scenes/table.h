@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas.h"
+#include "scenes/canvas.h"
 
 /// What is laid out on a table, seen from above.
 namespace Table {

@@ -1,5 +1,5 @@
-#include "scenes.h"
-#include "table.h"
+#include "scenes/scenes.h"
+#include "scenes/table.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "table.h"
+#include "scenes/table.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas.h"
+#include "scenes/canvas.h"
 
 /// What landscapes are made of.
 namespace Nature {

@@ -1,4 +1,4 @@
-#include "nature.h"
+#include "scenes/nature.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "noise.h"
+#include "scenes/noise.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "canvas.h"
+#include "scenes/canvas.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas.h"
+#include "scenes/canvas.h"
 
 /// The motifs of the card's photos. Each fills a whole canvas; `variant` picks colours, weather
 /// and composition.

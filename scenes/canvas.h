@@ -1,6 +1,6 @@
 #pragma once
 
-#include "noise.h"
+#include "scenes/noise.h"
 
 #include <QBrush>
 #include <QColor>

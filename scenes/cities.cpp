@@ -1,5 +1,5 @@
-#include "nature.h"
-#include "scenes.h"
+#include "scenes/nature.h"
+#include "scenes/scenes.h"
 
 #include <algorithm>
 #include <cmath>
