@@ -3,6 +3,8 @@
 #include "host/tree/itemkinds.h"
 #include "host/tree/itemtree.h"
 #include "host/tree/texts.h"
+#include "host/ui/foldertree.h"
+#include "host/ui/glyphs.h"
 #include "host/ui/hosttheme.h"
 #include "host/ui/segments.h"
 
@@ -11,36 +13,13 @@
 #include <QHeaderView>
 #include <QSet>
 #include <QStyle>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace {
 constexpr int RecordRole = Qt::UserRole;
 constexpr int PanelWidth = 216;
 constexpr int IconSide = 18;
-constexpr int Indent = 14;
 enum Column { NameColumn, CountColumn };
-
-/// Unfolds with a chevron of ours: what styles draw there fits neither theme.
-class FolderTree : public QTreeWidget
-{
-public:
-    using QTreeWidget::QTreeWidget;
-
-protected:
-    void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override
-    {
-        const QTreeWidgetItem *row = itemFromIndex(index);
-        if (row->childIndicatorPolicy() != QTreeWidgetItem::ShowIndicator)
-            return;
-        const bool mirrored = isRightToLeft();
-        const int edge = mirrored ? rect.left() : rect.right() + 1 - Indent;
-        const QRect box(edge, rect.center().y() - Indent / 2, Indent, Indent);
-        const Glyph folded = mirrored ? Glyph::Left : Glyph::ChevronRight;
-        glyphIcon(row->isExpanded() ? Glyph::ChevronDown : folded, palette().color(QPalette::Text))
-            .paint(painter, box);
-    }
-};
 
 /// Of a record that may be gone.
 const TreeItemData *addressOf(const QTreeWidgetItem *row)
@@ -89,7 +68,6 @@ SidePanel::SidePanel(const ItemTree &tree, QWidget *parent)
     m_rows->header()->setStretchLastSection(false);
     m_rows->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     m_rows->header()->setSectionResizeMode(CountColumn, QHeaderView::ResizeToContents);
-    m_rows->setIndentation(Indent);
     m_rows->setIconSize({IconSide, IconSide});
     m_rows->setUniformRowHeights(true);
     m_rows->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -287,6 +265,7 @@ void SidePanel::setTheme(const HostTheme &theme)
     theme.applyTo(this);
     m_icon = theme.icon;
     m_faint = theme.faintText;
+    m_rows->setRingColor(theme.accentText);
     m_arrangements->setTheme(theme);
     refresh();
 }

@@ -2,8 +2,8 @@
 
 #include <QFrame>
 
+class FolderTree;
 class ItemTree;
-class QTreeWidget;
 class QTreeWidgetItem;
 class Segments;
 struct HostTheme;
@@ -47,7 +47,7 @@ private:
 
     const ItemTree &m_tree;
     Segments *m_arrangements;
-    QTreeWidget *m_rows;
+    FolderTree *m_rows;
     QColor m_icon;
     QColor m_faint;
 };
