@@ -1,11 +1,14 @@
 #include "host/scan/scanrunner.h"
 
+#include <deque>
 #include <mutex>
 #include <thread>
 
 namespace {
 constexpr int DeliveryMs = 100;
-}
+constexpr int BacklogMs = 20;       // until the next delivery when one did not take everything
+constexpr int MaxDelivery = 12'000; // what makes records of them must not hold up the window
+} // namespace
 
 /// What the scanning thread and the runner share. The runner waits for the thread before it lets
 /// go.
@@ -17,14 +20,30 @@ struct ScanRunner::Run
     std::thread thread;
 
     std::mutex mutex; // guards what follows
-    QVector<FoundItem> found;
+    std::deque<QVector<FoundItem>> found;
     ScanOutcome outcome;
     double fraction = -1;
     bool opened = false;
     bool done = false;
 
     void work();
+    QVector<FoundItem> takeSome();
 };
+
+/// The caller holds the mutex.
+QVector<FoundItem> ScanRunner::Run::takeSome()
+{
+    QVector<FoundItem> some;
+    while (!found.empty()
+           && (some.isEmpty() || some.size() + found.front().size() <= MaxDelivery)) {
+        if (some.isEmpty())
+            some = std::move(found.front());
+        else
+            some += found.front();
+        found.pop_front();
+    }
+    return some;
+}
 
 void ScanRunner::Run::work()
 {
@@ -40,10 +59,7 @@ void ScanRunner::Run::work()
         }
         const auto take = [this](QVector<FoundItem> &&batch) {
             std::lock_guard<std::mutex> lock(mutex);
-            if (found.isEmpty())
-                found = std::move(batch);
-            else
-                found += batch;
+            found.push_back(std::move(batch));
         };
         const auto tell = [this](double now) {
             std::lock_guard<std::mutex> lock(mutex);
@@ -59,7 +75,6 @@ void ScanRunner::Run::work()
 ScanRunner::ScanRunner(QObject *parent)
     : QObject(parent)
 {
-    m_timer.setInterval(DeliveryMs);
     connect(&m_timer, &QTimer::timeout, this, &ScanRunner::poll);
 }
 
@@ -93,7 +108,7 @@ void ScanRunner::launch(std::shared_ptr<Run> run)
     m_elapsed.start();
     Run *shared = m_run.get(); // outlives the thread: abandon() and poll() wait for it
     m_run->thread = std::thread([shared] { shared->work(); });
-    m_timer.start();
+    m_timer.start(DeliveryMs);
 }
 
 void ScanRunner::cancel()
@@ -120,10 +135,12 @@ void ScanRunner::poll()
     ScanOutcome outcome;
     bool done = false;
     bool nowOpen = false;
+    bool all = false;
     {
         std::lock_guard<std::mutex> lock(run->mutex);
-        batch.swap(run->found);
-        done = run->done;
+        batch = run->takeSome();
+        all = run->found.empty();
+        done = run->done && all;
         outcome = run->outcome;
         nowOpen = run->opened;
         if (nowOpen && !m_source)
@@ -144,7 +161,12 @@ void ScanRunner::poll()
         m_progress.itemsPerSecond = double(m_progress.files + m_progress.folders) * 1000
             / double(m_progress.elapsed);
     emit progress(m_progress);
-    if (!done || m_run != run)
+    if (m_run != run)
+        return;
+    const int pause = all ? DeliveryMs : BacklogMs;
+    if (pause != m_timer.interval())
+        m_timer.setInterval(pause);
+    if (!done)
         return;
     abandon();
     emit finished(outcome);
