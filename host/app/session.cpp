@@ -256,8 +256,7 @@ void Session::setChecked(const QVector<ItemRecord *> &items, bool checked)
 {
     endStep();
     m_tree.beginStep();
-    for (ItemRecord *item : items)
-        m_tree.setChecked(item, checked);
+    m_tree.setChecked(items, checked);
     publishChecks();
     m_tree.endStep();
 }
@@ -297,8 +296,7 @@ void Session::takeSearchCheck(TreeItemData *item, Qt::CheckState state)
             found.append(static_cast<ItemRecord *>(child));
     }
     m_tree.beginStep();
-    for (ItemRecord *record : qAsConst(found))
-        m_tree.setChecked(record, state == Qt::Checked);
+    m_tree.setChecked(found, state == Qt::Checked);
     m_stepEnd.start();
 }
 

@@ -40,6 +40,8 @@ public:
 
     /// Checks or unchecks what is shown at and below \a record; all states above follow.
     void setChecked(ItemRecord *record, bool checked);
+    /// The same for each of \a items.
+    void setChecked(const QVector<ItemRecord *> &items, bool checked);
     /// Every shown file that is deleted.
     void checkDeleted();
     /// Turns round every shown file and empty folder.
@@ -72,6 +74,8 @@ public:
     quint64 revision() const { return m_revision; }
 
 private:
+    class Tally;
+
     ItemRecord *createRoot(const QString &name, int rootType);
     ItemRecord *createRecord(const FoundItem &item);
     void resetContainer(ItemRecord *record);
@@ -85,7 +89,7 @@ private:
     void markBelow(ItemRecord *record, bool checked);
     void apply(const IndexSet &checked, const IndexSet &unchecked, const IndexSet &flagged,
                const IndexSet &unflagged);
-    void recount();
+    void settleContainers();
     void rebuild();
 
     RecordStore m_records;

@@ -3,8 +3,7 @@
 
 namespace {
 
-/// Where that many leaves change, counting everything anew is less work than following each change
-/// up to the roots.
+/// Where that many leaves change, a tally is less work than following each change up to the roots.
 constexpr int ManyLeaves = 2000;
 
 /// Everything that counts \a record: the folders above it and, for files, the roots by kind.
@@ -83,6 +82,51 @@ bool ItemTree::mark(ItemRecord *leaf, bool checked)
     return changes;
 }
 
+/// Changes of many leaves. What counts them hears of a whole run of siblings at a time, since files
+/// of one folder mostly follow each other, and is put right when all have changed.
+class ItemTree::Tally
+{
+public:
+    explicit Tally(ItemTree *tree)
+        : m_tree(tree)
+    {
+    }
+
+    void set(ItemRecord *leaf, bool checked)
+    {
+        if (!m_tree->mark(leaf, checked) || !leaf->isShown)
+            return;
+        if (leaf->folder() != m_folder) {
+            passOn();
+            m_folder = leaf->folder();
+        }
+        const int change = checked ? 1 : -1;
+        m_change += change;
+        if (leaf->kindRoot) {
+            leaf->kindRoot->checkedLeaves += change;
+            m_tree->m_allFiles->checkedLeaves += change;
+        }
+    }
+
+    void finish()
+    {
+        passOn();
+        m_tree->settleContainers();
+    }
+
+private:
+    void passOn()
+    {
+        for (ItemRecord *folder = m_folder; folder && m_change != 0; folder = folder->folder())
+            folder->checkedLeaves += m_change;
+        m_change = 0;
+    }
+
+    ItemTree *m_tree;
+    ItemRecord *m_folder = nullptr;
+    int m_change = 0; // of the leaves right in it
+};
+
 void ItemTree::setLeafChecked(ItemRecord *leaf, bool checked)
 {
     if (!mark(leaf, checked))
@@ -99,20 +143,24 @@ void ItemTree::setChecked(ItemRecord *record, bool checked)
 {
     if (!record->isShown)
         return;
-    const bool many = record->leaves > ManyLeaves && record->leaves > m_records.size() / 8;
+    const bool many = record->leaves > ManyLeaves && record->leaves > m_folderList.size() / 8;
+    Tally tally(this);
     QVector<ItemRecord *> open{record};
     while (!open.isEmpty()) {
         ItemRecord *current = open.takeLast();
         if (current->isFolder())
             setNewcomers(current, checked);
         if (current->isLeaf) {
-            setLeafChecked(current, checked);
+            if (many)
+                tally.set(current, checked);
+            else
+                setLeafChecked(current, checked);
             continue;
         }
         for (TreeItemData *file : qAsConst(current->childFiles)) {
             auto *leaf = static_cast<ItemRecord *>(file);
             if (many)
-                mark(leaf, checked);
+                tally.set(leaf, checked);
             else
                 setLeafChecked(leaf, checked);
         }
@@ -122,39 +170,61 @@ void ItemTree::setChecked(ItemRecord *record, bool checked)
         writeCheckState(current);
     }
     if (many)
-        recount();
+        tally.finish();
+}
+
+void ItemTree::setChecked(const QVector<ItemRecord *> &items, bool checked)
+{
+    if (items.size() <= ManyLeaves) {
+        for (ItemRecord *item : items)
+            setChecked(item, checked);
+        return;
+    }
+    Tally tally(this);
+    for (ItemRecord *item : items) {
+        if (item->isLeaf && item->isShown && !item->isFolder())
+            tally.set(item, checked);
+    }
+    tally.finish();
+    for (ItemRecord *item : items) {
+        if (item->isFolder())
+            setChecked(item, checked);
+    }
 }
 
 void ItemTree::checkDeleted()
 {
+    Tally tally(this);
     for (int i = 0; i < m_records.size(); ++i) {
         ItemRecord *record = m_records.at(i);
         if (record->isShown && !record->exists && !record->isFolder())
-            mark(record, true);
+            tally.set(record, true);
     }
-    recount();
+    tally.finish();
 }
 
 void ItemTree::invertChecks()
 {
+    Tally tally(this);
     for (int i = 0; i < m_records.size(); ++i) {
         ItemRecord *record = m_records.at(i);
         if (record->isShown && record->isLeaf)
-            mark(record, !record->isChecked);
+            tally.set(record, !record->isChecked);
     }
-    recount();
+    tally.finish();
 }
 
 void ItemTree::uncheckAll()
 {
+    Tally tally(this);
     for (int i = 0; i < m_records.size(); ++i) {
         ItemRecord *record = m_records.at(i);
         if (record->isLeaf)
-            mark(record, false);
+            tally.set(record, false);
         if (record->isFolder())
             setNewcomers(record, false);
     }
-    recount();
+    tally.finish();
 }
 
 const CheckStep *ItemTree::undo()
@@ -183,55 +253,38 @@ const CheckStep *ItemTree::redo()
 void ItemTree::apply(const IndexSet &checked, const IndexSet &unchecked, const IndexSet &flagged,
                      const IndexSet &unflagged)
 {
-    const auto setLeaf = [this](int index, bool on) {
+    Tally tally(this);
+    const auto setLeaf = [this, &tally](int index, bool on) {
         ItemRecord *record = m_records.at(index);
         if (record->isLeaf) // a folder that was empty then may have been filled since
-            mark(record, on);
+            tally.set(record, on);
     };
     checked.forEach([&setLeaf](int index) { setLeaf(index, true); });
     unchecked.forEach([&setLeaf](int index) { setLeaf(index, false); });
     unflagged.forEach([this](int index) { setNewcomers(m_records.at(index), false); });
     flagged.forEach([this](int index) { setNewcomers(m_records.at(index), true); });
-    recount(); // takes back the flags of what is not wholly checked
+    tally.finish(); // takes back the flags of what is not wholly checked
 }
 
-/// All counts and states above the leaves, in one sweep from the last record to the first: what is
-/// in a folder comes after the folder.
-void ItemTree::recount()
+/// The states of whatever counts leaves, from counts that are right. What is not wholly checked
+/// takes no newcomers along.
+void ItemTree::settleContainers()
 {
-    QVector<ItemRecord *> roots = m_volumes + m_kinds;
-    roots << m_allFiles;
-    if (m_placeRoot && !m_volumes.contains(m_placeRoot))
-        roots << m_placeRoot;
-    for (ItemRecord *root : qAsConst(roots))
-        root->checkedLeaves = 0;
-    for (ItemRecord *folder : qAsConst(m_folderList)) {
-        if (!folder->isLeaf)
-            folder->checkedLeaves = 0;
-    }
     const auto settle = [this](ItemRecord *record) {
         writeCheckState(record);
         if (record->checkedLeaves < record->leaves)
             setNewcomers(record, false);
     };
-    for (int i = m_records.size() - 1; i >= 0; --i) {
-        ItemRecord *record = m_records.at(i);
-        if (record->isRoot || !record->isShown)
-            continue;
-        if (record->isFolder())
-            settle(record);
-        record->folder()->checkedLeaves += record->checkedLeaves;
-        if (record->kindRoot)
-            record->kindRoot->checkedLeaves += record->checkedLeaves;
+    for (ItemRecord *folder : qAsConst(m_folderList)) {
+        if (folder->isShown)
+            settle(folder);
     }
-    for (const ItemRecord *kind : qAsConst(m_kinds))
-        m_allFiles->checkedLeaves += kind->checkedLeaves;
-    if (hasSeveralVolumes()) {
-        for (const ItemRecord *volume : qAsConst(m_volumes))
-            m_placeRoot->checkedLeaves += volume->checkedLeaves;
+    for (const auto &roots : {m_volumes, m_kinds, QVector<ItemRecord *>{m_allFiles}}) {
+        for (ItemRecord *root : roots)
+            settle(root);
     }
-    for (ItemRecord *root : qAsConst(roots))
-        settle(root);
+    if (hasSeveralVolumes())
+        settle(m_placeRoot);
 }
 
 int ItemTree::hiddenCheckedFiles() const
