@@ -144,6 +144,13 @@ QFont FontManager::getFont(bool semibold) const
     return font;
 }
 
+QFont FontManager::styledFont(bool semibold, int pixelSize) const
+{
+    QFont font = getFont(semibold);
+    font.setPixelSize(pixelSize);
+    return font;
+}
+
 void FontManager::setWidgetFont(QWidget *widget, int pixelSize, int weight) const
 {
     if (widget)

@@ -41,7 +41,7 @@ void applyStyleSheet(QWidget *widget, const QString &fileName)
     if (!widget)
         return;
     const QString text = loadStyleSheet(QStringLiteral("SDCardScanContentPlugin"), {fileName});
-    if (text.isEmpty())
+    if (text.isEmpty() || text == widget->styleSheet())
         return;
     // Children of a widget that was never shown may have drawn on its first sheet already; a second
     // one reaches them only when the widget itself counts as styled.

@@ -11,6 +11,13 @@
 
 using PageChoice::Page;
 
+namespace {
+
+constexpr int TextPixels = 14;
+constexpr int CaptionPixels = 12;
+
+} // namespace
+
 ContentPages::ContentPages(Ui::SDCardContentDataWidgetClass &form, bool searchSide, QObject *parent)
     : QObject(parent)
     , m_form(form)
@@ -128,11 +135,13 @@ void ContentPages::loadImages()
 
 void ContentPages::applyFonts()
 {
-    const QFont plain = FontManager::instance()->getFont(false);
+    const QFont plain = FontManager::instance()->styledFont(false, TextPixels);
     const QFont semibold = FontManager::instance()->getFont(true);
-    for (QLabel *label : {m_form.scantitlelabel, m_form.scansubtitlelabel, m_form.selectAlllabel,
-                          m_form.labNoDataText, m_form.labLoadingText, m_form.labNoFilterText})
+    for (QLabel *label : {m_form.scansubtitlelabel, m_form.labNoDataText, m_form.labLoadingText,
+                          m_form.labNoFilterText})
         label->setFont(plain);
+    m_form.scantitlelabel->setFont(FontManager::instance()->getFont(false));
+    m_form.selectAlllabel->setFont(FontManager::instance()->styledFont(false, CaptionPixels));
     for (QLabel *label : {m_form.labNoDataTitle, m_form.labLoadingTitle, m_form.labNoFilterTitle})
         label->setFont(semibold);
 }

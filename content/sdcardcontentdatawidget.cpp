@@ -2,6 +2,7 @@
 
 #include "common/guard.h"
 #include "common/qssloader.h"
+#include "common/restyling.h"
 #include "content/checkall.h"
 #include "content/contentpages.h"
 #include "content/contentviews.h"
@@ -44,6 +45,7 @@ SDCardContentDataWidget::SDCardContentDataWidget(int side, QWidget *parent)
     connectViews();
     loadStyleSheet();
     retranslate();
+    m_restyling = new Restyling(this, [this] { restyle(); });
 }
 
 SDCardContentDataWidget::~SDCardContentDataWidget() = default;
@@ -152,6 +154,11 @@ void SDCardContentDataWidget::changeEvent(QEvent *event)
 }
 
 void SDCardContentDataWidget::updateTheme(THEMETYPE)
+{
+    m_restyling->request();
+}
+
+void SDCardContentDataWidget::restyle()
 {
     guarded(Q_FUNC_INFO, [this] {
         loadStyleSheet();

@@ -16,6 +16,7 @@ class ContentViews;
 class ContextMenu;
 class CurrentItem;
 class ItemChecks;
+class Restyling;
 class ScanDataModel;
 class SortChoice;
 class ThumbnailRequests;
@@ -67,6 +68,7 @@ public:
     void locateSecondaryId(qint64 id);
     QList<TreeItemData *> selectedItems() const;
 
+    /// What is out of sight follows when it is shown, or a moment later.
     void updateTheme(THEMETYPE theme);
     void retranslate();
 
@@ -93,6 +95,7 @@ private:
     void connectParts();
     void connectViews();
     void loadStyleSheet();
+    void restyle();
 
     void locate(int row);
     void openItem(TreeItemData *item, const QString &source);
@@ -109,6 +112,7 @@ private:
     CurrentItem *m_current = nullptr;
     ContextMenu *m_menu = nullptr;
     ThumbnailRequests *m_thumbnails = nullptr;
+    Restyling *m_restyling = nullptr;
     QPointer<TreeItemData> m_root;
     int m_updates = 0; ///< a slot of the host may update while an update is under way
 };

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int ChipSpacing = 6;
+constexpr int FontPixels = 12;
 
 } // namespace
 
@@ -18,7 +19,7 @@ ChipInfoItem::ChipInfoItem(QWidget *parent)
 {
     ui->setupUi(this);
     m_flow = new FlowLayout(ChipSpacing, ui->chipContainerFrame);
-    ui->labTitle->setFont(FontManager::instance()->getFont(false));
+    ui->labTitle->setFont(FontManager::instance()->styledFont(false, FontPixels));
     loadStyleSheet();
 }
 
@@ -43,7 +44,7 @@ void ChipInfoItem::setChips(const QStringList &texts)
     for (const QString &text : texts) {
         auto *chip = new QLabel(text, ui->chipContainerFrame);
         chip->setTextFormat(Qt::PlainText);
-        chip->setFont(FontManager::instance()->getFont(false));
+        chip->setFont(FontManager::instance()->styledFont(false, FontPixels));
         chip->setProperty("chipLabel", true);
         chip->setProperty("chipVariant", "tag");
         chip->setProperty("tooltipkey", text);

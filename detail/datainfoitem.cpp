@@ -6,6 +6,13 @@
 
 #include <QEvent>
 
+namespace {
+
+constexpr int TitlePixels = 12;
+constexpr int ValuePixels = 13;
+
+} // namespace
+
 DataInfoItem::DataInfoItem(QWidget *parent)
     : QWidget(parent)
     , ui(std::make_unique<Ui::DataInfoItem>())
@@ -64,8 +71,8 @@ void DataInfoItem::loadStyleSheet()
 
 void DataInfoItem::applyFonts()
 {
-    ui->labTitle->setFont(FontManager::instance()->getFont(false));
-    ui->labValue->setFont(FontManager::instance()->getFont(true));
+    ui->labTitle->setFont(FontManager::instance()->styledFont(false, TitlePixels));
+    ui->labValue->setFont(FontManager::instance()->styledFont(true, ValuePixels));
 }
 
 void DataInfoItem::changeEvent(QEvent *event)

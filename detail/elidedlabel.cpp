@@ -139,10 +139,13 @@ void ElidedLabel::changeEvent(QEvent *event)
 
 void ElidedLabel::elide()
 {
-    if (m_eliding)
+    // Each new stylesheet asks for it several times.
+    const Elision now{m_fullText, m_mode, font(), contentsRect().width()};
+    if (m_eliding || now == m_elision)
         return;
     m_eliding = true;
-    const QString shown = fontMetrics().elidedText(m_fullText, m_mode, contentsRect().width());
+    m_elision = now;
+    const QString shown = fontMetrics().elidedText(m_fullText, m_mode, now.width);
     if (shown != text())
         setText(shown);
     setToolTip(shown == m_fullText ? QString() : m_fullText);

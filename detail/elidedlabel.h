@@ -33,12 +33,28 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    /// What the shown text depends on.
+    struct Elision
+    {
+        QString text;
+        Qt::TextElideMode mode = Qt::ElideRight;
+        QFont font;
+        int width = -1;
+
+        bool operator==(const Elision &other) const
+        {
+            return width == other.width && mode == other.mode && text == other.text
+                && font == other.font;
+        }
+    };
+
     void align();
     void elide();
     void copy() const;
 
     QString m_fullText;
     Qt::TextElideMode m_mode = Qt::ElideRight;
+    Elision m_elision; // as last shown
     bool m_link = false;
     bool m_eliding = false;
 };

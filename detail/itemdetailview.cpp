@@ -3,6 +3,7 @@
 #include "common/commonfunction.h"
 #include "common/fontmanager.h"
 #include "common/qssloader.h"
+#include "common/restyling.h"
 #include "common/screenpixmap.h"
 #include "common/translation.h"
 #include "detail/chipinfoitem.h"
@@ -98,6 +99,7 @@ ItemDetailView::ItemDetailView(QWidget *parent)
     loadStyleSheet();
     mirror();
     retranslate();
+    m_restyling = new Restyling(this, [this] { restyle(); });
 }
 
 ItemDetailView::~ItemDetailView() = default;
@@ -158,6 +160,11 @@ void ItemDetailView::fillPicture()
     }
     const QSize room = ui->frameIconBg->maximumSize().boundedTo(QSize(width(), QWIDGETSIZE_MAX))
         - QSize(2, 2);
+    // The same one is asked for again and again: by facts that come in, by a change of the theme.
+    const PictureKey key{picture.cacheKey(), room, devicePixelRatioF()};
+    if (key == m_pictureKey)
+        return;
+    m_pictureKey = key;
     const QSizeF size = QSizeF(picture.size()) / picture.devicePixelRatio();
     if (size.width() > room.width() || size.height() > room.height()) {
         const qreal ratio = devicePixelRatioF();
@@ -302,6 +309,11 @@ void ItemDetailView::mirror()
 }
 
 void ItemDetailView::updateTheme()
+{
+    m_restyling->request();
+}
+
+void ItemDetailView::restyle()
 {
     loadStyleSheet();
     const auto rows = findChildren<DataInfoItem *>();

@@ -8,10 +8,12 @@
 #include <QWidget>
 
 #include <memory>
+#include <tuple>
 
 class ChipInfoItem;
 class DataInfoItem;
 class PreviewFrame;
+class Restyling;
 
 namespace Ui {
 class ItemDetailViewClass;
@@ -54,6 +56,7 @@ protected:
 
 private:
     void loadStyleSheet();
+    void restyle();
     void mirror();
     void fillPicture();
     void placePreview(bool shown);
@@ -63,9 +66,12 @@ private:
     void request();
     DataInfoItem *metadataRow(int index);
 
+    using PictureKey = std::tuple<qint64, QSize, qreal>; // which, into which room, at which scale
+
     std::unique_ptr<Ui::ItemDetailViewClass> ui;
     QPointer<TreeItemData> m_item;
     QTimer m_rest;
+    PictureKey m_pictureKey; ///< of what is shown
     DataInfoItem *m_path;
     DataInfoItem *m_status;
     DataInfoItem *m_size;
@@ -74,6 +80,7 @@ private:
     ChipInfoItem *m_tags;
     PreviewFrame *m_preview;                ///< over a file's picture while the mouse is there
     QVector<DataInfoItem *> m_metadataRows; ///< kept and used again
+    Restyling *m_restyling = nullptr;
     bool m_assessmentFinished = false;
     bool m_mirrored = false;
 };

@@ -4,6 +4,7 @@
 #include "common/commonfunction.h"
 #include "common/fontmanager.h"
 #include "common/qssloader.h"
+#include "common/restyling.h"
 #include "common/screenpixmap.h"
 #include "common/translation.h"
 #include "model/checkbuttonaccessible.h"
@@ -60,6 +61,7 @@ HeaderView::HeaderView(QWidget *parent)
     loadStyleSheet();
     retranslate();
     updateFont();
+    m_restyling = new Restyling(this, [this] { restyle(); });
 }
 
 HeaderView::~HeaderView() = default;
@@ -222,6 +224,11 @@ void HeaderView::loadStyleSheet()
 }
 
 void HeaderView::updateTheme()
+{
+    m_restyling->request();
+}
+
+void HeaderView::restyle()
 {
     loadStyleSheet();
     setCheckIcon(checkIconName(checkState()));

@@ -8,6 +8,7 @@
 #include <memory>
 
 class QPushButton;
+class Restyling;
 
 namespace Ui {
 class HeaderView;
@@ -62,9 +63,11 @@ private:
     void layOut();
     void mirror();
     void loadStyleSheet();
+    void restyle();
 
     std::unique_ptr<Ui::HeaderView> ui;
     std::array<QPushButton *, 4> m_sortButtons; ///< by section
+    Restyling *m_restyling = nullptr;
     HeaderViewSortType m_sortType = NoSort;
     bool m_large = false;
 };

@@ -48,6 +48,8 @@ HostTheme HostTheme::light()
     theme.warn = QColor(150, 86, 0);
     theme.good = QColor(46, 148, 98);
     theme.bad = QColor(206, 66, 63);
+    static const QString s_sheet = theme.makeStyleSheet();
+    theme.m_sheet = s_sheet;
     return theme;
 }
 
@@ -77,6 +79,8 @@ HostTheme HostTheme::dark()
     theme.warn = QColor(255, 172, 46);
     theme.good = QColor(102, 187, 138);
     theme.bad = QColor(238, 110, 106);
+    static const QString s_sheet = theme.makeStyleSheet();
+    theme.m_sheet = s_sheet;
     return theme;
 }
 
@@ -101,7 +105,7 @@ QPalette HostTheme::palette() const
     return palette;
 }
 
-QString HostTheme::styleSheet() const
+QString HostTheme::makeStyleSheet() const
 {
     QFile file(QStringLiteral(":/host/host.qss"));
     if (!file.open(QIODevice::ReadOnly))

@@ -39,6 +39,11 @@ struct HostTheme
     QPalette palette() const;
     /// The stylesheet of the host's own widgets. Set it on those and not on the window: the views
     /// of the plug-in stand in the same window and have sheets of their own.
-    QString styleSheet() const;
+    QString styleSheet() const { return m_sheet; }
     void applyTo(QWidget *part) const;
+
+private:
+    QString makeStyleSheet() const;
+
+    QString m_sheet;
 };

@@ -1,4 +1,5 @@
 #include "common/qssloader.h"
+#include "common/restyling.h"
 #include "common/thememanager.h"
 #include "probe.h"
 #include "support/usersettings.h"
@@ -80,6 +81,7 @@ private slots:
     void loadsStyleSheets_data();
     void loadsStyleSheets();
     void missingStyleSheetKeepsTheLook();
+    void whatIsOutOfSightFollows();
 };
 
 void TestThemeManager::start_data()
@@ -263,6 +265,30 @@ void TestThemeManager::missingStyleSheetKeepsTheLook()
                          "\"/nowhere/a.qss\"");
     QCOMPARE(ThemeManager::instance()->loadThemeFile({QStringLiteral("/nowhere/a.qss")}),
              QString());
+}
+
+void TestThemeManager::whatIsOutOfSightFollows()
+{
+    QWidget window;
+    auto *part = new QWidget(&window);
+    int done = 0;
+    auto *restyling = new Restyling(part, [&done] { ++done; });
+    restyling->request();
+    QCOMPARE(done, 1); // never shown
+    window.show();
+    restyling->request();
+    QCOMPARE(done, 2); // in sight
+    window.hide();
+    restyling->request();
+    restyling->request();
+    QCOMPARE(done, 2);
+    window.show();
+    QCOMPARE(done, 3); // before anybody sees it, and once
+    part->hide();
+    restyling->request();
+    QTRY_COMPARE(done, 4); // without being shown
+    part->show();
+    QCOMPARE(done, 4);
 }
 
 int main(int argc, char **argv)

@@ -8,7 +8,8 @@
 #include <memory>
 
 /// A page that is on the screen while the language changes must end up as one that was opened in
-/// that language: texts, dates, sizes, fonts, directions, and whatever was kept of the old ones.
+/// that language: texts, dates, sizes, fonts, directions, and whatever was kept of the old ones. So
+/// must one whose theme changes, even while nobody sees it.
 class TestLanguageSwitch : public QObject
 {
     Q_OBJECT
@@ -17,8 +18,12 @@ private slots:
     void initTestCase();
     void pages_data();
     void pages();
+    void themes_data();
+    void themes();
 
 private:
+    QImage picture();
+
     std::unique_ptr<Stage> m_stage;
 };
 
@@ -56,6 +61,13 @@ void TestLanguageSwitch::initTestCase()
     QVERIFY(m_stage->load());
 }
 
+QImage TestLanguageSwitch::picture()
+{
+    Stage::settle(SettleMs);
+    leave(m_stage->items());
+    return m_stage->picture(1);
+}
+
 void TestLanguageSwitch::pages_data()
 {
     QTest::addColumn<QString>("page");
@@ -87,11 +99,6 @@ void TestLanguageSwitch::pages()
     QFETCH(QString, from);
     QFETCH(QString, to);
 
-    const auto picture = [this] {
-        Stage::settle(SettleMs);
-        leave(m_stage->items());
-        return m_stage->picture(1);
-    };
     m_stage->setLanguage(to);
     Pages::prepare(page, *m_stage);
     const QImage opened = picture();
@@ -103,6 +110,44 @@ void TestLanguageSwitch::pages()
 
     QCOMPARE(switched.size(), opened.size());
     QCOMPARE(difference(switched, opened), QRect());
+}
+
+void TestLanguageSwitch::themes_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<bool>("seen");
+    for (const char *page : {"grid", "grid-search", "list-pane", "list-kinds", "search-hint"}) {
+        QTest::addRow("%s, in sight", page) << QString::fromLatin1(page) << true;
+        QTest::addRow("%s, out of sight", page) << QString::fromLatin1(page) << false;
+    }
+}
+
+void TestLanguageSwitch::themes()
+{
+    QFETCH(QString, page);
+    QFETCH(bool, seen);
+
+    m_stage->setLanguage(QStringLiteral("English"));
+    m_stage->setTheme(QStringLiteral("dark"));
+    Pages::prepare(page, *m_stage);
+    if (QWidget *focused = QApplication::focusWidget())
+        focused->clearFocus();
+    const QImage opened = picture();
+    m_stage->setTheme(QStringLiteral("light"));
+    Pages::prepare(page, *m_stage);
+    QVERIFY(picture() != opened);
+    m_stage->window().setVisible(seen);
+    m_stage->view()->updateTheme(DarkTheme);
+    m_stage->window().show();
+    const QImage atOnce = m_stage->picture(1);
+    Stage::settle(SettleMs);
+    if (QWidget *focused = QApplication::focusWidget())
+        focused->clearFocus(); // a window that is shown again gives it to somebody
+    const QImage switched = picture();
+    m_stage->setTheme(QStringLiteral("light"));
+
+    QCOMPARE(difference(switched, opened), QRect());
+    QCOMPARE(difference(atOnce, opened), QRect());
 }
 
 QTEST_MAIN(TestLanguageSwitch)
