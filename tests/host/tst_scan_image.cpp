@@ -8,6 +8,8 @@
 #include <QtEndian>
 #include <QtTest>
 
+#include <thread>
+
 namespace {
 
 constexpr qint64 MiB = 1 << 20;
@@ -607,21 +609,20 @@ void TestScanImage::readsOnManyThreads()
     const Scan scan(card.path());
     QCOMPARE(scan.items.size(), 12);
     QAtomicInt right;
-    std::vector<std::unique_ptr<QThread>> threads;
+    std::vector<std::thread> threads; // their end is seen by the thread checker, unlike Qt's
     for (int t = 0; t < 3; ++t) {
-        threads.emplace_back(QThread::create([&] {
+        threads.emplace_back([&] {
             for (const FoundItem &item : scan.items) {
                 const int number = item.name.mid(5).section(QLatin1Char('.'), 0, 0).toInt();
                 if (scan.contents(item) == noise(100000 + number, quint32(number)))
                     right.ref();
             }
-        }));
-        threads.back()->start();
+        });
     }
     std::atomic<bool> cancel{false};
     scan.source->scan([](QVector<FoundItem> &&) {}, cancel); // at the same time
-    for (const auto &thread : threads)
-        thread->wait();
+    for (std::thread &thread : threads)
+        thread.join();
     QCOMPARE(right.loadRelaxed(), 36);
 }
 
