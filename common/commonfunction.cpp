@@ -1,12 +1,14 @@
 #include "common/commonfunction.h"
 
 #include "common/masklayer.h"
+#include "common/smallpng.h"
 #include "common/translation.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QFontMetrics>
+#include <QPixmapCache>
 #include <QScreen>
 #include <QTimeZone>
 #include <QVariant>
@@ -88,6 +90,25 @@ bool isDateWrittenYearFirst(QLocale::Country country)
     default:
         return false;
     }
+}
+
+/// What QPixmap(path) would be. That asks all image plug-ins of Qt, and so loads them, before it
+/// reads a picture; ours need none of them.
+QPixmap readPicture(const QString &path)
+{
+    QFile file(path);
+    if (!path.startsWith(QLatin1String(":/")) || !file.exists())
+        return QPixmap(path);
+    const QString key = QLatin1String("SDCardScanContentPlugin") + path;
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
+    const QImage image = file.open(QIODevice::ReadOnly) ? SmallPng::read(file.readAll()) : QImage();
+    if (image.isNull())
+        return QPixmap(path);
+    pixmap = QPixmap::fromImage(image);
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
 }
 
 QString withoutLeading(const QString &text, QChar character)
@@ -175,7 +196,7 @@ QString CommonFunction::getThemeImagePath(const QString &name, const QString &ex
 
 QPixmap CommonFunction::loadPixmap(const QString &path)
 {
-    QPixmap pixmap(path);
+    QPixmap pixmap = readPicture(path);
     if (pixmap.isNull() || !path.contains(QLatin1String(HighDpiSuffix)))
         return pixmap;
     const int scale = std::max(int(HighDpiRatio), int(getScaleFactor()));

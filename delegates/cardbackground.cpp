@@ -22,9 +22,9 @@ QRect plateRect(const CardLayout &layout)
 
 void CardBackground::load()
 {
-    m_normal = CommonFunction::themePixmap(QStringLiteral("icon_sdcardthum_normal"));
-    m_hover = CommonFunction::themePixmap(QStringLiteral("icon_sdcardthum_hover"));
-    m_selected = CommonFunction::themePixmap(QStringLiteral("icon_sdcardthum_press"));
+    m_normal = {CommonFunction::themePixmap, QStringLiteral("icon_sdcardthum_normal")};
+    m_hover = {CommonFunction::themePixmap, QStringLiteral("icon_sdcardthum_hover")};
+    m_selected = {CommonFunction::themePixmap, QStringLiteral("icon_sdcardthum_press")};
     clear();
 }
 

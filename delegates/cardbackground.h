@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/lazypixmap.h"
 #include "delegates/cardlayout.h"
 #include "model/recoverability.h"
 
@@ -65,8 +66,8 @@ private:
     QPixmap compose(const Key &key, const CardLayout &layout, const Card &card,
                     const RecoverabilityLabel &label) const;
 
-    QPixmap m_normal;
-    QPixmap m_hover;
-    QPixmap m_selected;
+    LazyPixmap m_normal;
+    LazyPixmap m_hover;
+    LazyPixmap m_selected;
     mutable QHash<Key, QPixmap> m_plates;
 };

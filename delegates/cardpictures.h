@@ -1,20 +1,19 @@
 #pragma once
 
+#include "common/lazypixmap.h"
 #include "delegates/checkboxlook.h"
 
-#include <QPixmap>
-
-/// The pictures that cards lay over their background, loaded once per theme.
+/// The pictures that cards lay over their background, of one theme.
 struct CardPictures
 {
     void load();
 
-    QPixmap previewMask;
-    QPixmap previewButton;
-    QPixmap playButton;
+    LazyPixmap previewMask;
+    LazyPixmap previewButton;
+    LazyPixmap playButton;
     CheckBoxPictures checkBox;
-    QPixmap folderIcon;
-    QPixmap recycleBinBadge;
-    QPixmap repairBadge;
-    QPixmap assessingIcon;
+    LazyPixmap folderIcon;
+    LazyPixmap recycleBinBadge;
+    LazyPixmap repairBadge;
+    LazyPixmap assessingIcon;
 };

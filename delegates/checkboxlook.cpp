@@ -33,10 +33,10 @@ Qt::CheckState CheckBox::toggled(int state)
 
 void CheckBoxPictures::load()
 {
-    m_checked = CommonFunction::themePixmap(checkIconName(Qt::Checked));
-    m_partial = CommonFunction::themePixmap(checkIconName(Qt::PartiallyChecked));
-    m_unchecked = CommonFunction::themePixmap(checkIconName(Qt::Unchecked));
-    m_disabled = CommonFunction::themePixmap(QStringLiteral("icon16_uncheck_disable"));
+    m_checked = {CommonFunction::themePixmap, checkIconName(Qt::Checked)};
+    m_partial = {CommonFunction::themePixmap, checkIconName(Qt::PartiallyChecked)};
+    m_unchecked = {CommonFunction::themePixmap, checkIconName(Qt::Unchecked)};
+    m_disabled = {CommonFunction::themePixmap, QStringLiteral("icon16_uncheck_disable")};
 }
 
 const QPixmap &CheckBoxPictures::picture(CheckBox::Look look) const

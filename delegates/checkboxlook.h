@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPixmap>
+#include "common/lazypixmap.h"
 
 class QModelIndex;
 class TreeItemData;
@@ -25,8 +25,8 @@ public:
     const QPixmap &picture(CheckBox::Look look) const;
 
 private:
-    QPixmap m_checked;
-    QPixmap m_partial;
-    QPixmap m_unchecked;
-    QPixmap m_disabled;
+    LazyPixmap m_checked;
+    LazyPixmap m_partial;
+    LazyPixmap m_unchecked;
+    LazyPixmap m_disabled;
 };

@@ -68,8 +68,13 @@ void IconDelegate::loadThemeResources(THEMETYPE theme)
     m_pictures.load();
     m_colors = ItemColors(theme);
     m_names.setColors(m_colors);
-    m_label.setAssessingIcon(m_pictures.assessingIcon);
-    retranslate();
+    m_fontFamily.clear();
+}
+
+void IconDelegate::prepare() const
+{
+    if (m_fontFamily != FontManager::instance()->family())
+        retranslate();
 }
 
 void IconDelegate::retranslate() const
@@ -80,6 +85,7 @@ void IconDelegate::retranslate() const
     m_countFont = fonts->getFont(false);
     m_countFont.setPixelSize(CountFontSize);
     m_label.reload();
+    m_label.setAssessingIcon(m_pictures.assessingIcon);
     m_background.clear();
 }
 
@@ -88,7 +94,7 @@ bool IconDelegate::eventFilter(QObject *watched, QEvent *event)
     if (watched != m_names.renderer())
         return QStyledItemDelegate::eventFilter(watched, event);
     if (event->type() == QEvent::LanguageChange)
-        retranslate();
+        m_fontFamily.clear();
     return false;
 }
 
@@ -120,8 +126,7 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         qDebug() << "icon delegate model index invalid";
         return;
     }
-    if (m_fontFamily != FontManager::instance()->family())
-        retranslate();
+    prepare();
 
     TreeItemData *item = itemOf(index);
     const int kind = item ? index.data(KindRole).toInt() : 0;
@@ -264,6 +269,7 @@ QString IconDelegate::getElidedText(const QString &text, int width) const
             qDebug() << "icondelegate currentThread not mainthread";
             return text;
         }
+        prepare();
         return m_elideCache.elided(text, width, QFontMetrics(m_names.font()));
     } catch (...) {
         qDebug() << "class QString __cdecl IconDelegate::getElidedText(const class QString &,int) "
@@ -366,6 +372,7 @@ void IconDelegate::hover(const QPoint &pos, const CardLayout &layout, const QMod
     const TreeItemData *item = itemOf(index);
     if (!item)
         return;
+    prepare();
     const Recoverability level = recoverabilityOf(item, hasThumbnail(*item), m_assessmentFinished);
     if (m_label.rect(layout.cell, level).contains(pos) && m_labelTip.allows(index)) {
         emit signalShowTooltip(RecoverabilityLabel::tooltip(level));

@@ -78,7 +78,9 @@ signals:
 
 private:
     void loadThemeResources(THEMETYPE theme);
-    /// Texts and fonts of the language; the font family may also change without notice.
+    /// Texts and fonts of the language, when they are needed and not the last ones: no card may
+    /// ever be shown, and the font family also changes without notice.
+    void prepare() const;
     void retranslate() const;
 
     /// Painting is const, and what it finds missing is told all the same.
@@ -116,6 +118,6 @@ private:
     TooltipThrottle m_labelTip;
     THEMETYPE m_theme = LightTheme;
     ItemColors m_colors;
-    mutable QString m_fontFamily;
+    mutable QString m_fontFamily; ///< that is prepared; empty: none
     mutable QFont m_countFont;
 };

@@ -5,7 +5,8 @@
 void RowPictures::load()
 {
     const auto picture = [](const char *name) {
-        return CommonFunction::highDpiPixmap(QLatin1String(":/Images/") + QLatin1String(name));
+        return LazyPixmap(CommonFunction::highDpiPixmap,
+                          QLatin1String(":/Images/") + QLatin1String(name));
     };
     checkBox.load();
     folderIcon = picture("icon32/icon32_File_Folder");

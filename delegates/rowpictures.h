@@ -1,20 +1,19 @@
 #pragma once
 
+#include "common/lazypixmap.h"
 #include "delegates/checkboxlook.h"
 
-#include <QPixmap>
-
-/// The pictures of list rows, loaded once per theme.
+/// The pictures of list rows, of one theme.
 struct RowPictures
 {
     void load();
 
     CheckBoxPictures checkBox;
-    QPixmap folderIcon;
-    QPixmap playButton;
-    QPixmap recycleBinBadge;
-    QPixmap repairBadge;
-    QPixmap location;
-    QPixmap locationHover;
-    QPixmap locationPressed;
+    LazyPixmap folderIcon;
+    LazyPixmap playButton;
+    LazyPixmap recycleBinBadge;
+    LazyPixmap repairBadge;
+    LazyPixmap location;
+    LazyPixmap locationHover;
+    LazyPixmap locationPressed;
 };

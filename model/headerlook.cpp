@@ -49,12 +49,12 @@ HeaderLook::HeaderLook()
 
 void HeaderLook::updateTheme()
 {
-    m_checked = CommonFunction::themePixmap(checkIconName(Qt::Checked));
-    m_unchecked = CommonFunction::themePixmap(checkIconName(Qt::Unchecked));
-    m_halfChecked = CommonFunction::themePixmap(checkIconName(Qt::PartiallyChecked));
-    m_sortDefault = markOf(QStringLiteral("icon_sort_default"));
-    m_sortAscend = markOf(QStringLiteral("icon_sort_ascend"));
-    m_sortDescend = markOf(QStringLiteral("icon_sort_descend"));
+    m_checked = {CommonFunction::themePixmap, checkIconName(Qt::Checked)};
+    m_unchecked = {CommonFunction::themePixmap, checkIconName(Qt::Unchecked)};
+    m_halfChecked = {CommonFunction::themePixmap, checkIconName(Qt::PartiallyChecked)};
+    m_sortDefault = {markOf, QStringLiteral("icon_sort_default")};
+    m_sortAscend = {markOf, QStringLiteral("icon_sort_ascend")};
+    m_sortDescend = {markOf, QStringLiteral("icon_sort_descend")};
 }
 
 int HeaderLook::textWidth(const QString &text)

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "common/lazypixmap.h"
+
 #include <QColor>
 #include <QFont>
-#include <QPixmap>
 #include <QString>
 
 struct HeaderSection;
@@ -42,6 +43,6 @@ private:
     const QPixmap &checkPixmap(int checkState) const;
     const QPixmap &markPixmap(Mark mark) const;
 
-    QPixmap m_checked, m_unchecked, m_halfChecked;
-    QPixmap m_sortDefault, m_sortAscend, m_sortDescend;
+    LazyPixmap m_checked, m_unchecked, m_halfChecked;
+    LazyPixmap m_sortDefault, m_sortAscend, m_sortDescend;
 };

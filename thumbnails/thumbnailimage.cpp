@@ -1,6 +1,6 @@
 #include "thumbnails/thumbnailimage.h"
 
-#include "thumbnails/smallpng.h"
+#include "common/smallpng.h"
 
 #include <QFile>
 #include <QFileInfo>

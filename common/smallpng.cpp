@@ -1,6 +1,6 @@
-#include "thumbnails/smallpng.h"
+#include "common/smallpng.h"
 
-#include "thumbnails/pngrows.h"
+#include "common/pngrows.h"
 
 #include <QtEndian>
 

@@ -1,4 +1,4 @@
-#include "thumbnails/smallpng.h"
+#include "common/smallpng.h"
 
 #include <QBuffer>
 #include <QImageReader>

@@ -1,4 +1,4 @@
-#include "thumbnails/pngrows.h"
+#include "common/pngrows.h"
 
 #include <cstdlib>
 #include <cstring>
