@@ -22,6 +22,7 @@ namespace {
 constexpr auto StateProperty = "state";
 constexpr auto CheckStateProperty = "checkState";
 constexpr auto MirroredProperty = "mirrored";
+constexpr auto ShownProperty = "shown";
 
 constexpr int FontPixelSize = 12;
 constexpr int FontWeight = 400;
@@ -33,6 +34,13 @@ constexpr int SpacerHeight = 20;
 constexpr int SpacerCharacters = 2; // between two buttons, in characters of the bar's font
 constexpr int LeftMargin = 11;
 constexpr int RightMargin = 8;
+
+/// Until a widget is first shown, nothing about its looks needs to be known, and finding out takes
+/// as long as all the rest of it.
+bool hasLook(const QWidget *widget)
+{
+    return widget->testAttribute(Qt::WA_WState_Polished);
+}
 
 } // namespace
 
@@ -98,8 +106,10 @@ void HeaderView::showSort()
             section == sorted ? SpokenText::sortOrder(SortCycle::isDescending(m_sortType))
                               : QString());
         // a stylesheet reads properties only when a widget is polished
-        button->style()->unpolish(button);
-        button->style()->polish(button);
+        if (hasLook(button)) {
+            button->style()->unpolish(button);
+            button->style()->polish(button);
+        }
     }
 }
 
@@ -181,7 +191,31 @@ void HeaderView::resizeEvent(QResizeEvent *event)
     layOut();
 }
 
+void HeaderView::showEvent(QShowEvent *event)
+{
+    // The arrows are the stylesheet's, and Qt reads its pictures at the expense of loading all
+    // plug-ins for images: not before somebody sees them.
+    if (!property(ShownProperty).toBool()) {
+        setProperty(ShownProperty, true);
+        showSort();
+    }
+    QWidget::showEvent(event);
+}
+
 void HeaderView::layOut()
+{
+    // being resized comes with being shown
+    if (hasLook(this))
+        layOutSpacers();
+    // margins are the only thing about a layout that does not turn round by itself
+    const int atEnd = ui->rightEndWidget->isHidden() ? 0 : RightMargin;
+    const bool mirrored = isRightToLeft();
+    ui->headerLayout->setContentsMargins(mirrored ? atEnd : LeftMargin, 0,
+                                         mirrored ? LeftMargin : atEnd, 0);
+    ui->headerLayout->invalidate();
+}
+
+void HeaderView::layOutSpacers()
 {
     const int spacing = fontMetrics().averageCharWidth() * SpacerCharacters;
     // shrinkable: a narrow bar gives up its gaps before its buttons
@@ -192,12 +226,6 @@ void HeaderView::layOut()
     set(ui->sizeSpacer, spacing + (m_large ? SizeSpacerGrowth : 0));
     set(ui->typeSpacer, spacing);
     set(ui->dateSpacer, spacing);
-    // margins are the only thing about a layout that does not turn round by itself
-    const int atEnd = ui->rightEndWidget->isHidden() ? 0 : RightMargin;
-    const bool mirrored = isRightToLeft();
-    ui->headerLayout->setContentsMargins(mirrored ? atEnd : LeftMargin, 0,
-                                         mirrored ? LeftMargin : atEnd, 0);
-    ui->headerLayout->invalidate();
 }
 
 void HeaderView::mirror()
@@ -256,7 +284,8 @@ void HeaderView::updateFont()
     for (QPushButton *button :
          {ui->nameButton, ui->sizeButton, ui->typeButton, ui->dateButton, ui->pathButton}) {
         button->setFont(font);
-        button->adjustSize();
+        if (hasLook(button))
+            button->adjustSize();
     }
     layOut();
 }

@@ -52,6 +52,7 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -61,6 +62,7 @@ private:
     void showSort();
     void setCheckIcon(const QString &name);
     void layOut();
+    void layOutSpacers();
     void mirror();
     void loadStyleSheet();
     void restyle();

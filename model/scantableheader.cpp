@@ -317,6 +317,11 @@ QString ScanTableHeader::textOf(int logicalIndex) const
     return model() ? model()->headerData(logicalIndex, Qt::Horizontal).toString() : QString();
 }
 
+QSize ScanTableHeader::sizeHint() const
+{
+    return {length(), Height}; // the base class measures all texts to find that height
+}
+
 QSize ScanTableHeader::sectionSizeFromContents(int logicalIndex) const
 {
     return {HeaderLook::textWidth(textOf(logicalIndex))

@@ -56,6 +56,7 @@ public:
     void setFocusPart(int part);
     QString textOf(int logicalIndex) const;
 
+    QSize sizeHint() const override;
     void updateTheme();
     /// The texts are the model's; columns are measured again.
     void retranslate();
