@@ -14,7 +14,7 @@ ListMode::ListMode(ScanDataModel *model, QWidget *parent)
     , m_table(new ScanTableView(parent))
     , m_header(new ScanTableHeader(m_table))
     , m_delegate(new ListDelegate(this))
-    , m_pane(new ItemDetailView(parent))
+    , m_pane(new ItemDetailView)
 {
     m_table->setHorizontalHeader(m_header);
     m_table->setModel(model);

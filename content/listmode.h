@@ -21,7 +21,8 @@ class ListMode : public QObject
     Q_OBJECT
 
 public:
-    /// Table and pane become children of \a parent.
+    /// The table becomes a child of \a parent; the pane is for the owner to place, and has no
+    /// parent until then.
     ListMode(ScanDataModel *model, QWidget *parent);
 
     ScanTableView *table() const { return m_table; }

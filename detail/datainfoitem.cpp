@@ -54,6 +54,11 @@ void DataInfoItem::setLink(bool link)
     ui->labValue->setLink(link);
 }
 
+void DataInfoItem::setTabAfter(QWidget *widget)
+{
+    setTabOrder(widget, ui->labValue);
+}
+
 void DataInfoItem::setValueElideMode(Qt::TextElideMode mode)
 {
     ui->labValue->setElideMode(mode);

@@ -23,6 +23,8 @@ public:
     void setValue(const QString &value);
     QString value() const;
     void setLink(bool link);
+    /// The keyboard comes here behind \a widget.
+    void setTabAfter(QWidget *widget);
     void setValueElideMode(Qt::TextElideMode mode);
     void updateTheme();
 

@@ -59,30 +59,14 @@ ItemDetailView::ItemDetailView(QWidget *parent)
     : QWidget(parent)
     , ui(std::make_unique<Ui::ItemDetailViewClass>())
 {
+    loadStyleSheet(); // before there is anything that would have to be styled again
     ui->setupUi(this);
     ui->namelabel->setFont(FontManager::instance()->getFont(true));
     ui->namelabel->setElideMode(Qt::ElideMiddle);
     // The page shows through: a viewport paints the palette's window colour otherwise.
     ui->scrollArea->viewport()->setAutoFillBackground(false);
     ui->scrollAreaWidgetContents->setAutoFillBackground(false);
-    const auto addRow = [this] {
-        auto *row = new DataInfoItem(this);
-        ui->frameListLayout->addWidget(row);
-        return row;
-    };
-    m_path = addRow();
-    m_path->setValueElideMode(Qt::ElideMiddle);
-    m_status = addRow();
-    m_size = addRow();
-    m_resolution = addRow();
-    m_recoverability = addRow();
-    m_tags = new ChipInfoItem(this);
-    ui->frameListLayout->addWidget(m_tags);
-
-    m_preview = new PreviewFrame(ui->frameIconBg);
-    m_preview->hide();
     ui->frameIconBg->installEventFilter(this);
-    connect(m_preview, &PreviewFrame::signalPreviewClicked, ui->openButton, &QPushButton::click);
 
     m_rest.setSingleShot(true);
     m_rest.setInterval(RestMs);
@@ -92,17 +76,40 @@ ItemDetailView::ItemDetailView(QWidget *parent)
         if (m_item)
             emit signalClickedOpen(m_item);
     });
-    connect(m_path, &DataInfoItem::linkClicked, this, [this] {
-        if (m_item)
-            emit signalPathClicked(m_item);
-    });
-    loadStyleSheet();
     mirror();
     retranslate();
     m_restyling = new Restyling(this, [this] { restyle(); });
 }
 
 ItemDetailView::~ItemDetailView() = default;
+
+void ItemDetailView::makeRows()
+{
+    const auto addRow = [this] {
+        auto *row = new DataInfoItem(this);
+        ui->frameListLayout->addWidget(row);
+        row->show();
+        return row;
+    };
+    m_path = addRow();
+    m_path->setValueElideMode(Qt::ElideMiddle);
+    m_path->setTabAfter(ui->scrollArea); // not behind all that the host has made meanwhile
+    m_status = addRow();
+    m_size = addRow();
+    m_resolution = addRow();
+    m_recoverability = addRow();
+    m_tags = new ChipInfoItem(this);
+    ui->frameListLayout->addWidget(m_tags);
+    connect(m_path, &DataInfoItem::linkClicked, this, [this] {
+        if (m_item)
+            emit signalPathClicked(m_item);
+    });
+
+    m_preview = new PreviewFrame(ui->frameIconBg);
+    m_preview->hide();
+    connect(m_preview, &PreviewFrame::signalPreviewClicked, ui->openButton, &QPushButton::click);
+    retranslateRows();
+}
 
 void ItemDetailView::setItem(TreeItemData *item)
 {
@@ -132,6 +139,8 @@ void ItemDetailView::refresh()
         part->setVisible(shown);
     if (!shown)
         return;
+    if (!m_path)
+        makeRows();
     fillPicture();
     placePreview(ui->frameIconBg->underMouse());
     fillFacts();
@@ -176,6 +185,8 @@ void ItemDetailView::fillPicture()
 
 void ItemDetailView::placePreview(bool shown)
 {
+    if (!m_preview)
+        return;
     m_preview->setGeometry(ui->frameIconBg->rect());
     m_preview->setVisible(shown && m_item && m_item->kind == FileKind);
 }
@@ -186,7 +197,7 @@ bool ItemDetailView::eventFilter(QObject *watched, QEvent *event)
         && (event->type() == QEvent::Enter || event->type() == QEvent::Leave
             || event->type() == QEvent::Resize))
         placePreview(event->type() == QEvent::Enter
-                     || (event->type() == QEvent::Resize && m_preview->isVisible()));
+                     || (event->type() == QEvent::Resize && m_preview && m_preview->isVisible()));
     return QWidget::eventFilter(watched, event);
 }
 
@@ -319,8 +330,10 @@ void ItemDetailView::restyle()
     const auto rows = findChildren<DataInfoItem *>();
     for (DataInfoItem *row : rows)
         row->updateTheme();
-    m_tags->updateTheme();
-    m_preview->updateTheme();
+    if (m_path) {
+        m_tags->updateTheme();
+        m_preview->updateTheme();
+    }
     refresh();
 }
 
@@ -335,11 +348,17 @@ void ItemDetailView::retranslate()
     ui->openButton->setText(translatedKey("preview"));
     ui->openButton->setFont(FontManager::instance()->getFont(false));
     ui->namelabel->setFont(FontManager::instance()->getFont(true));
+    if (m_path)
+        retranslateRows();
+    refresh();
+}
+
+void ItemDetailView::retranslateRows()
+{
     m_path->setTitle(translatedKey("path"));
     m_status->setTitle(translatedKey("file_status"));
     m_size->setTitle(translatedKey("size"));
     m_resolution->setTitle(translatedKey("resolution"));
     m_recoverability->setTitle(translatedKey("recoverability_label_list"));
     m_tags->setTitle(translatedKey("ai_tags_title"));
-    refresh();
 }

@@ -20,9 +20,10 @@ class ItemDetailViewClass;
 }
 
 /// The pane beside the list: picture, name and facts of one item. Rows that every item has are made
-/// once and stay where they are; what the host still has to tell fills the rows below when it
-/// comes. Requests to the host are made for an item on which the user rests, not for each one
-/// passed. The item is the host's and may die at any time. GUI thread.
+/// with the first item, for most panes never show one, and stay where they are; what the host still
+/// has to tell fills the rows below when it comes. Requests to the host are made for an item on
+/// which the user rests, not for each one passed. The item is the host's and may die at any time.
+/// GUI thread.
 class ItemDetailView : public QWidget
 {
     Q_OBJECT
@@ -55,6 +56,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void makeRows();
+    void retranslateRows();
     void loadStyleSheet();
     void restyle();
     void mirror();
@@ -71,14 +74,14 @@ private:
     std::unique_ptr<Ui::ItemDetailViewClass> ui;
     QPointer<TreeItemData> m_item;
     QTimer m_rest;
-    PictureKey m_pictureKey; ///< of what is shown
-    DataInfoItem *m_path;
-    DataInfoItem *m_status;
-    DataInfoItem *m_size;
-    DataInfoItem *m_resolution;
-    DataInfoItem *m_recoverability;
-    ChipInfoItem *m_tags;
-    PreviewFrame *m_preview;                ///< over a file's picture while the mouse is there
+    PictureKey m_pictureKey;        ///< of what is shown
+    DataInfoItem *m_path = nullptr; ///< null until there are rows
+    DataInfoItem *m_status = nullptr;
+    DataInfoItem *m_size = nullptr;
+    DataInfoItem *m_resolution = nullptr;
+    DataInfoItem *m_recoverability = nullptr;
+    ChipInfoItem *m_tags = nullptr;
+    PreviewFrame *m_preview = nullptr;      ///< over a file's picture while the mouse is there
     QVector<DataInfoItem *> m_metadataRows; ///< kept and used again
     Restyling *m_restyling = nullptr;
     bool m_assessmentFinished = false;
