@@ -24,9 +24,10 @@ ContentPages::ContentPages(Ui::SDCardContentDataWidgetClass &form, bool searchSi
     , m_animation(new ScanAnimation(form.animationframe, this))
     , m_searchSide(searchSide)
 {
-    form.stackedWidget->setCurrentWidget(searchSide ? form.scandatapage : form.scanningpage);
+    // A page that is shown is measured at once, so it needs its fonts and pictures before.
     loadImages();
     applyFonts();
+    form.stackedWidget->setCurrentWidget(searchSide ? form.scandatapage : form.scanningpage);
 }
 
 PageChoice::Situation ContentPages::situation(const TreeItemData *root) const

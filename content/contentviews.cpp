@@ -63,11 +63,9 @@ ContentViews::ContentViews(Ui::SDCardContentDataWidgetClass &form, ScanDataModel
     form.headerViewHorizontalLayout->addWidget(form.iconModeHederView, 1);
     form.horizontalLayout_4->insertWidget(1, m_list->table(), 1);
     form.itemDetailFrameVLayout->addWidget(m_list->pane());
-    form.itemDetailframe->hide();
-    form.vlineframe->hide();
-    form.spaceframe->hide(); // it belongs to the pane, and the cards would jump when it goes
-    form.listModeHeaderView->hide();
-    form.iconModeHederView->hide();
+    // All that may be hidden is so in the form; the space belongs to the pane, and the cards would
+    // jump when it went.
+    form.headerViewFrame->show();
 
     orderTabs();
     describeItems();

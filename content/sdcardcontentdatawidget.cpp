@@ -37,13 +37,13 @@ SDCardContentDataWidget::SDCardContentDataWidget(int side, QWidget *parent)
     : QWidget(parent)
     , ui(std::make_unique<Ui::SDCardContentDataWidgetClass>())
 {
+    loadStyleSheet(); // before there is anything that would have to be styled again
     ui->setupUi(this);
     qRegisterMetaType<QItemSelection>("QItemSelection");
     m_pages = new ContentPages(*ui, side == SearchSide, this);
     createParts();
     connectParts();
     connectViews();
-    loadStyleSheet();
     retranslate();
     m_restyling = new Restyling(this, [this] { restyle(); });
 }
