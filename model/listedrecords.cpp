@@ -2,6 +2,7 @@
 
 #include "model/earlierrows.h"
 #include "model/inparallel.h"
+#include "model/keyfingerprint.h"
 #include "model/recordcheck.h"
 
 #include <QStringView>
@@ -200,4 +201,29 @@ std::vector<const TreeItemData *> ListedRecords::all() const
         size() >= WorthTwoThreads, [&] { collect(0, size() / 2); },
         [&] { collect(size() / 2, size()); });
     return records;
+}
+
+quint64 ListedRecords::fingerprint(int sortRole) const
+{
+    const auto half = [this, sortRole](size_t from, size_t end) {
+        KeyFingerprint print(sortRole);
+        std::array<const TreeItemData *, KeyFingerprint::MostAtOnce> records;
+        while (from < end) {
+            const size_t count = std::min(records.size(), end - from);
+            for (size_t i = 0; i < count; ++i)
+                records[i] = at(from + i);
+            print.add(records.data(), count);
+            from += count;
+        }
+        return print.value();
+    };
+    quint64 first = 0;
+    quint64 second = 0;
+    runInParallel(
+        size() >= WorthTwoThreads, [&] { first = half(0, size() / 2); },
+        [&] { second = half(size() / 2, size()); });
+    KeyFingerprint both(sortRole);
+    both.add(first);
+    both.add(second);
+    return both.value();
 }

@@ -54,6 +54,8 @@ public:
     std::vector<size_t> positionsOf(const TreeItemData *record, bool one) const;
     /// Null where a record has died.
     std::vector<const TreeItemData *> all() const;
+    /// Of the keys of all.
+    quint64 fingerprint(int sortRole) const;
 
     /// Hands the living records from position \a from to before \a end to \a visit.
     template <typename Visit>

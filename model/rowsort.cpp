@@ -11,6 +11,7 @@
 #include <array>
 #include <limits>
 #include <numeric>
+#include <optional>
 
 namespace {
 
@@ -54,11 +55,46 @@ std::vector<NumberKey> numberKeys(const Records &records, int sortRole, Qt::Sort
 {
     constexpr quint64 SignBit = quint64(1) << 63;
     std::vector<NumberKey> keys(records.size());
-    for (size_t i = 0; i < records.size(); ++i) {
-        const quint64 number = quint64(numberOf(records[i], sortRole)) ^ SignBit;
-        keys[i] = {order == Qt::AscendingOrder ? number : ~number, quint32(i)};
-    }
+    const auto collect = [&](size_t from, size_t end) {
+        for (size_t i = from; i < end; ++i) {
+            const quint64 number = quint64(numberOf(records[i], sortRole)) ^ SignBit;
+            keys[i] = {order == Qt::AscendingOrder ? number : ~number, quint32(i)};
+        }
+    };
+    const size_t middle = keys.size() / 2;
+    runInParallel(
+        keys.size() >= WorthTwoThreads, [&] { collect(0, middle); },
+        [&] { collect(middle, keys.size()); });
     return keys;
+}
+
+/// Nothing when \a known is not right any more.
+std::optional<Order> mergedNumbers(const std::vector<NumberKey> &keys, const Order &known)
+{
+    const auto before = [&keys](quint32 a, quint32 b) {
+        return keys[a].number != keys[b].number ? keys[a].number < keys[b].number : a < b;
+    };
+    const auto middle = known.begin() + std::ptrdiff_t(known.size() / 2);
+    bool first = false;
+    bool second = false;
+    runInParallel(
+        known.size() >= WorthTwoThreads,
+        [&] { first = std::is_sorted(known.begin(), middle + 1, before); },
+        [&] { second = std::is_sorted(middle, known.end(), before); });
+    if (!first || !second)
+        return std::nullopt;
+    std::vector<bool> isKnown(keys.size());
+    for (const quint32 position : known)
+        isKnown[position] = true;
+    Order added;
+    for (quint32 position = 0; position < keys.size(); ++position) {
+        if (!isKnown[position])
+            added.push_back(position);
+    }
+    std::sort(added.begin(), added.end(), before);
+    Order order(keys.size());
+    std::merge(known.begin(), known.end(), added.begin(), added.end(), order.begin(), before);
+    return order;
 }
 
 Order sortedNumbers(std::vector<NumberKey> keys)
@@ -169,8 +205,14 @@ Order sorted(const Records &records, int sortRole, Qt::SortOrder order, const Or
         return {};
     switch (sortRole) {
     case SizeRole:
-    case ModifiedTimeRole:
-        return sortedNumbers(numberKeys(records, sortRole, order));
+    case ModifiedTimeRole: {
+        std::vector<NumberKey> keys = numberKeys(records, sortRole, order);
+        if (!known.empty()) {
+            if (std::optional<Order> merged = mergedNumbers(keys, known))
+                return std::move(*merged);
+        }
+        return sortedNumbers(std::move(keys));
+    }
     case NameRole:
     case KindRole:
     case PathTextRole: {

@@ -15,6 +15,7 @@
 #include <QVector>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// Flat, sortable rows over the host's scan records. The host owns the records and may destroy one
@@ -103,6 +104,8 @@ private:
                     const ListedRecords::Parts &same) const;
     /// The first row from \a from on, and then from the top, whose name begins with \a text.
     int rowOfName(const QString &text, int from) const;
+    /// The rows need not be put in order again when all records are where they were.
+    bool isStillInOrder() const;
     RowSort::Order sortedOrder(const RowSort::Order &known) const;
     /// Gives persistent indexes the rows that their records have now.
     void remapPersistentIndexes(const RowSort::Order &previous);
@@ -114,7 +117,8 @@ private:
     int rowOfId(RecordId which, qint64 id) const;
 
     ListedRecords m_records;
-    RowSort::Order m_order; ///< position in m_records by row; empty: the same
+    RowSort::Order m_order;              ///< position in m_records by row; empty: the same
+    std::optional<quint64> m_sortedKeys; ///< what m_order was made from, when that is known
     EarlierRows m_earlier;
     int m_sortRole = NameRole;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;

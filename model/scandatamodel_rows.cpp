@@ -60,6 +60,7 @@ void ScanDataModel::clear()
     beginResetModel();
     m_records.clear();
     RowSort::Order().swap(m_order);
+    m_sortedKeys.reset();
     m_unchangedPrefix = 0;
     m_earlier.forget();
     endResetModel();
@@ -76,9 +77,16 @@ void ScanDataModel::takeChildren(const TreeItemData &folder)
     m_earlier.begin(before.folders, before.files);
     const ListedRecords::Parts same = m_records.replace(folder, m_earlier);
     const ListedRecords::Parts now = m_records.parts();
+    const bool unchanged = same == before && now == before;
+    if (unchanged && isStillInOrder()) {
+        m_earlier.forget();
+        m_unchangedPrefix = int(now.total());
+        return;
+    }
 
     RowSort::Order previous;
     previous.swap(m_order);
+    m_sortedKeys.reset();
     if (m_sorted) {
         const bool grown = now.folders >= before.folders && now.files >= before.files;
         if (!grown || previous.empty()) {
@@ -93,6 +101,8 @@ void ScanDataModel::takeChildren(const TreeItemData &folder)
             }
             m_order = sortedOrder(known);
         }
+        if (unchanged) // and may be so again
+            m_sortedKeys = m_records.fingerprint(m_sortRole);
     }
     m_unchangedPrefix = prefixSince(previous, before, same);
     m_earlier.end(std::move(previous), now.folders, now.files);
@@ -118,6 +128,13 @@ int ScanDataModel::prefixSince(const RowSort::Order &previous, const ListedRecor
             break;
     }
     return int(row);
+}
+
+bool ScanDataModel::isStillInOrder() const
+{
+    if (!m_sorted || m_order.empty())
+        return !m_sorted && m_order.empty();
+    return m_sortedKeys && *m_sortedKeys == m_records.fingerprint(m_sortRole);
 }
 
 RowSort::Order ScanDataModel::sortedOrder(const RowSort::Order &known) const
@@ -161,6 +178,7 @@ void ScanDataModel::sort(int column, Qt::SortOrder order)
         m_unchangedPrefix = 0;
         RowSort::Order previous = sortedOrder({});
         previous.swap(m_order);
+        m_sortedKeys = m_records.fingerprint(m_sortRole);
         remapPersistentIndexes(previous);
         m_earlier.end(std::move(previous), parts.folders, parts.files);
     }

@@ -171,24 +171,26 @@ void tst_RowSort::sameAsPlain()
 void tst_RowSort::knownOrderChangesNothing_data()
 {
     QTest::addColumn<int>("knownSize");
-    QTest::addColumn<bool>("renamed");
+    QTest::addColumn<bool>("changed");
     QTest::newRow("some new") << 1900 << false;
     QTest::newRow("nearly all new") << 3 << false;
     QTest::newRow("none new") << 2000 << false;
-    QTest::newRow("renamed since") << 1900 << true;
+    QTest::newRow("changed since") << 1900 << true;
 }
 
 void tst_RowSort::knownOrderChangesNothing()
 {
     QFETCH(int, knownSize);
-    QFETCH(bool, renamed);
+    QFETCH(bool, changed);
     const Sample sample(2000, QString(), QStringLiteral("abC"), 6);
     for (const int role : s_roles) {
         for (const auto order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
             const Records old(sample.records.begin(), sample.records.begin() + knownSize);
             const RowSort::Order known = RowSort::sorted(old, role, order);
-            if (renamed)
+            if (changed) {
                 sample.owned[7]->name += QLatin1Char('x');
+                sample.owned[7]->fileSize = sample.owned[7]->modifiedTime = 17;
+            }
             QVERIFY(RowSort::sorted(sample.records, role, order, known)
                     == plainlySorted(sample.records, role, order));
         }

@@ -227,7 +227,7 @@ void tst_ScanDataModel::growthIsLikeOpeningAnew()
     for (int step = 0; step < 1500; ++step) {
         const QList<TreeItemData *> &alive = host.alive();
         bool hasOnlyGrown = true;
-        switch (random.bounded(12)) {
+        switch (random.bounded(14)) {
         case 0:
             host.addFolder();
             break;
@@ -254,6 +254,17 @@ void tst_ScanDataModel::growthIsLikeOpeningAnew()
             break;
         case 5:
             host.root.childFiles.append(nullptr);
+            break;
+        case 6: // what rows are sorted by changes while they are listed
+            if (!alive.isEmpty()) {
+                TreeItemData *const changed = alive.at(random.bounded(alive.size()));
+                changed->fileSize = changed->folderSize = changed->modifiedTime = random.bounded(
+                    30);
+                changed->name = changed->path = changed->extension = QString::number(
+                    random.bounded(40), 16);
+            }
+            break;
+        case 7: // nothing
             break;
         default:
             for (int count = random.bounded(4); count > 0; --count)
