@@ -21,19 +21,36 @@ constexpr qint64 LargePixels = 16'000'000;
 /// A JPEG is made from its blocks at a half, a quarter or an eighth of its size, which is faster.
 constexpr int JpegReduction = 4;
 
-/// Runs dry when its thread is asked to end, so that a slow decode ends at its next read.
-class InterruptibleFile : public QFile
+/// Runs dry when its thread is asked to end, so that a slow decode ends at its next read. Not a
+/// QFile to its readers: they map those into memory, and the process ends when somebody cuts a
+/// mapped file short.
+class InterruptibleFile : public QIODevice
 {
 public:
-    using QFile::QFile;
+    explicit InterruptibleFile(const QString &path)
+        : m_file(path)
+    {
+        if (m_file.open(ReadOnly | Unbuffered))
+            open(ReadOnly);
+    }
+
+    qint64 size() const override { return m_file.size(); }
+    bool seek(qint64 position) override
+    {
+        return QIODevice::seek(position) && m_file.seek(position);
+    }
 
 protected:
     qint64 readData(char *data, qint64 maxSize) override
     {
         if (QThread::currentThread()->isInterruptionRequested())
             return -1;
-        return QFile::readData(data, maxSize);
+        return m_file.read(data, maxSize);
     }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    QFile m_file;
 };
 
 bool paysToReduceWhileReading(const QByteArray &format, qint64 pixels, const QSize &target)
@@ -61,7 +78,7 @@ QImage scaledTo(const QSize &target, const QImage &image)
 }
 
 /// Null for all that is not a small PNG file, which is read from its beginning then.
-QImage readSmallPng(QFile &file)
+QImage readSmallPng(QIODevice &file)
 {
     if (file.size() > SmallPng::MostBytes || !SmallPng::isPng(file.peek(8)))
         return {};
@@ -98,7 +115,7 @@ QImage load(const QString &path, const QSize &room)
     if (!QFileInfo(path).isFile())
         return {};
     InterruptibleFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.isOpen())
         return {};
     const QImage small = readSmallPng(file);
     if (!small.isNull())
