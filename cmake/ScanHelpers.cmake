@@ -26,7 +26,9 @@ add_compile_definitions(QT_DEPRECATED_WARNINGS
 
 add_library(scan_warnings INTERFACE)
 if(MSVC)
-    target_compile_options(scan_warnings INTERFACE /W4 /utf-8 $<$<BOOL:${QUARVO_WERROR}>:/WX>)
+    # whatever links the warnings or not: texts are UTF-8, and the language is the standard's
+    add_compile_options(/utf-8 /permissive- /Zc:__cplusplus /bigobj)
+    target_compile_options(scan_warnings INTERFACE /W4 $<$<BOOL:${QUARVO_WERROR}>:/WX>)
 else()
     target_compile_options(scan_warnings INTERFACE
         -Wall -Wextra -Wshadow -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual

@@ -42,8 +42,8 @@ ViewAccessible::~ViewAccessible()
     listenedTo().remove(m_key);
 }
 
-ViewAccessible::Registered::Registered(QAccessibleInterface *interface)
-    : id(QAccessible::registerAccessibleInterface(interface))
+ViewAccessible::Registered::Registered(QAccessibleInterface *accessible)
+    : id(QAccessible::registerAccessibleInterface(accessible))
 {
 }
 

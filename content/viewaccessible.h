@@ -49,7 +49,7 @@ private:
     /// An interface that goes with it.
     struct Registered
     {
-        explicit Registered(QAccessibleInterface *interface);
+        explicit Registered(QAccessibleInterface *accessible); // "interface" is a macro on Windows
         ~Registered();
         Q_DISABLE_COPY(Registered)
         const QAccessible::Id id;
