@@ -22,7 +22,9 @@ std::shared_ptr<LottieAnimation> LottieAnimation::load(const QString &path)
     if (!QFileInfo(path).isFile() || file.size() > LargestFile || !file.open(QIODevice::ReadOnly))
         return {};
     // read here and not by rlottie, whose file names are not Unicode everywhere
-    const QByteArray json = file.readAll();
+    QByteArray json = file.readAll();
+    if (json.startsWith("\xef\xbb\xbf")) // as editors on Windows like it, and the parser does not
+        json.remove(0, 3);
     const std::string folder =
         QDir::toNativeSeparators(QFileInfo(path).absolutePath() + QLatin1Char('/')).toStdString();
     constexpr bool shared = false;

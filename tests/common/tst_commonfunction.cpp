@@ -200,6 +200,9 @@ void TestCommonFunction::locations_data()
     QTest::newRow("only one leading separator") << "//server/share"
                                                 << ""
                                                 << "\\server\\share";
+    addRow("a share as root", "/Volume\\DCIM/100", "\\\\server\\share",
+           "\\\\server\\share\\DCIM\\100");
+    addRow("a long path's prefix", "/DCIM", "\\\\?\\E:\\", "\\\\?\\E:\\DCIM");
     addRow("volume itself", "Volume", "E:", "E:\\");
     addRow("volume itself, with a slash", "/Volume", "E:", "E:\\");
     addRow("a folder that begins like it", "Volumes/a", "E:", "E:\\Volumes\\a");

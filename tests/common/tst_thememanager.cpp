@@ -80,6 +80,8 @@ private slots:
     void themeTravelsInQueuedSignals();
     void loadsStyleSheets_data();
     void loadsStyleSheets();
+    void styleSheetFiles_data();
+    void styleSheetFiles();
     void missingStyleSheetKeepsTheLook();
     void whatIsOutOfSightFollows();
 };
@@ -249,6 +251,43 @@ void TestThemeManager::loadsStyleSheets()
     QCOMPARE(QSSLoader::loadStyleSheet(QStringLiteral("TestModule"), files), text);
     QDir(themes + QStringLiteral("light/TestModule")).removeRecursively();
     QDir(themes + QStringLiteral("dark/TestModule")).removeRecursively();
+}
+
+void TestThemeManager::styleSheetFiles_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+
+    const QByteArray plain("QLabel\n{\n    color: red;\n}\n");
+    const QByteArray fromWindows = QByteArray(plain).replace("\n", "\r\n");
+    QTest::newRow("lines end as on Windows") << "a.qss" << fromWindows;
+    QTest::newRow("an editor's mark in front") << "a.qss"
+                                               << "\xef\xbb\xbf" + fromWindows;
+    QTest::newRow("more than 300 characters")
+        << QString(150, 'f') + QLatin1Char('/') + QString(150, 'g') + QLatin1String("/a.qss")
+        << plain;
+    // Chinese, a letter of two units, an accent on its own
+    QTest::newRow("letters of no code page")
+        << QStringLiteral(u"\u4E3B\u9898 \U0001F3A8/e\u0301.qss") << plain;
+}
+
+void TestThemeManager::styleSheetFiles()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
+
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(name);
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    const QString text = QStringLiteral("QLabel\n{\n    color: red;\n}\n");
+    for (const QString &form : {path, QDir::toNativeSeparators(path)}) {
+        QCOMPARE(QSSLoader::loadFiles({form}), text);
+        QCOMPARE(ThemeManager::instance()->loadThemeFile({form, form}), text + text);
+    }
 }
 
 void TestThemeManager::missingStyleSheetKeepsTheLook()

@@ -88,6 +88,8 @@ void TestZVLottie::sources_data()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray whole = file.readAll();
     QTest::newRow("animation") << whole << true;
+    QTest::newRow("lines end as on Windows") << QByteArray(whole).replace("\n", "\r\n") << true;
+    QTest::newRow("an editor's mark in front") << "\xef\xbb\xbf" + whole << true;
     QTest::newRow("empty file") << QByteArray() << false;
     QTest::newRow("cut off") << whole.left(whole.size() / 2) << false;
     QTest::newRow("other JSON") << QByteArray("{\"name\": \"value\"}") << false;
@@ -103,7 +105,9 @@ void TestZVLottie::sources()
     QFETCH(bool, loads);
 
     QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("Über 動画.json"));
+    const QString deep = dir.filePath(QString(150, 'd') + QLatin1Char('/') + QString(150, 'e'));
+    QVERIFY(QDir().mkpath(deep));
+    const QString path = deep + QStringLiteral("/Über 動画.json");
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(content);
@@ -111,6 +115,7 @@ void TestZVLottie::sources()
 
     ZVLottie lottie{QString()};
     QCOMPARE(lottie.setSource(path), loads);
+    QCOMPARE(lottie.setSource(QDir::toNativeSeparators(path)), loads);
     QCOMPARE(lottie.setSource(dir.path()), false);
     QCOMPARE(lottie.setSource(dir.filePath(QStringLiteral("missing.json"))), false);
     QVERIFY(!lottie.isPlaying());
