@@ -12,15 +12,27 @@ namespace {
 
 constexpr int MaxPath = 32768;
 
+/// With the prefix that lifts the limit of 260 characters. Qt gives it to the files that it opens,
+/// and what it can write to has to be found here too.
+QString unlimited(const QString &path)
+{
+    const QString native = QDir::toNativeSeparators(path);
+    if (native.startsWith(QLatin1String("\\\\?\\")) || native.startsWith(QLatin1String("\\\\.\\")))
+        return native;
+    const QString whole = QDir::toNativeSeparators(
+        QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    return whole.startsWith(QLatin1String("\\\\")) ? QLatin1String("\\\\?\\UNC") + whole.mid(1)
+                                                   : QLatin1String("\\\\?\\") + whole;
+}
+
 /// An open file, folder, volume or disk; nothing of its contents is read or locked.
 class Handle
 {
 public:
     explicit Handle(const QString &path)
-        : m_handle(
-            CreateFileW(reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(path).utf16()),
-                        0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                        OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr))
+        : m_handle(CreateFileW(reinterpret_cast<const wchar_t *>(unlimited(path).utf16()), 0,
+                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                               OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr))
     {
     }
     ~Handle()
@@ -43,23 +55,38 @@ bool isDevice(const QString &path)
     return QDir::toNativeSeparators(path).startsWith(QLatin1String("\\\\.\\"));
 }
 
-/// Links, junctions and substituted drives resolved; with the volume's own name in front.
+/// Links, junctions and substituted drives resolved; with the volume's own name in front, or a
+/// share's, which has no such name.
 QString finalPath(const QString &path)
 {
     const Handle file(path);
+    if (!file.isOpen())
+        return {};
     QVector<wchar_t> text(MaxPath);
-    const DWORD length = file.isOpen()
-        ? GetFinalPathNameByHandleW(file.get(), text.data(), DWORD(text.size()), VOLUME_NAME_GUID)
-        : 0;
-    return length > 0 && length < DWORD(text.size())
-        ? QString::fromWCharArray(text.data(), int(length))
-        : QString();
+    for (const DWORD form : {VOLUME_NAME_GUID, VOLUME_NAME_DOS}) {
+        const DWORD length = GetFinalPathNameByHandleW(file.get(), text.data(), DWORD(text.size()),
+                                                       form);
+        if (length > 0 && length < DWORD(text.size()))
+            return QString::fromWCharArray(text.data(), int(length));
+    }
+    // not every file system answers for every path; what lies above may
+    const QFileInfo info(QDir::cleanPath(path));
+    const QString folder = info.path();
+    const QString above = folder == info.filePath() ? QString() : finalPath(folder);
+    return above.isEmpty() ? above : above + QLatin1Char('\\') + info.fileName();
 }
 
+bool isShare(const QString &path)
+{
+    return path.startsWith(QLatin1String("\\\\?\\UNC\\"));
+}
+
+/// "\\?\Volume{...}" or "\\?\UNC\server\share".
 QString volumeOf(const QString &path)
 {
-    const QString whole = finalPath(path); // "\\?\Volume{...}\folder"
-    return whole.left(whole.indexOf(QLatin1Char('}')) + 1);
+    const QString whole = finalPath(path);
+    return isShare(whole) ? whole.section(QLatin1Char('\\'), 0, 5)
+                          : whole.left(whole.indexOf(QLatin1Char('}')) + 1);
 }
 
 QByteArray diskName(DWORD number)
@@ -102,6 +129,8 @@ bool System::isOnMedium(const QString &folder, const QString &medium)
 QSet<QByteArray> System::disksOf(const QString &path)
 {
     const QString name = isDevice(path) ? path : volumeOf(path);
+    if (isShare(name))
+        return {name.toLower().toUtf8()};
     const Handle device(name);
     if (!device.isOpen())
         return {};

@@ -25,6 +25,7 @@ private slots:
     void memoryIsWhatWindowsSays();
     void classShadowGoes();
     void pinnedLibraryStays();
+    void namesOfOneFolder_data();
     void namesOfOneFolder();
 };
 
@@ -122,22 +123,47 @@ void TestSystemWindows::pinnedLibraryStays()
     QVERIFY(GetModuleHandleW(L"msimg32.dll"));
 }
 
+void TestSystemWindows::namesOfOneFolder_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("short") << "Card";
+    QTest::newRow("more than 300 characters")
+        << QString(150, QLatin1Char('c')) + QLatin1Char('/') + QString(150, QLatin1Char('D'));
+    QTest::newRow("letters of no code page")
+        << QStringLiteral(u"\u7167\u7247 \U0001F4F7 e\u0301 \u00C4");
+}
+
+// Who asks whether a target lies on the card must not be told "no" for how the path is written.
 void TestSystemWindows::namesOfOneFolder()
 {
-    const QTemporaryDir place;
-    QVERIFY(QDir(place.path()).mkpath(QStringLiteral("Card/DCIM")));
-    const QString card = place.filePath(QStringLiteral("Card"));
-    const QString native = QDir::toNativeSeparators(card);
-    for (const QString &name :
-         {card.toUpper(), native, native + QLatin1Char('\\'), QStringLiteral("\\\\?\\") + native}) {
-        QVERIFY2(System::isSameFile(name, card), qPrintable(name));
-        QVERIFY2(System::isInside(card + QStringLiteral("/DCIM"), name), qPrintable(name));
-        QCOMPARE(System::disksOf(name), System::disksOf(card));
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(name);
+    const QString inside = path + QLatin1String("/inside");
+    QVERIFY(QDir().mkpath(inside));
+    QVERIFY(QDir().mkpath(path + QLatin1String(" beside")));
+
+    const QString native = QDir::toNativeSeparators(path);
+    for (const QString &form :
+         {path, native, path + QLatin1Char('/'), path.toUpper(), QLatin1String("\\\\?\\") + native,
+          path + QLatin1String("/inside/..")}) {
+        QVERIFY2(System::isSameFile(form, path), qPrintable(form));
+        QVERIFY2(System::isInside(inside, form), qPrintable(form));
+        QVERIFY2(System::isInside(form, path), qPrintable(form));
+        QVERIFY2(!System::isInside(form, inside), qPrintable(form));
+        QVERIFY2(!System::isInside(path + QLatin1String(" beside"), form), qPrintable(form));
+        QCOMPARE(System::disksOf(form), System::disksOf(folder.path()));
+    }
+    const QString drive = path.left(2);
+    QVERIFY(System::isInside(path, drive + QLatin1Char('\\')));
+    QVERIFY(!System::isSameFile(path, drive + QLatin1String("/no such folder")));
+    for (const char *none : {"", "\\\\nosuchserver\\share\\x", "\\\\.\\Q:", "Q:\\x", "Q:"}) {
+        QVERIFY(!System::isInside(QLatin1String(none), path));
+        QCOMPARE(System::disksOf(QLatin1String(none)), QSet<QByteArray>());
     }
     // a whole volume as a device is on the disk of what lies on it
-    const QString volume = QStringLiteral("\\\\.\\") + card.left(2);
-    QVERIFY(!System::isOnMedium(card, QStringLiteral("\\\\.\\PhysicalDrive999")));
-    QVERIFY(System::isOnMedium(card, volume));
+    QVERIFY(!System::isOnMedium(path, QStringLiteral("\\\\.\\PhysicalDrive999")));
+    QVERIFY(System::isOnMedium(path, QLatin1String("\\\\.\\") + drive));
 }
 
 QTEST_MAIN(TestSystemWindows)
