@@ -26,7 +26,9 @@ QIcon driveOrFolderIcon(const TreeItemData &item)
 {
     QString path = item.path;
     path.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    const QFileInfo info(path + QLatin1Char('/') + item.name);
+    if (path != QLatin1String("/")) // with another slash the name would be that of a server
+        path += QLatin1Char('/');
+    const QFileInfo info(path + item.name);
     if (info.isRoot())
         return QIcon(QStringLiteral(":/Resources/icon80_local disk-normal@2x.png"));
     if (info.isDir())

@@ -699,6 +699,11 @@ void tst_ScanDataModel::decoration()
     item->name = QFileInfo(here.path()).fileName();
     const QIcon folder = icon().value<QIcon>();
     QVERIFY(!folder.isNull());
+    // a folder in the root of the disk is no server
+    const QStringList top = QDir(QStringLiteral("/")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    item->path = QStringLiteral("\\");
+    item->name = top.constFirst();
+    QCOMPARE(icon().value<QIcon>().pixmap(64).toImage(), folder.pixmap(64).toImage());
 }
 
 void tst_ScanDataModel::folderDiesWhileOpened()
