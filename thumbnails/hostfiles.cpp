@@ -1,5 +1,7 @@
 #include "thumbnails/hostfiles.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr QChar IdMark(0x1);
@@ -8,7 +10,9 @@ constexpr QChar IdMark(0x1);
 QString patternOf(qint64 fileId, const QString &path)
 {
     const QString id = QString::number(fileId);
-    const int name = path.lastIndexOf(QLatin1Char('/')) + 1;
+    const int name = std::max(path.lastIndexOf(QLatin1Char('/')),
+                              path.lastIndexOf(QLatin1Char('\\')))
+        + 1;
     if (path.contains(IdMark) || path.midRef(name, id.size()) != id)
         return path;
     return path.leftRef(name) + IdMark + path.midRef(name + id.size());

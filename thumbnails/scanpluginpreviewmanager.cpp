@@ -62,7 +62,7 @@ ScanPluginPreviewManager::ScanPluginPreviewManager()
     , m_thread(new QThread)
 {
     qRegisterMetaType<TreeItemData *>("TreeItemData*");
-    ThumbnailFiles::createRoot();
+    createFolder();
     connect(this, &ScanPluginPreviewManager::signalUpdateThumBnail, this,
             &ScanPluginPreviewManager::slotUpdateThumBnail);
 
@@ -120,11 +120,20 @@ bool ScanPluginPreviewManager::isAnswered(qint64 fileId) const
     return m_pictures.contains(fileId) || m_nothingToShow.contains(fileId);
 }
 
+void ScanPluginPreviewManager::createFolder()
+{
+    const QString folder = ThumbnailFiles::root();
+    if (ThumbnailFiles::createRoot() || folder == m_uselessFolder)
+        return;
+    m_uselessFolder = folder; // said once
+    qWarning() << "ScanPluginPreviewManager cannot create the folder for thumbnails:" << folder;
+}
+
 void ScanPluginPreviewManager::startWorker()
 {
     if (m_thread->isRunning())
         return;
-    ThumbnailFiles::createRoot();
+    createFolder();
     // an application may end without its loop having run: then nobody hears aboutToQuit()
     qRemovePostRoutine(joinWorker);
     qAddPostRoutine(joinWorker);

@@ -85,6 +85,8 @@ private:
     ScanPluginPreviewManager();
     ~ScanPluginPreviewManager() override = default;
 
+    /// Where the host puts the files. What keeps it from being there is said once a folder.
+    void createFolder();
     void startWorker();
     bool isAnswered(qint64 fileId) const;
     /// What the worker has loaded, on its way to the GUI thread.
@@ -116,6 +118,7 @@ private:
     QSet<qint64> m_overtaken;              ///< pending ones that the host has answered meanwhile
     QHash<qint64, Guard> m_askedOfHost;
     HostFiles m_hostFiles;
+    QString m_uselessFolder; ///< the last one that could not be created
     std::mutex m_loadedLock; ///< guards m_loaded
     std::vector<Loaded> m_loaded;
     std::atomic<int> m_epoch{0}; ///< grows with each stop(): what was loaded before is dropped

@@ -12,9 +12,10 @@ QString root()
     return QDir::tempPath() + QLatin1String("/Zenvoor_Quarvo/");
 }
 
-void createRoot()
+bool createRoot()
 {
-    QDir().mkpath(root());
+    // where the system's folder is missing, some systems name none, and root() is one of the disk's
+    return !QDir::tempPath().isEmpty() && QDir().mkpath(root());
 }
 
 // All markers of a name are replaced in one call: an extension that looks like one stays as it is.

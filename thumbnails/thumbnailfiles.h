@@ -9,7 +9,8 @@ namespace ThumbnailFiles {
 
 /// Ends in '/'.
 QString root();
-void createRoot();
+/// True when it is there, be it from before.
+bool createRoot();
 
 QString repairedPreview(qint64 fileId, const QString &extension);
 QString pngThumbnail(qint64 fileId, const QString &extension);

@@ -32,7 +32,7 @@ QString ThumbnailFiles::write(qint64 fileId, const QString &extension, const QIm
                              .arg(folder)
                              .arg(fileId)
                              .arg(transparent ? QStringLiteral("png") : QStringLiteral("jpg"));
-    if (!QDir().mkpath(folder))
+    if (QDir::tempPath().isEmpty() || !QDir().mkpath(folder))
         return QString();
     QSaveFile file(path);
     const bool written = file.open(QIODevice::WriteOnly)

@@ -19,12 +19,14 @@ public:
             qputenv(variable, QFile::encodeName(m_folder.path()));
     }
 
+    QString path() const { return m_folder.path(); }
+
     static bool save(const QString &path, const QColor &colour, const QSize &size = {300, 225})
     {
         QDir().mkpath(QFileInfo(path).path());
         QImage image(size, QImage::Format_RGB32);
         image.fill(colour);
-        return image.save(path, path.endsWith(QLatin1String("jpg")) ? "jpg" : "png", 95);
+        return image.save(path, path.endsWith(QLatin1String("png")) ? "png" : "jpg", 95);
     }
 
     static bool write(const QString &path, const QByteArray &bytes)

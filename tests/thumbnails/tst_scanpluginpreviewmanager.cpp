@@ -1,3 +1,4 @@
+#include "support/awkwardfiles.h"
 #include "support/datarow.h"
 #include "thumbnailfixture.h"
 #include "thumbnails/filetypeicons.h"
@@ -63,11 +64,21 @@ class tst_ScanPluginPreviewManager : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { cache()->stop(); }
+    void init()
+    {
+        cache()->stop();
+        AwkwardFiles::setTemporaryFolder(m_root.path());
+    }
     void cleanupTestCase();
 
     void bestCandidateWins_data();
     void bestCandidateWins();
+    void unreadableFile_data();
+    void unreadableFile();
+    void temporaryFolders_data();
+    void temporaryFolders();
+    void uselessTemporaryFolder_data();
+    void uselessTemporaryFolder();
     void requestsAreQueuedOnce();
     void missIsReported();
     void hostMayWriteTheFileLater();
@@ -145,6 +156,96 @@ void tst_ScanPluginPreviewManager::bestCandidateWins()
         QCOMPARE(picture.size(), QSize(110, 83));
         QVERIFY(isNear(middleOf(picture), QColor(expected)));
     }
+}
+
+void tst_ScanPluginPreviewManager::unreadableFile_data()
+{
+    QTest::addColumn<bool>("isFolder");
+    QTest::newRow("locked, or a pipe") << false;
+    QTest::newRow("a folder of its name") << true;
+}
+
+// It holds up nobody, the host is told, and the next candidate is read.
+void tst_ScanPluginPreviewManager::unreadableFile()
+{
+    QFETCH(bool, isFolder);
+    Photo photo(m_nextId++);
+    const QString path = ThumbnailFiles::pngThumbnail(photo.fileId, "jpg");
+    QVERIFY(QDir().mkpath(isFolder ? path : QFileInfo(path).path()));
+    std::unique_ptr<AwkwardFiles::Unreadable> file;
+    if (!isFolder)
+        file = std::make_unique<AwkwardFiles::Unreadable>(path);
+    QVERIFY(ScanPluginPreviewManager::hasLocalThumbnail(photo.fileId, "jpg"));
+
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    cache()->requestThumbnail(&photo);
+    QTRY_COMPARE(missing.count(), 1);
+    cache()->storeThumbnail(photo.fileId, path, filled(Qt::blue));
+    QCOMPARE(middleOf(cache()->gridThumbnail(photo.fileId)), QColor(Qt::blue));
+
+    cache()->stop();
+    QVERIFY(TemporaryRoot::save(ThumbnailFiles::jpegThumbnail(photo.fileId, "jpg"), Qt::red));
+    cache()->requestThumbnail(&photo);
+    QTRY_VERIFY(isNear(middleOf(cache()->gridThumbnail(photo.fileId)), Qt::red));
+}
+
+void tst_ScanPluginPreviewManager::temporaryFolders_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("extension");
+    QTest::newRow("more than 300 characters") << QString(100, 'f') << QString(200, 'e');
+    // Chinese, a letter of two units, an accent on its own
+    QTest::newRow("letters of no code page")
+        << QStringLiteral(u"\u7167\u7247 \U0001F4F7 e\u0301") << QStringLiteral(u"\u5199\u771F");
+}
+
+void tst_ScanPluginPreviewManager::temporaryFolders()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, extension);
+    QVERIFY(QDir(m_root.path()).mkpath(folder));
+    AwkwardFiles::setTemporaryFolder(m_root.path() + QLatin1Char('/') + folder);
+    QVERIFY(QDir::tempPath().endsWith(folder));
+    Photo photo(m_nextId++);
+    photo.extension = extension;
+    using namespace ThumbnailFiles;
+    QVERIFY(TemporaryRoot::save(jpegThumbnail(photo.fileId, extension), Qt::red));
+    cache()->requestThumbnail(&photo);
+    QTRY_VERIFY(isNear(middleOf(cache()->gridThumbnail(photo.fileId)), Qt::red));
+    QVERIFY(TemporaryRoot::save(repairedPreview(photo.fileId, extension), Qt::blue));
+    QVERIFY(cache()->hasRepairedPreview(&photo));
+    const QString native = QDir::toNativeSeparators(repairedPreview(photo.fileId, extension));
+    cache()->storeThumbnail(photo.fileId, native, filled(Qt::green));
+    QCOMPARE(middleOf(cache()->gridThumbnail(photo.fileId)), QColor(Qt::green));
+}
+
+void tst_ScanPluginPreviewManager::uselessTemporaryFolder_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("nowhere") << AwkwardFiles::nowhere();
+    QTest::newRow("below a file") << QCoreApplication::applicationFilePath();
+}
+
+void tst_ScanPluginPreviewManager::uselessTemporaryFolder()
+{
+    QFETCH(QString, folder);
+    static QStringList warnings;
+    warnings.clear();
+    AwkwardFiles::setTemporaryFolder(folder);
+    const auto before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &text) { warnings.append(text); });
+    Photo photo(m_nextId++);
+    QSignalSpy missing(cache(), &ScanPluginPreviewManager::signalSaveThumBnail);
+    for (int scan = 1; scan <= 3; ++scan) {
+        cache()->requestThumbnail(&photo);
+        QTRY_COMPARE(missing.count(), scan);
+        cache()->stop();
+    }
+    qInstallMessageHandler(before);
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY(warnings.constFirst().contains(ThumbnailFiles::root()));
+    cache()->storeThumbnail(photo.fileId, filled(Qt::green));
+    QVERIFY(!cache()->gridThumbnail(photo.fileId).isNull());
 }
 
 void tst_ScanPluginPreviewManager::requestsAreQueuedOnce()
