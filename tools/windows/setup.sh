@@ -25,6 +25,7 @@ windows_package_groups() {
     cat <<'GROUPS'
 to build for Windows|g++-mingw-w64-x86-64-posix dpkg-dev perl xz-utils
 to play the animations there|libstb-dev rapidjson-dev
+to see what Microsoft's compiler would mind|clang
 to run what was built|wine wine64 xvfb xauth
 GROUPS
 }
