@@ -12,12 +12,6 @@ namespace {
 // more than the looks and labels of two sizes: only a size in motion, on resizing, runs past it
 constexpr int MostPlates = 48;
 
-/// All that a card covers: a cell lower than a card does not cut it.
-QRect plateRect(const CardLayout &layout)
-{
-    return layout.cell.united(layout.card);
-}
-
 } // namespace
 
 void CardBackground::load()
@@ -28,9 +22,9 @@ void CardBackground::load()
     clear();
 }
 
-void CardBackground::draw(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
-                          const QBrush &base, const Card &card,
-                          const RecoverabilityLabel &label) const
+QPixmap CardBackground::draw(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
+                             const QBrush &base, const Card &card,
+                             const RecoverabilityLabel &label) const
 {
     const QRect plate = plateRect(layout);
     const bool opaque = base.style() == Qt::SolidPattern && base.color().alpha() == 255
@@ -40,7 +34,7 @@ void CardBackground::draw(QPainter *painter, const DeviceGrid &grid, const CardL
 
     const QSize deviceSize = grid.isAligned() ? grid.deviceRect(plate).size() : plate.size();
     if (deviceSize.isEmpty())
-        return;
+        return {};
     const Key key{deviceSize,
                   layout.cell.size(),
                   grid.isAligned() ? grid.scale() : 1.0,
@@ -56,9 +50,10 @@ void CardBackground::draw(QPainter *painter, const DeviceGrid &grid, const CardL
         it = m_plates.insert(key, compose(key, layout, card, label));
     }
     if (grid.isAligned())
-        grid.drawAround(painter, plate, *it, card.covered);
+        grid.draw(painter, plate, *it);
     else
         painter->drawPixmap(plate, *it);
+    return opaque ? *it : QPixmap();
 }
 
 QPixmap CardBackground::compose(const Key &key, const CardLayout &layout, const Card &card,

@@ -31,10 +31,13 @@ public:
         Look look = NormalLook;
         std::optional<Recoverability> label;
         bool dark = false;
-        QRect covered; ///< what an opaque picture will hide; need not be painted
     };
-    void draw(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
-              const QBrush &base, const Card &card, const RecoverabilityLabel &label) const;
+    /// Returns what now lies under the card from grid.deviceRect(plateRect()) on, pixel by pixel;
+    /// null where that is not known: the base is not one opaque colour, or there is no grid.
+    QPixmap draw(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
+                 const QBrush &base, const Card &card, const RecoverabilityLabel &label) const;
+    /// All that a card covers: a cell lower than a card does not cut it.
+    static QRect plateRect(const CardLayout &layout) { return layout.cell.united(layout.card); }
 
 private:
     struct Key

@@ -7,10 +7,11 @@ void ColumnTexts::setFont(const QFont &font)
     m_end.clear();
 }
 
-QString ColumnTexts::elided(const QString &text, int width, Qt::TextElideMode mode)
+QString ColumnTexts::elided(const QString &text, int width, Qt::TextElideMode mode,
+                            Qt::LayoutDirection direction)
 {
     ElideCache &cache = mode == Qt::ElideMiddle ? m_middle : m_end;
-    return cache.elided(text, width, QFontMetrics(font()));
+    return cache.elided(text, width, &m_texts, direction);
 }
 
 void ColumnTexts::draw(QPainter *painter, const QRect &rect, const QString &text)

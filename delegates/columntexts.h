@@ -11,7 +11,8 @@ public:
     const QFont &font() const { return m_texts.font(); }
 
     /// \a width 0: not cut.
-    QString elided(const QString &text, int width, Qt::TextElideMode mode);
+    QString elided(const QString &text, int width, Qt::TextElideMode mode,
+                   Qt::LayoutDirection direction);
     /// In the painter's pen, at the beginning of \a rect.
     void draw(QPainter *painter, const QRect &rect, const QString &text);
 

@@ -15,19 +15,15 @@ public:
     /// False when the painter rotates, shears or flips: then there is no grid to stand on.
     bool isAligned() const { return m_aligned; }
     qreal scale() const { return m_transform.m11(); }
+    /// To device pixels.
+    const QTransform &transform() const { return m_transform; }
     /// \a rect in device pixels, its edges rounded.
     QRect deviceRect(const QRect &rect) const;
     /// Draws \a pixmap into \a rect, one to one where it has the size of deviceRect(\a rect),
     /// smoothly scaled where not. The painter's hint for smooth scaling is left as it was needed.
     void draw(QPainter *painter, const QRect &rect, const QPixmap &pixmap) const;
-    /// The same for a pixmap of the right size, but for \a hole, which is about to be covered.
-    void drawAround(QPainter *painter, const QRect &rect, const QPixmap &pixmap,
-                    const QRect &hole) const;
 
 private:
-    void copy(QPainter *painter, const QPoint &devicePos, const QPixmap &pixmap,
-              const QRect &source) const;
-
     QTransform m_transform;
     bool m_aligned;
 };

@@ -87,6 +87,8 @@ void IconDelegate::retranslate() const
     m_label.reload();
     m_label.setAssessingIcon(m_pictures.assessingIcon);
     m_background.clear();
+    m_nameStrips.clear();
+    m_elideCache.clear();
 }
 
 bool IconDelegate::eventFilter(QObject *watched, QEvent *event)
@@ -101,6 +103,7 @@ bool IconDelegate::eventFilter(QObject *watched, QEvent *event)
 void IconDelegate::setSearchKeyword(const QString &keyword)
 {
     m_names.setKeyword(keyword);
+    m_nameStrips.clear();
 }
 
 void IconDelegate::setPressedIndex(const QModelIndex &index)
@@ -168,8 +171,6 @@ void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &opti
         if (!thumbnail.isNull()) {
             pictureRect = layout.thumbnail(logicalSize(thumbnail));
             picture = fitted(grid, pictureRect, thumbnail);
-            if (!picture.hasAlphaChannel())
-                card.covered = pictureRect;
         } else if (item) {
             picture = iconOf(*item, kind);
         }
@@ -177,20 +178,24 @@ void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &opti
         qDebug() << "icon delegate draw thumicon exception";
         item = nullptr;
     }
-    m_background.draw(painter, grid, layout, option.palette.base(), card, m_label);
+    const QPixmap plate = m_background.draw(painter, grid, layout, option.palette.base(), card,
+                                            m_label);
     if (!item)
         return;
 
     drawIfAny(painter, grid, pictureRect, picture);
+    const bool hovered = kind == ItemKind::File && option.state.testFlag(QStyle::State_MouseOver);
     if (kind == ItemKind::File)
-        drawOverlays(painter, grid, layout, pictureRect, *item,
-                     option.state.testFlag(QStyle::State_MouseOver));
+        drawOverlays(painter, grid, layout, pictureRect, *item, hovered);
     if (!thumbnail.isNull() && item->property("previewRepaired").toBool())
         drawIfAny(painter, grid, layout.repairBadge(layout.thumbArea), m_pictures.repairBadge);
     drawIfAny(painter, grid, layout.checkBox,
               m_pictures.checkBox.picture(
                   CheckBox::lookOf(*item, item->checkState, m_emptyFolderCheckable)));
-    drawTexts(painter, layout, *item);
+    drawTexts(painter, grid, layout,
+              {layout.name, plate, CardBackground::plateRect(layout),
+               hovered ? layout.thumbArea : pictureRect},
+              *item);
 }
 
 CardBackground::Look IconDelegate::lookOf(const QStyleOptionViewItem &option,
@@ -242,14 +247,15 @@ void IconDelegate::drawOverlays(QPainter *painter, const DeviceGrid &grid, const
     painter->setOpacity(1.0);
 }
 
-void IconDelegate::drawTexts(QPainter *painter, const CardLayout &layout,
-                             const TreeItemData &item) const
+void IconDelegate::drawTexts(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
+                             const NameStrips::Place &place, const TreeItemData &item) const
 {
     if (!layout.name.isValid())
         return;
-    m_names.draw(painter, layout.name,
-                 getElidedText(ItemText::displayName(item), layout.name.width() - ElideReserve),
-                 CentredText);
+    const QString name = getElidedText(ItemText::displayName(item),
+                                       layout.name.width() - ElideReserve);
+    if (!m_nameStrips.draw(painter, grid, place, name, &m_names))
+        m_names.draw(painter, layout.name, name, CentredText);
     if (!ItemKind::isFolderLike(item.kind))
         return;
     const PainterState state(painter);
@@ -270,7 +276,7 @@ QString IconDelegate::getElidedText(const QString &text, int width) const
             return text;
         }
         prepare();
-        return m_elideCache.elided(text, width, QFontMetrics(m_names.font()));
+        return m_names.elided(&m_elideCache, text, width);
     } catch (...) {
         qDebug() << "class QString __cdecl IconDelegate::getElidedText(const class QString &,int) "
                     "const"

@@ -8,6 +8,7 @@
 #include "delegates/itemcolors.h"
 #include "delegates/markedcards.h"
 #include "delegates/namepainter.h"
+#include "delegates/namestrips.h"
 #include "delegates/recoverabilitylabel.h"
 #include "delegates/repairedpreviewcheck.h"
 #include "delegates/scaledthumbnails.h"
@@ -94,7 +95,9 @@ private:
     QPixmap iconOf(const TreeItemData &item, int kind) const;
     void drawOverlays(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
                       const QRect &picture, const TreeItemData &item, bool hovered) const;
-    void drawTexts(QPainter *painter, const CardLayout &layout, const TreeItemData &item) const;
+    /// \a place: where the name stands and what lies under it.
+    void drawTexts(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
+                   const NameStrips::Place &place, const TreeItemData &item) const;
 
     /// These two tell whether the press has been dealt with.
     bool press(const QMouseEvent &event, QAbstractItemModel *model, const CardLayout &layout,
@@ -111,6 +114,7 @@ private:
     mutable ScaledThumbnails m_scaledThumbnails;
     mutable RepairedPreviewCheck m_repairedCheck;
     mutable NamePainter m_names;
+    mutable NameStrips m_nameStrips;
     mutable ElideCache m_elideCache;
     bool m_emptyFolderCheckable = false;
     bool m_assessmentFinished = false;

@@ -233,8 +233,8 @@ void ListDelegate::drawName(QPainter *painter, const DeviceGrid &grid, const Cel
     const QString suffix = countSuffix(cell.item);
     const int suffixWidth = suffix.isEmpty() ? 0 : metrics.horizontalAdvance(suffix);
     const QRect nameRect = cell.layout.nameText(suffixWidth);
-    const QString name = m_elidedNames.elided(ItemText::displayName(cell.item), nameRect.width(),
-                                              metrics);
+    const QString name = m_names.elided(&m_elidedNames, ItemText::displayName(cell.item),
+                                        nameRect.width());
     m_names.draw(painter, nameRect, name, BeginningOfLine);
     if (suffix.isEmpty())
         return;
@@ -250,7 +250,9 @@ void ListDelegate::drawText(QPainter *painter, const Cell &cell, const QString &
     painter->setPen(color);
     const RowLayout &layout = cell.layout;
     texts.draw(painter, layout.text,
-               layout.textWidth > 0 ? texts.elided(text, layout.textWidth, Qt::ElideRight) : text);
+               layout.textWidth > 0 ? texts.elided(text, layout.textWidth, Qt::ElideRight,
+                                                       layout.direction)
+                                        : text);
 }
 
 void ListDelegate::drawTime(QPainter *painter, const DeviceGrid &grid, const Cell &cell) const
@@ -266,7 +268,8 @@ void ListDelegate::drawLocation(QPainter *painter, const Cell &cell) const
 {
     ColumnTexts &texts = cell.sorted ? m_boldTexts : m_texts;
     const QString text = locationOf(cell.item);
-    const QString shown = asPath(texts.elided(text, cell.layout.textWidth, Qt::ElideMiddle),
+    const QString shown = asPath(texts.elided(text, cell.layout.textWidth, Qt::ElideMiddle,
+                                              cell.layout.direction),
                                  cell.layout.direction);
     const bool link = m_pathColumnsActive && isCellHovered(cell.index)
         && LocationText::isKnown(text);

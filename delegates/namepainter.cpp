@@ -1,6 +1,7 @@
 #include "delegates/namepainter.h"
 
 #include "delegates/chighlighter.h"
+#include "delegates/elidecache.h"
 #include "delegates/painterstate.h"
 
 #include <QDebug>
@@ -68,13 +69,16 @@ void NamePainter::forget()
     m_highlightedTexts.clear();
 }
 
+QString NamePainter::elided(ElideCache *cache, const QString &text, int width)
+{
+    return cache->elided(text, width, &m_plainTexts, scriptOf(text));
+}
+
 void NamePainter::draw(QPainter *painter, const QRect &rect, const QString &text,
                        Qt::Alignment alignment)
 {
     if (text.isEmpty() || rect.isEmpty() || !painter->isActive())
         return;
-    const PainterState state(painter);
-    painter->setFont(font());
     painter->setPen(m_colors.text);
     if (m_keyword.isEmpty())
         m_plainTexts.draw(painter, rect, text, alignment, scriptOf(text));
@@ -95,6 +99,7 @@ void NamePainter::drawHighlighted(QPainter *painter, const QRect &rect, const QS
     try {
         QTextLayout *layout = highlightedLayout(text, scriptOf(text));
         const QTextLine line = layout->lineAt(0);
+        const PainterState state(painter);
         painter->setClipRect(rect);
         layout->draw(painter,
                      PlainTexts::position(rect, {line.naturalTextWidth(), line.height()}, alignment,

@@ -10,6 +10,7 @@
 #include <memory>
 
 class CHighLighter;
+class ElideCache;
 class QPainter;
 class QTextBrowser;
 class QTextLayout;
@@ -29,7 +30,10 @@ public:
     void setKeyword(const QString &keyword);
     const QString &keyword() const { return m_keyword; }
 
+    /// \a text cut to \a width pixels, with \a cache's memory.
+    QString elided(ElideCache *cache, const QString &text, int width);
     /// One line, \a alignment sideways, centred vertically. Nothing for an empty text or rectangle.
+    /// The painter's pen stays in the text colour.
     void draw(QPainter *painter, const QRect &rect, const QString &text, Qt::Alignment alignment);
 
     /// A top-level widget that is never shown: Qt tells it of a change of language.

@@ -2,6 +2,7 @@
 
 #include "delegates/painterstate.h"
 
+#include <QFontMetrics>
 #include <QPainter>
 #include <QStyle>
 
@@ -45,32 +46,51 @@ QPointF PlainTexts::position(const QRect &rect, const QSizeF &size, Qt::Alignmen
     return {x, rect.y() + (rect.height() - size.height()) / 2};
 }
 
+const QTextLayout &PlainTexts::laidOut(const QString &text, Qt::LayoutDirection direction)
+{
+    const QTextLayout *known = m_texts.object(text);
+    if (known && known->textOption().textDirection() == direction)
+        return *known;
+    auto layout = std::make_unique<QTextLayout>(onOneLine(text), m_font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setTextDirection(direction);
+    layout->setTextOption(option);
+    layout->setCacheEnabled(true);
+    layout->beginLayout();
+    layout->createLine();
+    layout->endLayout();
+    QTextLayout *result = layout.release();
+    m_texts.insert(text, result, 1);
+    return *result;
+}
+
+int PlainTexts::width(const QString &text, Qt::LayoutDirection script)
+{
+    // a line leaves out the blanks at its end, the metrics do not
+    const bool sameMeasure = !text.isEmpty() && !text.back().isSpace() && onOneLine(text) == text;
+    if (!sameMeasure)
+        return QFontMetrics(m_font).horizontalAdvance(text);
+    const QTextLayout *known = m_texts.object(text);
+    return qRound((known ? *known : laidOut(text, script)).lineAt(0).naturalTextWidth());
+}
+
 void PlainTexts::draw(QPainter *painter, const QRect &rect, const QString &text,
                       Qt::Alignment alignment, Qt::LayoutDirection script)
 {
     if (text.isEmpty() || rect.isEmpty() || !painter->isActive())
         return;
     const Qt::LayoutDirection direction = painter->layoutDirection();
-    const Qt::LayoutDirection running = script == Qt::LayoutDirectionAuto ? direction : script;
-    QStaticText *prepared = m_texts.object(text);
-    if (!prepared || prepared->textOption().textDirection() != running) {
-        QTextOption option;
-        option.setTextDirection(running);
-        prepared = new QStaticText(onOneLine(text));
-        prepared->setTextFormat(Qt::PlainText);
-        prepared->setTextOption(option);
-        prepared->setPerformanceHint(QStaticText::AggressiveCaching);
-        prepared->prepare(painter->transform(), m_font);
-        m_texts.insert(text, prepared, 1);
-    }
-    painter->setFont(m_font);
-    const QSizeF size = prepared->size();
+    const QTextLayout &layout = laidOut(
+        text, script == Qt::LayoutDirectionAuto ? direction : script);
+    const QTextLine line = layout.lineAt(0);
+    const QSizeF size(line.naturalTextWidth(), line.height());
     const QPointF at = position(rect, size, alignment, direction);
     if (size.width() <= rect.width() && size.height() <= rect.height()) {
-        painter->drawStaticText(at, *prepared);
+        layout.draw(painter, at);
         return;
     }
     const PainterState state(painter);
     painter->setClipRect(rect, Qt::IntersectClip);
-    painter->drawStaticText(at, *prepared);
+    layout.draw(painter, at);
 }

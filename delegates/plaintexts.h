@@ -2,13 +2,13 @@
 
 #include <QCache>
 #include <QFont>
-#include <QStaticText>
 #include <QString>
+#include <QTextLayout>
 
 class QPainter;
 
-/// Texts of one line in one font. What has been laid out is kept, so that a text that is drawn
-/// again costs only its glyphs. GUI thread.
+/// Texts of one line in one font. What has been laid out is kept, so that measuring and drawing a
+/// text shape it once, and drawing it again costs only its glyphs. GUI thread.
 class PlainTexts
 {
 public:
@@ -23,6 +23,8 @@ public:
     /// text itself runs in \a script, or in the layout direction where that is automatic.
     void draw(QPainter *painter, const QRect &rect, const QString &text, Qt::Alignment alignment,
               Qt::LayoutDirection script = Qt::LayoutDirectionAuto);
+    /// What QFontMetrics::horizontalAdvance() says. For a text that is going to be drawn.
+    int width(const QString &text, Qt::LayoutDirection script);
 
     /// A text is one line, whatever characters a damaged directory entry holds.
     static QString onOneLine(QString text);
@@ -31,6 +33,8 @@ public:
                             Qt::LayoutDirection direction);
 
 private:
+    const QTextLayout &laidOut(const QString &text, Qt::LayoutDirection direction);
+
     QFont m_font;
-    QCache<QString, QStaticText> m_texts;
+    QCache<QString, QTextLayout> m_texts;
 };
