@@ -35,15 +35,10 @@ void drawIfAny(QPainter *painter, const DeviceGrid &grid, const QRect &rect, con
         grid.draw(painter, rect, pixmap);
 }
 
-QSize logicalSize(const QPixmap &pixmap)
-{
-    return (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
-}
-
 bool hasThumbnail(const TreeItemData &item)
 {
     return item.kind == ItemKind::File
-        && !ScanPluginPreviewManager::instance()->gridThumbnail(item.fileId).isNull();
+        && ScanPluginPreviewManager::instance()->hasGridThumbnail(item.fileId);
 }
 
 } // namespace
@@ -134,14 +129,14 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     TreeItemData *item = itemOf(index);
     const int kind = item ? index.data(KindRole).toInt() : 0;
     const bool isFile = item && kind == ItemKind::File;
-    QPixmap thumbnail;
+    ThumbnailStore::Info thumbnail;
     if (isFile) {
-        thumbnail = ScanPluginPreviewManager::instance()->gridThumbnail(item->fileId);
-        m_repairedCheck.refresh(item, thumbnail.cacheKey());
+        thumbnail = ScanPluginPreviewManager::instance()->gridThumbnailInfo(item->fileId);
+        m_repairedCheck.refresh(item, thumbnail.serial);
     }
     paintCard(painter, option, index, item, kind, thumbnail);
     // last, because whoever listens may destroy the record
-    if (isFile && thumbnail.isNull())
+    if (isFile && !thumbnail.serial)
         reportMissingThumbnail(item);
 }
 
@@ -152,7 +147,7 @@ void IconDelegate::reportMissingThumbnail(TreeItemData *item) const
 
 void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &option,
                              const QModelIndex &index, TreeItemData *item, int kind,
-                             const QPixmap &thumbnail) const
+                             const ThumbnailStore::Info &thumbnail) const
 {
     const CardLayout layout(option.rect, option.direction);
     const DeviceGrid grid(painter);
@@ -163,14 +158,14 @@ void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &opti
     card.look = lookOf(option, index, item);
     card.dark = m_theme == DarkTheme;
     if (item && kind == ItemKind::File)
-        card.label = recoverabilityOf(item, !thumbnail.isNull(), m_assessmentFinished);
+        card.label = recoverabilityOf(item, thumbnail.serial != 0, m_assessmentFinished);
 
     QRect pictureRect = layout.icon;
     QPixmap picture;
     try {
-        if (!thumbnail.isNull()) {
-            pictureRect = layout.thumbnail(logicalSize(thumbnail));
-            picture = fitted(grid, pictureRect, thumbnail);
+        if (thumbnail.serial) {
+            pictureRect = layout.thumbnail(thumbnail.size.toSize());
+            picture = fitted(grid, pictureRect, *item, thumbnail);
         } else if (item) {
             picture = iconOf(*item, kind);
         }
@@ -187,7 +182,7 @@ void IconDelegate::paintCard(QPainter *painter, const QStyleOptionViewItem &opti
     const bool hovered = kind == ItemKind::File && option.state.testFlag(QStyle::State_MouseOver);
     if (kind == ItemKind::File)
         drawOverlays(painter, grid, layout, pictureRect, *item, hovered);
-    if (!thumbnail.isNull() && item->property("previewRepaired").toBool())
+    if (thumbnail.serial && item->property("previewRepaired").toBool())
         drawIfAny(painter, grid, layout.repairBadge(layout.thumbArea), m_pictures.repairBadge);
     drawIfAny(painter, grid, layout.checkBox,
               m_pictures.checkBox.picture(
@@ -212,13 +207,17 @@ CardBackground::Look IconDelegate::lookOf(const QStyleOptionViewItem &option,
     return CardBackground::NormalLook;
 }
 
-QPixmap IconDelegate::fitted(const DeviceGrid &grid, const QRect &rect,
-                             const QPixmap &thumbnail) const
+QPixmap IconDelegate::fitted(const DeviceGrid &grid, const QRect &rect, const TreeItemData &item,
+                             const ThumbnailStore::Info &thumbnail) const
 {
+    auto *thumbnails = ScanPluginPreviewManager::instance();
     if (!grid.isAligned())
-        return thumbnail;
+        return thumbnails->gridThumbnail(item.fileId);
     const QSize deviceSize = rect.isEmpty() ? QSize() : grid.deviceRect(rect).size();
-    return deviceSize.isEmpty() ? QPixmap() : m_scaledThumbnails.scaled(thumbnail, deviceSize);
+    if (deviceSize.isEmpty())
+        return {};
+    return m_scaledThumbnails.scaled(thumbnail.serial, deviceSize,
+                                     [&] { return thumbnails->gridImage(item.fileId); });
 }
 
 QPixmap IconDelegate::iconOf(const TreeItemData &item, int kind) const

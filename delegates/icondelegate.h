@@ -13,6 +13,7 @@
 #include "delegates/repairedpreviewcheck.h"
 #include "delegates/scaledthumbnails.h"
 #include "delegates/tooltipthrottle.h"
+#include "thumbnails/thumbnailstore.h"
 
 #include <QCursor>
 #include <QStyledItemDelegate>
@@ -87,11 +88,12 @@ private:
     /// Painting is const, and what it finds missing is told all the same.
     void reportMissingThumbnail(TreeItemData *item) const;
     void paintCard(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
-                   TreeItemData *item, int kind, const QPixmap &thumbnail) const;
+                   TreeItemData *item, int kind, const ThumbnailStore::Info &thumbnail) const;
     CardBackground::Look lookOf(const QStyleOptionViewItem &option, const QModelIndex &index,
                                 TreeItemData *item) const;
-    /// \a thumbnail in the device pixels of \a rect; null when there is not one of them.
-    QPixmap fitted(const DeviceGrid &grid, const QRect &rect, const QPixmap &thumbnail) const;
+    /// The item's \a thumbnail in the device pixels of \a rect; null when there is not one of them.
+    QPixmap fitted(const DeviceGrid &grid, const QRect &rect, const TreeItemData &item,
+                   const ThumbnailStore::Info &thumbnail) const;
     QPixmap iconOf(const TreeItemData &item, int kind) const;
     void drawOverlays(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
                       const QRect &picture, const TreeItemData &item, bool hovered) const;

@@ -197,7 +197,7 @@ void ListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
     // last, because whoever listens may destroy the record
     if (m_requester && column == ScanDataModel::NameColumn && item->kind == ItemKind::File
-        && ScanPluginPreviewManager::instance()->gridThumbnail(item->fileId).isNull())
+        && !ScanPluginPreviewManager::instance()->hasGridThumbnail(item->fileId))
         m_requester(item);
 }
 

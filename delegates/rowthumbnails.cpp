@@ -18,15 +18,16 @@ RowThumbnails::RowThumbnails()
 QPixmap RowThumbnails::picture(TreeItemData *file, int deviceSide)
 {
     auto *thumbnails = ScanPluginPreviewManager::instance();
-    const QPixmap large = thumbnails->gridThumbnail(file->fileId);
-    if (large.isNull())
+    const qint64 large = thumbnails->gridThumbnailInfo(file->fileId).serial;
+    if (!large)
         return thumbnails->listThumbnail(file);
-    m_repairedCheck.refresh(file, large.cacheKey());
+    m_repairedCheck.refresh(file, large);
 
-    const QPair<qint64, int> key(large.cacheKey(), deviceSide);
+    const QPair<qint64, int> key(large, deviceSide);
     if (const QPixmap *known = m_small.object(key))
         return *known;
-    const QPixmap small = roundedThumbnail(large, deviceSide);
+    const QPixmap small = roundedThumbnail(
+        QPixmap::fromImage(thumbnails->gridImage(file->fileId)), deviceSide);
     m_small.insert(key, new QPixmap(small), 1);
     return small;
 }

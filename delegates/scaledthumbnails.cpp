@@ -1,13 +1,23 @@
 #include "delegates/scaledthumbnails.h"
 
-#include <QImage>
-
 namespace {
 
 constexpr int MostKilobytes = 32 * 1024; // a few pages of cards on a 2x screen
 // Averaging every pixel of a large picture takes longer than the user waits for a page: first take
 // every n-th pixel down to this many per target pixel and side.
 constexpr int SamplesPerSide = 3;
+
+QImage toSize(QImage image, const QSize &size)
+{
+    image.setDevicePixelRatio(1.0);
+    if (image.size() == size)
+        return image;
+    const QSize enough = size * SamplesPerSide;
+    if (image.width() > enough.width() && image.height() > enough.height())
+        image = image.scaled(enough, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return image.hasAlphaChannel() ? image : image.convertToFormat(QImage::Format_RGB32);
+}
 
 } // namespace
 
@@ -16,24 +26,13 @@ ScaledThumbnails::ScaledThumbnails()
 {
 }
 
-QPixmap ScaledThumbnails::scaled(const QPixmap &pixmap, const QSize &deviceSize)
+QPixmap ScaledThumbnails::scaled(qint64 picture, const QSize &deviceSize, const Source &source)
 {
-    if (pixmap.size() == deviceSize && qFuzzyCompare(pixmap.devicePixelRatio(), 1.0))
-        return pixmap;
-    const Key key{pixmap.cacheKey(), deviceSize.width(), deviceSize.height()};
+    const Key key{picture, deviceSize.width(), deviceSize.height()};
     if (const QPixmap *cached = m_cache.object(key))
         return *cached;
 
-    QImage image = pixmap.toImage();
-    image.setDevicePixelRatio(1.0);
-    const QSize enough = deviceSize * SamplesPerSide;
-    if (image.width() > enough.width() && image.height() > enough.height())
-        image = image.scaled(enough, Qt::IgnoreAspectRatio, Qt::FastTransformation);
-    image = image.scaled(deviceSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (!image.hasAlphaChannel())
-        image = image.convertToFormat(QImage::Format_RGB32);
-
-    const QPixmap result = QPixmap::fromImage(image);
+    const QPixmap result = QPixmap::fromImage(toSize(source(), deviceSize));
     const int kilobytes = 1 + deviceSize.width() * deviceSize.height() / 256;
     m_cache.insert(key, new QPixmap(result), kilobytes);
     return result;

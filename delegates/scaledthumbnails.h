@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QCache>
+#include <QImage>
 #include <QPixmap>
+
+#include <functional>
 
 /// Thumbnails scaled to the device pixels that they cover, so that scaling smoothly costs once and
 /// not at every paint. Bounded by memory; the least recently used goes first.
@@ -10,8 +13,10 @@ class ScaledThumbnails
 public:
     ScaledThumbnails();
 
-    /// \a pixmap in exactly \a deviceSize pixels; its device pixel ratio is 1.
-    QPixmap scaled(const QPixmap &pixmap, const QSize &deviceSize);
+    using Source = std::function<QImage()>;
+    /// What \a source has in exactly \a deviceSize pixels; its device pixel ratio is 1. Not asked
+    /// for as long as \a picture, which tells one from another, is kept in this size.
+    QPixmap scaled(qint64 picture, const QSize &deviceSize, const Source &source);
 
 private:
     struct Key

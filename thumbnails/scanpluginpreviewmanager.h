@@ -37,6 +37,11 @@ public:
     QPixmap listThumbnail(TreeItemData *item);
     /// Null when there is none (yet).
     QPixmap gridThumbnail(qint64 fileId);
+    /// The same in parts, for who keeps what it has made of a picture: which one it is, and its
+    /// pixels. Of very many pictures the latter costs less than a pixmap.
+    ThumbnailStore::Info gridThumbnailInfo(qint64 fileId) { return m_pictures.info(fileId); }
+    QImage gridImage(qint64 fileId) const { return m_pictures.image(fileId); }
+    bool hasGridThumbnail(qint64 fileId) const { return m_pictures.contains(fileId); }
     /// Has the item's thumbnail looked up on disk, unless that has been done or is under way.
     void requestThumbnail(TreeItemData *item);
     /// Settles whether the item has a repaired preview and records that on the item.

@@ -37,6 +37,7 @@ void ThumbnailStore::insert(qint64 fileId, const QPixmap &picture, Source source
     m_ready.entries.emplace_front();
     const Place place = m_ready.entries.begin();
     place->fileId = fileId;
+    place->serial = ++m_lastSerial;
     place->ready = picture;
     place->bytes = costOf(picture);
     place->source = source;
@@ -72,6 +73,32 @@ QPixmap ThumbnailStore::picture(qint64 fileId)
     const QPixmap picture = place->ready;
     keepLimits();
     return picture;
+}
+
+ThumbnailStore::Info ThumbnailStore::info(qint64 fileId)
+{
+    const auto found = m_entries.constFind(fileId);
+    if (found == m_entries.constEnd())
+        return {};
+    const Place place = *found;
+    Shelf *const shelf = &shelfOf(*place);
+    move(place, shelf, shelf);
+    if (!place->ready.isNull())
+        return {place->serial, QSizeF(place->ready.size()) / place->ready.devicePixelRatio()};
+    return {place->serial, QSizeF(place->packed.size()) / place->packed.devicePixelRatio()};
+}
+
+QImage ThumbnailStore::image(qint64 fileId) const
+{
+    const auto found = m_entries.constFind(fileId);
+    if (found == m_entries.constEnd())
+        return {};
+    const Entry &entry = **found;
+    if (!entry.ready.isNull())
+        return entry.ready.toImage();
+    return entry.packed.convertToFormat(entry.packed.hasAlphaChannel()
+                                            ? QImage::Format_ARGB32_Premultiplied
+                                            : QImage::Format_RGB32);
 }
 
 void ThumbnailStore::remove(qint64 fileId)

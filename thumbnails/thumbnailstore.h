@@ -34,6 +34,16 @@ public:
     void insert(qint64 fileId, const QPixmap &picture, Source source, TreeItemData *owner);
     /// Null when there is none. Marks it as shown.
     QPixmap picture(qint64 fileId);
+
+    struct Info
+    {
+        qint64 serial = 0;     ///< tells it from every other picture there has been; 0: none
+        QSizeF size;           ///< in logical pixels
+    };
+    /// What is to be known of a picture without making it ready. Marks it as shown.
+    Info info(qint64 fileId);
+    /// Its pixels, as they are drawn, without making it ready. Null when there is none.
+    QImage image(qint64 fileId) const;
     bool contains(qint64 fileId) const { return m_entries.contains(fileId); }
     void remove(qint64 fileId);
     void clear();
@@ -55,6 +65,7 @@ private:
     struct Entry
     {
         qint64 fileId = 0;
+        qint64 serial = 0;
         QPixmap ready; ///< either this
         QImage packed; ///< or that
         qint64 bytes = 0;
@@ -82,4 +93,5 @@ private:
     Shelf m_onlyCopies;
     QHash<qint64, Place> m_entries;
     QVector<qint64> m_toSweep;
+    qint64 m_lastSerial = 0;
 };
