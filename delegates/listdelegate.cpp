@@ -250,9 +250,9 @@ void ListDelegate::drawText(QPainter *painter, const Cell &cell, const QString &
     painter->setPen(color);
     const RowLayout &layout = cell.layout;
     texts.draw(painter, layout.text,
-               layout.textWidth > 0 ? texts.elided(text, layout.textWidth, Qt::ElideRight,
-                                                       layout.direction)
-                                        : text);
+               layout.textWidth > 0
+                   ? texts.elided(text, layout.textWidth, Qt::ElideRight, layout.direction)
+                   : text);
 }
 
 void ListDelegate::drawTime(QPainter *painter, const DeviceGrid &grid, const Cell &cell) const
@@ -268,9 +268,9 @@ void ListDelegate::drawLocation(QPainter *painter, const Cell &cell) const
 {
     ColumnTexts &texts = cell.sorted ? m_boldTexts : m_texts;
     const QString text = locationOf(cell.item);
-    const QString shown = asPath(texts.elided(text, cell.layout.textWidth, Qt::ElideMiddle,
-                                              cell.layout.direction),
-                                 cell.layout.direction);
+    const QString shown = asPath(
+        texts.elided(text, cell.layout.textWidth, Qt::ElideMiddle, cell.layout.direction),
+        cell.layout.direction);
     const bool link = m_pathColumnsActive && isCellHovered(cell.index)
         && LocationText::isKnown(text);
     if (!link) {

@@ -17,7 +17,8 @@ bool isBareAtEdges(const QImage &strip, const QImage &bare)
     const int right = strip.width() - 1;
     const int bottom = strip.height() - 1;
     for (int x = 0; x <= right; ++x) {
-        if (strip.pixel(x, 0) != bare.pixel(x, 0) || strip.pixel(x, bottom) != bare.pixel(x, bottom))
+        if (strip.pixel(x, 0) != bare.pixel(x, 0)
+            || strip.pixel(x, bottom) != bare.pixel(x, bottom))
             return false;
     }
     for (int y = 0; y <= bottom; ++y) {
@@ -64,9 +65,8 @@ bool NameStrips::draw(QPainter *painter, const DeviceGrid &grid, const Place &pl
     return true;
 }
 
-NameStrips::Strip NameStrips::compose(QPainter *painter, const DeviceGrid &grid,
-                                      const Place &place, const QRect &strip, const QString &text,
-                                      NamePainter *names)
+NameStrips::Strip NameStrips::compose(QPainter *painter, const DeviceGrid &grid, const Place &place,
+                                      const QRect &strip, const QString &text, NamePainter *names)
 {
     const QPoint plateOrigin = grid.deviceRect(place.plateRect).topLeft();
     QImage image = place.plate.copy(strip.translated(-plateOrigin)).toImage();

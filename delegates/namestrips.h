@@ -36,8 +36,8 @@ private:
     {
         QString text;
         qint64 plate;
-        QPoint shift;    ///< of the strip on the plate
-        QPointF phase;   ///< of logical coordinates among device pixels
+        QPoint shift;  ///< of the strip on the plate
+        QPointF phase; ///< of logical coordinates among device pixels
 
         friend bool operator==(const Key &a, const Key &b)
         {

@@ -81,8 +81,8 @@ void PlainTexts::draw(QPainter *painter, const QRect &rect, const QString &text,
     if (text.isEmpty() || rect.isEmpty() || !painter->isActive())
         return;
     const Qt::LayoutDirection direction = painter->layoutDirection();
-    const QTextLayout &layout = laidOut(
-        text, script == Qt::LayoutDirectionAuto ? direction : script);
+    const QTextLayout &layout = laidOut(text,
+                                        script == Qt::LayoutDirectionAuto ? direction : script);
     const QTextLine line = layout.lineAt(0);
     const QSizeF size(line.naturalTextWidth(), line.height());
     const QPointF at = position(rect, size, alignment, direction);

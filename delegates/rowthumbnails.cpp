@@ -26,8 +26,8 @@ QPixmap RowThumbnails::picture(TreeItemData *file, int deviceSide)
     const QPair<qint64, int> key(large, deviceSide);
     if (const QPixmap *known = m_small.object(key))
         return *known;
-    const QPixmap small = roundedThumbnail(
-        QPixmap::fromImage(thumbnails->gridImage(file->fileId)), deviceSide);
+    const QPixmap small = roundedThumbnail(QPixmap::fromImage(thumbnails->gridImage(file->fileId)),
+                                           deviceSide);
     m_small.insert(key, new QPixmap(small), 1);
     return small;
 }

@@ -37,8 +37,8 @@ public:
 
     struct Info
     {
-        qint64 serial = 0;     ///< tells it from every other picture there has been; 0: none
-        QSizeF size;           ///< in logical pixels
+        qint64 serial = 0; ///< tells it from every other picture there has been; 0: none
+        QSizeF size;       ///< in logical pixels
     };
     /// What is to be known of a picture without making it ready. Marks it as shown.
     Info info(qint64 fileId);

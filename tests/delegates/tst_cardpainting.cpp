@@ -11,6 +11,7 @@
 
 #include <QtTest>
 
+#include <memory>
 #include <optional>
 
 namespace {
@@ -76,6 +77,8 @@ private slots:
 
     void composedIsDrawnInBands_data();
     void composedIsDrawnInBands();
+    void paintedAgainIsPaintedAnew_data();
+    void paintedAgainIsPaintedAnew();
     void gapBetweenDevicePixels_data();
     void gapBetweenDevicePixels();
     void checkBoxLooks_data();
@@ -117,8 +120,7 @@ void TestCardPainting::composedIsDrawnInBands_data()
     QTest::newRow("selected, 2x") << 2 << usual << 2.0 << none;
     QTest::newRow("wide") << 2 << QRect(0, 0, 231, 124) << 1.0 << high;
     QTest::newRow("narrow") << 1 << QRect(1, 2, 61, 124) << 2.0 << high;
-    QTest::newRow("cell higher than a card")
-        << 2 << QRect(0, 3, 150, 140) << 1.0 << high;
+    QTest::newRow("cell higher than a card") << 2 << QRect(0, 3, 150, 140) << 1.0 << high;
 }
 
 void TestCardPainting::composedIsDrawnInBands()
@@ -161,6 +163,70 @@ void TestCardPainting::composedIsDrawnInBands()
         painter.end();
         QCOMPARE(composed, expected);
     }
+}
+
+void TestCardPainting::paintedAgainIsPaintedAnew_data()
+{
+    QTest::addColumn<qreal>("scale");
+    QTest::addColumn<THEMETYPE>("theme");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("light") << 1.0 << LightTheme << Qt::LeftToRight;
+    QTest::newRow("dark, mirrored") << 1.0 << DarkTheme << Qt::RightToLeft;
+    QTest::newRow("between device pixels") << 1.25 << LightTheme << Qt::RightToLeft;
+    QTest::newRow("dark, between device pixels") << 1.25 << DarkTheme << Qt::LeftToRight;
+    QTest::newRow("dense") << 2.0 << DarkTheme << Qt::RightToLeft;
+}
+
+/// Whatever a delegate has kept of earlier cards, elsewhere and in other looks: each is as if it
+/// were the first.
+void TestCardPainting::paintedAgainIsPaintedAnew()
+{
+    QFETCH(qreal, scale);
+    QFETCH(THEMETYPE, theme);
+    QFETCH(Qt::LayoutDirection, direction);
+    CardFixture cards;
+    ThemeManager::instance()->setThemeType(theme);
+    QVector<TreeItemData *> items;
+    for (const char *name : {"IMG_0001.JPG", "a name that is far too long for its card.JPG",
+                             "夏の夜空.jpg", "صور العطلة 12.jpg", "ปู่ญู่ ภู่ ที่ชื้น.jpg"})
+        items.append(cards.add(QString::fromUtf8(name), CardFixture::File, CardFixture::Photo));
+    for (int i = 0; i < 2; ++i)
+        ScanPluginPreviewManager::instance()->storeThumbnail(items.at(i)->fileId, picture());
+    items.append(cards.add(QStringLiteral("a folder with items"), CardFixture::Folder));
+
+    const auto painted = [&](const IconDelegate &delegate, TreeItemData *item, const QPoint &at,
+                             QStyle::State state) {
+        QStyleOptionViewItem option = CardFixture::option(state);
+        option.rect.moveTo(at);
+        option.direction = direction;
+        QImage image(QSize(260, 160) * scale, QImage::Format_RGB32);
+        image.fill(Qt::magenta);
+        QPainter painter(&image);
+        painter.scale(scale, scale);
+        delegate.paint(&painter, option, cards.indexOf(item));
+        return image;
+    };
+    const auto freshDelegate = [&] {
+        auto delegate = std::make_unique<IconDelegate>();
+        delegate->setPressedIndex(cards.indexOf(items.last()));
+        delegate->setAssessmentFinished(true);
+        return delegate;
+    };
+    const auto used = freshDelegate();
+    for (int round = 0; round < 3; ++round) {
+        for (const QPoint &at : {QPoint(4, 8), QPoint(5, 7)}) {
+            for (const QStyle::State state :
+                 {QStyle::State(), QStyle::State(QStyle::State_MouseOver),
+                  QStyle::State(QStyle::State_Selected)}) {
+                for (TreeItemData *item : qAsConst(items)) {
+                    item->checkState = round == 1 ? Qt::Checked : Qt::Unchecked;
+                    QCOMPARE(painted(*used, item, at, state),
+                             painted(*freshDelegate(), item, at, state));
+                }
+            }
+        }
+    }
+    ThemeManager::instance()->setThemeType(LightTheme);
 }
 
 void TestCardPainting::gapBetweenDevicePixels_data()
