@@ -49,14 +49,14 @@ bool NameStrips::draw(QPainter *painter, const DeviceGrid &grid, const Place &pl
     const QPointF exact = grid.transform().map(QPointF(place.name.topLeft()));
     const Key key{text, place.plate.cacheKey(), strip.topLeft() - plate.topLeft(),
                   exact - strip.topLeft()};
+    const int kilobytes = 1 + strip.width() * strip.height() / 256;
     Strip *known = m_strips.object(key);
     if (!known) {
-        m_strips.insert(key, new Strip, 1);
+        m_strips.insert(key, new Strip, kilobytes);
         return false;
     }
     if (known->state == State::SeenOnce) {
         known = new Strip(compose(painter, grid, place, strip, text, names));
-        const int kilobytes = 1 + known->picture.width() * known->picture.height() / 256;
         m_strips.insert(key, known, kilobytes);
     }
     if (known->state != State::Composed)

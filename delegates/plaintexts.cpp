@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr int MostTexts = 1024;
+constexpr int MostTexts = 512;
+constexpr int LongText = 128; // more than most columns show: not kept only for its width
 
 } // namespace
 
@@ -68,7 +69,8 @@ const QTextLayout &PlainTexts::laidOut(const QString &text, Qt::LayoutDirection 
 int PlainTexts::width(const QString &text, Qt::LayoutDirection script)
 {
     // a line leaves out the blanks at its end, the metrics do not
-    const bool sameMeasure = !text.isEmpty() && !text.back().isSpace() && onOneLine(text) == text;
+    const bool sameMeasure = !text.isEmpty() && text.size() <= LongText && !text.back().isSpace()
+        && onOneLine(text) == text;
     if (!sameMeasure)
         return QFontMetrics(m_font).horizontalAdvance(text);
     const QTextLayout *known = m_texts.object(text);
