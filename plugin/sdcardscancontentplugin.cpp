@@ -22,6 +22,7 @@ bool s_used = false; // the process-wide objects have been made
 QFrame *makeFrame(const char *name, int side, QPointer<SDCardContentDataWidget> *content)
 {
     s_used = true;
+    ThemeManager::instance(); // decides the theme, by which everything below is made
     // From now on a host finds them and can set the language.
     FontManager::instance();
     ZVLangManager::instance();
