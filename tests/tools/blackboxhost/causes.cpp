@@ -107,7 +107,8 @@ void proveSignals(Stage &stage)
                          .arg(QString::fromLatin1(cause.signal).section(QLatin1Char('('), 0, 0),
                               QLatin1String(cause.how)),
                      heard ? QString::fromLatin1(cause.arguments)
-                           : QStringLiteral("heard ") + stage.ear.heard.join(QStringLiteral(", ")));
+                           : QStringLiteral("last heard ")
+                             + stage.ear.heard.value(stage.ear.heard.size() - 1));
         if (!caused.contains(QLatin1String(cause.signal)))
             caused << QLatin1String(cause.signal);
     }
