@@ -145,7 +145,7 @@ int main(int argc, char *argv[])
     UserSettings user;
     const auto variables = user.environment();
     for (const auto &variable : variables)
-        qputenv(variable.first.toLatin1(), variable.second.toLocal8Bit());
+        qputenv(variable.first.toLatin1().constData(), variable.second.toLocal8Bit());
     const QTemporaryDir icons;
     provideDesktopIcons(icons.path());
 
