@@ -85,10 +85,12 @@ const Cause s_causes[] = {
      }},
     {"signalRightMenuRecover(TreeItemData*)", "IMG_0002.JPG", "\"recover\" in the context menu",
      [](Stage &s) { chooseInMenu(s.scan, "Recover"); }},
-    {"signalShowTooltip(QString)", "IMG_0002.JPG", "the mouse over a card",
+    // on a card that no click has been on: one card's tooltips keep a distance of a second
+    {"signalShowTooltip(QString)", "IMG_0003.JPG", "the mouse over a card",
      [](Stage &s) {
          Hand::hover(s.scan.view()->viewport(),
-                     Hand::placeOn(s.scan.view(), s.scan.index(s_photo), Hand::OnPreview));
+                     Hand::placeOn(s.scan.view(), s.scan.index(QStringLiteral("IMG_0003.JPG")),
+                                   Hand::OnPreview));
      }},
 };
 
