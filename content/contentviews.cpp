@@ -89,8 +89,8 @@ void ContentViews::orderTabs()
 void ContentViews::describeItems()
 {
     m_model->setRecoverabilitySource([this](const TreeItemData &item) {
-        const bool hasThumbnail =
-            !ScanPluginPreviewManager::instance()->gridThumbnail(item.fileId).isNull();
+        const bool hasThumbnail = ScanPluginPreviewManager::instance()->hasGridThumbnail(
+            item.fileId);
         return recoverabilityOf(&item, hasThumbnail, m_assessmentFinished);
     });
     const auto connectActions = [this](const auto *view) {

@@ -222,8 +222,8 @@ void ItemDetailView::fillFacts()
     m_resolution->setVisible(file);
     m_resolution->setValue(metadataValue(*m_item, "Resolution"));
     m_recoverability->setVisible(file);
-    const bool hasThumbnail =
-        !ScanPluginPreviewManager::instance()->gridThumbnail(m_item->fileId).isNull();
+    const bool hasThumbnail = ScanPluginPreviewManager::instance()->hasGridThumbnail(
+        m_item->fileId);
     m_recoverability->setValue(translatedKey(
         recoverabilityKey(recoverabilityOf(m_item, hasThumbnail, m_assessmentFinished))));
 }
@@ -276,7 +276,7 @@ void ItemDetailView::request()
     if (!m_item || m_item->kind != FileKind)
         return;
     const QPointer<TreeItemData> item = m_item;
-    if (ScanPluginPreviewManager::instance()->gridThumbnail(item->fileId).isNull())
+    if (!ScanPluginPreviewManager::instance()->hasGridThumbnail(item->fileId))
         emit signalGetThumPixmap(item);
     if (item && item->metaData.isEmpty())
         emit signalGetMetaData(item);
