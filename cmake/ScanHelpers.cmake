@@ -94,16 +94,16 @@ function(scan_add_test name)
         TIMEOUT ${arg_TIMEOUT})
 endfunction()
 
-# scan_add_benchmark(NAME [LIBS ...] [BRIEFLY arguments]): benchmarks/NAME.cpp with Google Benchmark;
-# run by hand. Where nobody does, on a system that is built for from another one, a test starts it
-# with the arguments that make it brief.
+# scan_add_benchmark(NAME [ONLY_BY_HAND] [LIBS ...] [BRIEFLY arguments]): benchmarks/NAME.cpp with
+# Google Benchmark; run by hand. Where nobody does, on a system that is built for from another one, a
+# test starts it with the arguments that make it brief, unless nothing does.
 function(scan_add_benchmark name)
-    cmake_parse_arguments(arg "" "" "LIBS;BRIEFLY" ${ARGN})
+    cmake_parse_arguments(arg "ONLY_BY_HAND" "" "LIBS;BRIEFLY" ${ARGN})
     add_executable(${name} ${name}.cpp)
     target_link_libraries(${name} PRIVATE scancontent scanimages benchmark::benchmark scan_warnings ${arg_LIBS})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     scan_precompile(${name})
-    if(CMAKE_CROSSCOMPILING)
+    if(CMAKE_CROSSCOMPILING AND NOT arg_ONLY_BY_HAND)
         if(NOT arg_BRIEFLY)
             set(arg_BRIEFLY --benchmark_list_tests)
         endif()
