@@ -1,12 +1,13 @@
 #include "host/app/session.h"
 
 #include "host/app/pathpattern.h"
-#include "host/tree/itemkinds.h"
+#include "host/tree/checksweep.h"
 
 #include <QPixmap>
 
 namespace {
 constexpr int PublishMs = 100; // ten times a second is all that an eye can follow
+constexpr int FilteredAStep = 512;
 using Plugin = SDCardScanContentPluginInterface;
 } // namespace
 
@@ -14,6 +15,7 @@ Session::Session(ContentPlugin &plugin, QObject *parent)
     : QObject(parent)
     , m_plugin(plugin)
     , m_search(m_tree)
+    , m_checks(m_tree, m_search, m_work)
 {
     m_publisher.setInterval(PublishMs);
     connect(&m_publisher, &QTimer::timeout, this, &Session::publish);
@@ -21,12 +23,9 @@ Session::Session(ContentPlugin &plugin, QObject *parent)
         if (!m_publisher.isActive())
             m_publisher.start();
     });
-    m_stepEnd.setSingleShot(true);
-    m_stepEnd.setInterval(0);
-    connect(&m_stepEnd, &QTimer::timeout, this, [this] {
-        publishChecks();
-        endStep();
-    });
+    connect(&m_checks, &CheckChanges::changed, this, &Session::publishChecks);
+    connect(&m_checks, &CheckChanges::bulkChecked, this, &Session::bulkChecked);
+    connect(&m_checks, &CheckChanges::busyChanged, &m_runner, &ScanRunner::setHeld);
     connectScan();
     connectPlugin();
     m_plugin->setFilterCondition(&m_filter);
@@ -57,10 +56,10 @@ void Session::connectScan()
 
 void Session::connectPlugin()
 {
-    connect(&m_plugin, &ContentPlugin::treeItemChecked, this, &Session::takeCheck);
-    connect(&m_plugin, &ContentPlugin::searchItemChecked, this, &Session::takeSearchCheck);
+    connect(&m_plugin, &ContentPlugin::treeItemChecked, &m_checks, &CheckChanges::take);
+    connect(&m_plugin, &ContentPlugin::searchItemChecked, &m_checks, &CheckChanges::takeFound);
     connect(&m_plugin, &ContentPlugin::searchAllChecked, this,
-            [this](Qt::CheckState state) { takeSearchCheck(m_search.root(), state); });
+            [this](Qt::CheckState state) { m_checks.takeFound(m_search.root(), state); });
     connect(&m_plugin, &ContentPlugin::folderOpened, this, &Session::openFolder);
     connect(&m_plugin, &ContentPlugin::thumbnailRequested, this, &Session::requestThumbnail);
     connect(&m_plugin, &ContentPlugin::metadataRequested, this, &Session::requestMetadata);
@@ -86,14 +85,15 @@ void Session::connectPlugin()
 void Session::clear()
 {
     m_publisher.stop();
-    m_stepEnd.stop();
+    m_checks.drop();
     m_thumbnails.drop();
     m_metadata.setSource(nullptr);
     m_awaitingMetadata.clear();
     m_plugin->clearData(Plugin::BothSides);
     m_search.clear();
     m_shown = nullptr;
-    m_tree.clear();
+    const auto remains = std::make_shared<RecordStore::Remains>(m_tree.clear());
+    m_disposal.add([remains] { return remains->destroyBlock(); });
     m_progress = ScanProgress();
     m_outcome = ScanOutcome();
     m_publishedRevision = 0;
@@ -128,7 +128,6 @@ void Session::takeVolumes(const QVector<VolumeInfo> &volumes)
 
 void Session::takeItems(const QVector<FoundItem> &batch)
 {
-    endStep();
     m_tree.add(batch);
     m_search.resume();
 }
@@ -139,7 +138,7 @@ void Session::finishScan(const ScanOutcome &outcome)
     m_outcome = outcome;
     publish();
     m_plugin->setScanState(Plugin::ScanFinished);
-    if (m_shown && m_shown->itemCount == 0)
+    if (m_shown && m_shown->itemCount == 0 && !m_tree.isFiltering())
         m_plugin->updateScanData(
             m_shown); // an empty root chooses its page by the state of the scan
     m_plugin->refreshScanCheckState();
@@ -149,15 +148,27 @@ void Session::finishScan(const ScanOutcome &outcome)
 /// Hands over what is shown when it has changed since the last time, and rests when nothing can.
 void Session::publish()
 {
-    if (m_shown && m_tree.revision() != m_publishedRevision) {
+    if (m_shown && m_tree.revision() != m_publishedRevision && isTimeToShow()) {
         m_publishedRevision = m_tree.revision();
         m_plugin->updateScanData(m_shown);
-        emit treeGrew();
-        emit checksChanged(); // what is found in a checked folder is checked
+        if (!m_tree.isFiltering()) {
+            emit treeGrew();
+            emit checksChanged(); // what is found in a checked folder is checked
+        }
     }
+    m_search.resume();
     publishSearch();
-    if (!m_scanning && (!m_search.isActive() || m_search.isComplete()))
+    if (!m_scanning && !m_tree.isFiltering() && (!m_search.isActive() || m_search.isComplete()))
         m_publisher.stop();
+}
+
+/// What a filter has let through so far takes the place of what was there before as soon as there
+/// is something; but what is selected would not stay so while it is still to come.
+bool Session::isTimeToShow() const
+{
+    return !m_tree.isFiltering()
+        || (m_tree.isShown(*m_shown) && m_shown->itemCount > 0
+            && m_plugin->getSelectedItems(Plugin::ScanSide).isEmpty());
 }
 
 void Session::publishSearch()
@@ -196,13 +207,16 @@ void Session::show(ItemRecord *root)
     if (m_search.isActive())
         setKeyword(QString());
     m_shown = root;
-    m_publishedRevision = m_tree.revision();
-    m_plugin->updateScanData(root);
+    if (!m_tree.isFiltering()) { // else it follows when it has been filtered
+        m_publishedRevision = m_tree.revision();
+        m_plugin->updateScanData(root);
+    }
     emit shownRootChanged();
 }
 
 void Session::locate(const ItemRecord *item)
 {
+    m_work.finish();
     const qint64 id = item->fileId;
     show(item->folder());
     m_plugin->locateItemByFileId(id);
@@ -237,114 +251,48 @@ void Session::restartSearch()
 
 void Session::setFilter(const FilterCondition &condition)
 {
-    endStep();
+    m_checks.settle();
+    m_work.drop(); // an earlier filter
     const bool described = m_filter.aiSearch;
     m_filter = condition;
     m_filter.aiSearch = described;
-    m_tree.setFilter(ItemFilter(condition));
+    m_tree.beginFilter(ItemFilter(condition));
     m_plugin->setFilterCondition(&m_filter);
+    restartSearch();
+    m_publisher.start();
+    m_work.add([this] { return m_tree.filterMore(FilteredAStep); }, [this] { endFilter(); });
+}
+
+void Session::endFilter()
+{
     // the folder that was shown may have nothing left in it: go up to where there is something
     while (m_shown && m_shown->folder() && !m_shown->isShown)
         m_shown = m_shown->folder();
-    restartSearch();
     publish();
     emit shownRootChanged();
     emit checksChanged();
 }
 
+/// What is still being done to the tree is done now.
+void Session::settle()
+{
+    m_checks.settle();
+    m_work.finish();
+}
+
 void Session::setChecked(const QVector<ItemRecord *> &items, bool checked)
 {
-    endStep();
+    settle();
     m_tree.beginStep();
-    m_tree.setChecked(items, checked);
+    CheckSweep::below(m_tree, items, checked)->finish();
     publishChecks();
     m_tree.endStep();
 }
 
-void Session::endStep()
-{
-    if (m_stepEnd.isActive()) {
-        m_stepEnd.stop();
-        publishChecks();
-    }
-    if (const CheckStep *step = m_tree.endStep())
-        emit bulkChecked(step->checkedFiles, step->uncheckedFiles);
-}
-
-/// A key may change ten thousand selected items, which come one by one: the records follow each,
-/// the views follow when the last has come.
-void Session::takeCheck(TreeItemData *item, Qt::CheckState state)
-{
-    ItemRecord *record = m_tree.records().find(item);
-    if (!record)
-        return;
-    m_tree.beginStep();
-    m_tree.setChecked(record, state == Qt::Checked);
-    m_stepEnd.start();
-}
-
-void Session::takeSearchCheck(TreeItemData *item, Qt::CheckState state)
-{
-    if (!m_search.isRoot(item)) {
-        takeCheck(item, state);
-        return;
-    }
-    QVector<ItemRecord *> found;
-    found.reserve(m_search.count());
-    for (const auto *list : {&item->childFolders, &item->childFiles}) {
-        for (TreeItemData *child : *list)
-            found.append(static_cast<ItemRecord *>(child));
-    }
-    m_tree.beginStep();
-    m_tree.setChecked(found, state == Qt::Checked);
-    m_stepEnd.start();
-}
-
 void Session::changeChecks(Bulk what)
 {
-    if (!m_shown)
-        return;
-    endStep();
-    if (what == Bulk::CheckShown && m_search.isActive()) {
-        takeSearchCheck(m_search.root(), Qt::Checked);
-        return;
-    }
-    m_tree.beginStep();
-    switch (what) {
-    case Bulk::CheckPhotos:
-        m_tree.setChecked(m_tree.kindRoot(ItemKinds::PhotosRootType), true);
-        break;
-    case Bulk::CheckDeleted:
-        m_tree.checkDeleted();
-        break;
-    case Bulk::CheckShown:
-        m_tree.setChecked(m_shown, true);
-        break;
-    case Bulk::Invert:
-        m_tree.invertChecks();
-        break;
-    case Bulk::UncheckAll:
-        m_tree.uncheckAll();
-        break;
-    }
-    publishChecks();
-    endStep();
-}
-
-bool Session::undoChecks()
-{
-    endStep();
-    const bool undone = m_tree.undo();
-    publishChecks();
-    return undone;
-}
-
-bool Session::redoChecks()
-{
-    endStep();
-    const bool redone = m_tree.redo();
-    publishChecks();
-    return redone;
+    if (m_shown)
+        m_checks.change(what, m_shown);
 }
 
 void Session::openFolder(TreeItemData *item)
@@ -403,8 +351,9 @@ void Session::answerMetadata(qint64 id, const QVector<QPair<QString, QString>> &
     emit record->metaDataChanged(); // also of nothing: the asking is over
 }
 
-QVector<ItemRecord *> Session::matching(const QString &pattern) const
+QVector<ItemRecord *> Session::matching(const QString &pattern)
 {
+    settle();
     const PathPattern wanted(pattern);
     QVector<ItemRecord *> found;
     for (int i = 0; i < m_tree.records().size(); ++i) {
@@ -416,8 +365,9 @@ QVector<ItemRecord *> Session::matching(const QString &pattern) const
     return found;
 }
 
-QVector<FoundItem> Session::selectedForRecovery() const
+QVector<FoundItem> Session::selectedForRecovery()
 {
+    settle();
     QVector<FoundItem> items;
     QVector<const TreeItemData *> open;
     QSet<qint64> seen; // a folder and something in it may both be selected
@@ -440,8 +390,9 @@ QVector<FoundItem> Session::selectedForRecovery() const
     return items;
 }
 
-QVector<FoundItem> Session::checkedForRecovery() const
+QVector<FoundItem> Session::checkedForRecovery()
 {
+    settle();
     QVector<FoundItem> items;
     const auto checked = m_tree.checkedItems();
     for (const ItemRecord *record : checked)

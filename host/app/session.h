@@ -1,11 +1,13 @@
 #pragma once
 
+#include "host/app/checkchanges.h"
 #include "host/app/contentplugin.h"
 #include "host/media/metadatareader.h"
 #include "host/media/thumbnailmaker.h"
 #include "host/scan/scanrunner.h"
 #include "host/tree/itemsearch.h"
 #include "host/tree/itemtree.h"
+#include "host/tree/slicedwork.h"
 
 #include <QObject>
 #include <QTimer>
@@ -52,24 +54,25 @@ public:
     bool isDescribed() const { return m_filter.aiSearch; }
     /// An empty \a keyword ends the search.
     void setKeyword(const QString &keyword);
+    /// Its results come in slices, and it ends an earlier one that is still at work.
     void setFilter(const FilterCondition &condition);
     const FilterCondition &filter() const { return m_filter; }
 
-    enum class Bulk { CheckPhotos, CheckDeleted, CheckShown, Invert, UncheckAll };
+    using Bulk = CheckChanges::Bulk;
     /// Changes the checks of many files at once; `bulkChecked()` follows. CheckShown means what the
     /// folder, the kind or the search on screen holds.
     void changeChecks(Bulk what);
     /// Takes the latest bulk change of checks back, or makes it again. False when there is none.
-    bool undoChecks();
-    bool redoChecks();
+    bool undoChecks() { return m_checks.undo(); }
+    bool redoChecks() { return m_checks.redo(); }
 
     /// What clicks on the check boxes of \a items do, as one change. Nothing is announced.
     void setChecked(const QVector<ItemRecord *> &items, bool checked);
     /// The files and folders that \a pattern means, see PathPattern.
-    QVector<ItemRecord *> matching(const QString &pattern) const;
+    QVector<ItemRecord *> matching(const QString &pattern);
     /// What is selected on the side that is on screen; folders with all that is shown in them.
-    QVector<FoundItem> selectedForRecovery() const;
-    QVector<FoundItem> checkedForRecovery() const;
+    QVector<FoundItem> selectedForRecovery();
+    QVector<FoundItem> checkedForRecovery();
 
 signals:
     void opened();
@@ -97,12 +100,12 @@ private:
     void takeItems(const QVector<FoundItem> &batch);
     void finishScan(const ScanOutcome &outcome);
     void publish();
+    bool isTimeToShow() const;
     void publishSearch();
+    void endFilter();
+    void settle();
     void restartSearch();
     void publishChecks();
-    void takeCheck(TreeItemData *item, Qt::CheckState state);
-    void takeSearchCheck(TreeItemData *item, Qt::CheckState state);
-    void endStep();
     void openFolder(TreeItemData *item);
     void requestThumbnail(TreeItemData *item);
     void requestMetadata(TreeItemData *item);
@@ -114,12 +117,14 @@ private:
     FilterCondition m_filter; // the plug-in reads it whenever it chooses a page
     ItemTree m_tree;
     ItemSearch m_search;
+    SlicedWork m_work;     // on the tree
+    SlicedWork m_disposal; // of the records of earlier scans
+    CheckChanges m_checks;
     ThumbnailMaker m_thumbnails;
     MetadataReader m_metadata;
     QHash<qint64, ItemRecord *> m_awaitingMetadata; // none of an earlier scan
     ScanRunner m_runner;
     QTimer m_publisher;
-    QTimer m_stepEnd; // what the plug-in tells in one go is one change
     QString m_path;
     ScanProgress m_progress;
     ScanOutcome m_outcome;

@@ -108,13 +108,24 @@ void ScanRunner::launch(std::shared_ptr<Run> run)
     m_elapsed.start();
     Run *shared = m_run.get(); // outlives the thread: abandon() and poll() wait for it
     m_run->thread = std::thread([shared] { shared->work(); });
-    m_timer.start(DeliveryMs);
+    m_timer.setInterval(DeliveryMs);
+    if (!m_held)
+        m_timer.start();
 }
 
 void ScanRunner::cancel()
 {
     if (m_run)
         m_run->cancel = true;
+}
+
+void ScanRunner::setHeld(bool held)
+{
+    m_held = held;
+    if (held)
+        m_timer.stop();
+    else if (m_running)
+        m_timer.start();
 }
 
 void ScanRunner::abandon()

@@ -37,6 +37,8 @@ public:
 
     /// Asks the scan to end; finished() follows.
     void cancel();
+    /// While it is held the scan goes on but nothing of it is told.
+    void setHeld(bool held);
     bool isRunning() const { return m_running; }
 
     /// The source of the latest scan, from opened() on; null before.
@@ -63,6 +65,7 @@ private:
     ScanProgress m_progress;
     QElapsedTimer m_elapsed;
     bool m_running = false;
+    bool m_held = false;
 };
 
 Q_DECLARE_METATYPE(ScanProgress)

@@ -1,5 +1,7 @@
 #include "host/tree/indexset.h"
 
+#include <QtAlgorithms>
+
 #include <algorithm>
 
 namespace {
@@ -42,6 +44,18 @@ bool IndexSet::contains(int index) const
     const int place = index / WordBits - m_firstWord;
     return place >= 0 && std::size_t(place) < m_words.size()
         && (m_words[std::size_t(place)] & bitOf(index)) != 0;
+}
+
+int IndexSet::next(int index) const
+{
+    const int from = std::max(index - m_firstWord * WordBits, 0);
+    auto place = std::size_t(from / WordBits);
+    quint64 passed = bitOf(from) - 1; // of the first word only
+    for (; place < m_words.size(); ++place, passed = 0) {
+        if (const quint64 rest = m_words[place] & ~passed)
+            return (m_firstWord + int(place)) * WordBits + int(qCountTrailingZeroBits(rest));
+    }
+    return -1;
 }
 
 void IndexSet::squeeze()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtAlgorithms>
 #include <QtGlobal>
 
 #include <vector>
@@ -14,17 +13,10 @@ public:
     void remove(int index);
     bool contains(int index) const;
     bool isEmpty() const { return m_words.empty(); }
+    /// The first one from \a index on; below 0: none.
+    int next(int index) const;
     /// Gives back what is not needed; to be called when the set is complete.
     void squeeze();
-
-    template <typename Visit>
-    void forEach(Visit visit) const
-    {
-        for (std::size_t i = 0; i < m_words.size(); ++i) {
-            for (quint64 rest = m_words[i]; rest != 0; rest &= rest - 1)
-                visit((m_firstWord + int(i)) * WordBits + int(qCountTrailingZeroBits(rest)));
-        }
-    }
 
 private:
     static constexpr int WordBits = 64;

@@ -50,7 +50,7 @@ void ItemSearch::clear()
 
 bool ItemSearch::isComplete() const
 {
-    return m_next >= m_tree.records().size();
+    return m_next >= m_tree.records().size() && !m_tree.isFiltering();
 }
 
 bool ItemSearch::finds(const ItemRecord &record) const
@@ -63,7 +63,7 @@ void ItemSearch::step()
     QElapsedTimer clock;
     clock.start();
     const RecordStore &records = m_tree.records();
-    const int end = records.size();
+    const int end = m_tree.filteredEnd();
     while (m_next < end) {
         ItemRecord *record = records.at(m_next++);
         if (record->isShown && !record->isRoot && finds(*record)) {
@@ -74,15 +74,22 @@ void ItemSearch::step()
         if (m_next % ItemsBetweenLooksAtTheClock == 0 && clock.elapsed() >= SliceMs)
             break;
     }
-    if (isComplete())
+    if (m_next >= end)
         m_timer.stop();
     emit progressed();
 }
 
 void ItemSearch::updateCheckState()
 {
-    if (!m_root)
+    if (!m_root || m_root->itemCount == 0)
         return;
+    // all that is found is below the root by place
+    const int everything = m_tree.placeRoot()->checkState;
+    m_root->checkState = everything == Qt::PartiallyChecked ? stateOfFound() : everything;
+}
+
+int ItemSearch::stateOfFound() const
+{
     bool checked = false;
     bool unchecked = false;
     for (const auto *list : {&m_root->childFolders, &m_root->childFiles}) {
@@ -90,8 +97,8 @@ void ItemSearch::updateCheckState()
             checked = checked || item->checkState != Qt::Unchecked;
             unchecked = unchecked || item->checkState != Qt::Checked;
             if (checked && unchecked)
-                break;
+                return Qt::PartiallyChecked;
         }
     }
-    m_root->checkState = !checked ? Qt::Unchecked : unchecked ? Qt::PartiallyChecked : Qt::Checked;
+    return checked ? Qt::Checked : Qt::Unchecked;
 }

@@ -12,8 +12,8 @@
 class ItemTree;
 
 /// Finds the shown items whose name contains a text, or which a description fits, in short slices
-/// between events, and goes on as more items arrive. The root lists the records of the tree itself,
-/// so their checks are the same on both sides. GUI thread.
+/// between events, and goes on as more items arrive or are filtered. The root lists the records of
+/// the tree itself, so their checks are the same on both sides. GUI thread.
 class ItemSearch : public QObject
 {
     Q_OBJECT
@@ -47,6 +47,7 @@ signals:
 
 private:
     void step();
+    int stateOfFound() const;
     bool finds(const ItemRecord &record) const;
 
     const ItemTree &m_tree;

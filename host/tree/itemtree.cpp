@@ -12,7 +12,7 @@ ItemTree::ItemTree()
 
 ItemTree::~ItemTree() = default;
 
-void ItemTree::clear()
+RecordStore::Remains ItemTree::clear()
 {
     m_folders.clear();
     m_folderList.clear();
@@ -20,7 +20,8 @@ void ItemTree::clear()
     m_volumes.clear();
     m_kinds.clear();
     m_placeRoot = nullptr;
-    m_records.clear();
+    RecordStore::Remains remains = m_records.takeAll();
+    m_filtered = Everything;
     m_history.clear(); // the places that it knows are given out anew
     m_checkedFiles = 0;
     m_checkedBytes = 0;
@@ -28,6 +29,7 @@ void ItemTree::clear()
     for (const ItemKind &kind : ItemKinds::All)
         m_kinds.append(createRoot(QLatin1String(kind.key), kind.rootType));
     ++m_revision;
+    return remains;
 }
 
 void ItemTree::setVolumes(const QVector<VolumeInfo> &volumes)
@@ -64,6 +66,10 @@ void ItemTree::add(const QVector<FoundItem> &batch)
         if (record->isFolder()) {
             m_folders.insert(record->fileId, record);
             m_folderList.append(record);
+        }
+        if (isFiltering())
+            continue; // the filter comes to it
+        if (record->isFolder()) {
             if (!m_filter.isActive())
                 show(record);
         } else if (m_filter.accepts(*record)) {
@@ -71,14 +77,6 @@ void ItemTree::add(const QVector<FoundItem> &batch)
         }
     }
     ++m_revision;
-}
-
-void ItemTree::setFilter(const ItemFilter &filter)
-{
-    if (!filter.isActive() && !m_filter.isActive())
-        return;
-    m_filter = filter;
-    rebuild();
 }
 
 ItemRecord *ItemTree::kindRoot(int rootType) const
@@ -166,63 +164,25 @@ void ItemTree::link(ItemRecord *record)
 {
     ItemRecord *holder = record->folder();
     (record->isFolder() ? holder->childFolders : holder->childFiles).append(record);
-    int leaves = record->leaves;
-    int checkedLeaves = record->checkedLeaves;
+    grow(holder, {record->leaves, record->checkedLeaves, 1, record->fileSize});
+}
+
+void ItemTree::grow(ItemRecord *holder, Growth growth)
+{
     if (holder->isLeaf) {
         // It counted itself while it was empty; from now on its contents count for it.
-        leaves -= 1;
-        checkedLeaves -= holder->checkedLeaves;
+        growth.leaves -= 1;
+        growth.checkedLeaves -= holder->checkedLeaves;
         holder->isLeaf = false;
         holder->isChecked = false;
     }
     for (ItemRecord *folder = holder; folder; folder = folder->folder()) {
-        folder->leaves += leaves;
-        folder->checkedLeaves += checkedLeaves;
-        folder->itemCount += 1;
-        folder->folderSize += record->fileSize;
+        folder->leaves += growth.leaves;
+        folder->checkedLeaves += growth.checkedLeaves;
+        folder->itemCount += growth.items;
+        folder->folderSize += growth.bytes;
         writeCheckState(folder);
         if (folder->checkedLeaves < folder->leaves)
             setNewcomers(folder, false);
     }
-}
-
-void ItemTree::resetContainer(ItemRecord *record)
-{
-    record->childFolders.clear();
-    record->childFiles.clear();
-    record->itemCount = 0;
-    record->folderSize = 0;
-    record->leaves = 0;
-    record->checkedLeaves = 0;
-    record->checksNewcomers = false;
-    record->checkState = Qt::Unchecked;
-}
-
-void ItemTree::rebuild()
-{
-    for (int i = 0; i < m_records.size(); ++i) {
-        ItemRecord *record = m_records.at(i);
-        record->kindRoot = nullptr;
-        record->isShown = record->isRoot;
-        if (record->isFolder())
-            resetContainer(record);
-        if (!record->isRoot) {
-            record->isLeaf = true;
-            record->leaves = 1;
-        }
-    }
-    if (hasSeveralVolumes()) {
-        for (ItemRecord *volume : qAsConst(m_volumes)) {
-            m_placeRoot->childFolders.append(volume);
-            ++m_placeRoot->itemCount;
-        }
-    }
-    for (int i = 0; i < m_records.size(); ++i) {
-        ItemRecord *record = m_records.at(i);
-        if (record->isRoot || record->isShown)
-            continue;
-        if (record->isFolder() ? !m_filter.isActive() : m_filter.accepts(*record))
-            show(record);
-    }
-    ++m_revision;
 }

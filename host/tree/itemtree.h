@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QVector>
 
+#include <limits>
+
 /// The records of a scan as trees: by place (volumes, folders, files) and by kind. Items are added
 /// while the scan runs; counts, sizes and check states of everything above follow at once.
 ///
@@ -19,13 +21,25 @@ public:
     ItemTree();
     ~ItemTree();
 
-    /// Forgets everything. Nobody may use a record from here on.
-    void clear();
+    /// Forgets everything. Nobody may use a record from here on; the caller has them destroyed.
+    RecordStore::Remains clear();
     void setVolumes(const QVector<VolumeInfo> &volumes);
     /// Parents come before their children; an item whose parent is unknown lands in its volume.
     void add(const QVector<FoundItem> &batch);
-    /// Builds the trees anew with what \a filter lets through.
-    void setFilter(const ItemFilter &filter);
+    /// Begins to build the trees anew with what \a filter lets through; an earlier beginning is
+    /// forgotten. Until the end the trees hold what has been let through so far, in the order that
+    /// they will have then.
+    void beginFilter(const ItemFilter &filter);
+    /// Goes on with some \a records; true when that were the last.
+    bool filterMore(int records);
+    bool isFiltering() const { return m_filtered != Everything; }
+    /// The records from this one on are still to be filtered.
+    int filteredEnd() const { return qMin(m_filtered, m_records.size()); }
+    /// The filter has let it through.
+    bool isShown(const ItemRecord &record) const
+    {
+        return record.isShown && (record.isRoot || record.index < m_filtered);
+    }
 
     /// The root by place: the only volume, or a root over several. Null before the first scan.
     ItemRecord *placeRoot() const { return m_placeRoot; }
@@ -38,25 +52,17 @@ public:
     ItemRecord *kindRoot(int rootType) const;
     const RecordStore &records() const { return m_records; }
 
-    /// Checks or unchecks what is shown at and below \a record; all states above follow.
+    /// Checks or unchecks what is shown at and below \a record; all states above follow. While the
+    /// filter is at work, files only. More changes at once, and those of what isBig(), are for a
+    /// CheckSweep.
     void setChecked(ItemRecord *record, bool checked);
-    /// The same for each of \a items.
-    void setChecked(const QVector<ItemRecord *> &items, bool checked);
-    /// Every shown file that is deleted.
-    void checkDeleted();
-    /// Turns round every shown file and empty folder.
-    void invertChecks();
-    /// Unchecks everything, hidden files too.
-    void uncheckAll();
+    /// So much is below it that following each change up to the roots would be more work.
+    bool isBig(const ItemRecord &record) const;
 
     /// What is changed between the two is one step of the history. The step, when it changed more
     /// than one file; null otherwise.
     void beginStep() { m_history.begin(); }
     const CheckStep *endStep() { return m_history.end(); }
-    /// The step that was undone or done again; null when there is none. Files that were checked by
-    /// hand in the meantime keep their checks, unless they belong to the step.
-    const CheckStep *undo();
-    const CheckStep *redo();
     bool canUndo() const { return m_history.lastDone(); }
     bool canRedo() const { return m_history.lastUndone(); }
 
@@ -74,23 +80,32 @@ public:
     quint64 revision() const { return m_revision; }
 
 private:
-    class Tally;
+    friend class CheckSweep;
+    class FilterRun;
+
+    /// What comes to a folder.
+    struct Growth
+    {
+        qint32 leaves = 0;
+        qint32 checkedLeaves = 0;
+        qint64 items = 0;
+        qint64 bytes = 0;
+    };
+    static constexpr int Everything = std::numeric_limits<int>::max();
 
     ItemRecord *createRoot(const QString &name, int rootType);
     ItemRecord *createRecord(const FoundItem &item);
-    void resetContainer(ItemRecord *record);
+    void reset(ItemRecord *record);
+    void resetRoots();
     void show(ItemRecord *record);
     void link(ItemRecord *record);
+    void grow(ItemRecord *holder, Growth growth);
     void listByKind(ItemRecord *file);
     void takeAlong(ItemRecord *newcomer);
     void setNewcomers(ItemRecord *container, bool taken);
     void setLeafChecked(ItemRecord *leaf, bool checked);
     bool mark(ItemRecord *leaf, bool checked);
-    void markBelow(ItemRecord *record, bool checked);
-    void apply(const IndexSet &checked, const IndexSet &unchecked, const IndexSet &flagged,
-               const IndexSet &unflagged);
     void settleContainers();
-    void rebuild();
 
     RecordStore m_records;
     QHash<qint64, ItemRecord *> m_folders; // by fileId
@@ -101,6 +116,7 @@ private:
     ItemRecord *m_placeRoot = nullptr;
     ItemRecord *m_allFiles = nullptr;
     ItemFilter m_filter;
+    int m_filtered = Everything;
     CheckHistory m_history;
     int m_checkedFiles = 0;
     qint64 m_checkedBytes = 0;

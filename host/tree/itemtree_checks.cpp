@@ -3,7 +3,7 @@
 
 namespace {
 
-/// Where that many leaves change, a tally is less work than following each change up to the roots.
+/// From so many leaves on, a sweep is less work than following each change up to the roots.
 constexpr int ManyLeaves = 2000;
 
 /// Everything that counts \a record: the folders above it and, for files, the roots by kind.
@@ -82,54 +82,9 @@ bool ItemTree::mark(ItemRecord *leaf, bool checked)
     return changes;
 }
 
-/// Changes of many leaves. What counts them hears of a whole run of siblings at a time, since files
-/// of one folder mostly follow each other, and is put right when all have changed.
-class ItemTree::Tally
-{
-public:
-    explicit Tally(ItemTree *tree)
-        : m_tree(tree)
-    {
-    }
-
-    void set(ItemRecord *leaf, bool checked)
-    {
-        if (!m_tree->mark(leaf, checked) || !leaf->isShown)
-            return;
-        if (leaf->folder() != m_folder) {
-            passOn();
-            m_folder = leaf->folder();
-        }
-        const int change = checked ? 1 : -1;
-        m_change += change;
-        if (leaf->kindRoot) {
-            leaf->kindRoot->checkedLeaves += change;
-            m_tree->m_allFiles->checkedLeaves += change;
-        }
-    }
-
-    void finish()
-    {
-        passOn();
-        m_tree->settleContainers();
-    }
-
-private:
-    void passOn()
-    {
-        for (ItemRecord *folder = m_folder; folder && m_change != 0; folder = folder->folder())
-            folder->checkedLeaves += m_change;
-        m_change = 0;
-    }
-
-    ItemTree *m_tree;
-    ItemRecord *m_folder = nullptr;
-    int m_change = 0; // of the leaves right in it
-};
-
 void ItemTree::setLeafChecked(ItemRecord *leaf, bool checked)
 {
-    if (!mark(leaf, checked))
+    if (!mark(leaf, checked) || !isShown(*leaf))
         return;
     forEachContainer(leaf, m_allFiles, [this, checked](ItemRecord *container) {
         container->checkedLeaves += checked ? 1 : -1;
@@ -139,131 +94,31 @@ void ItemTree::setLeafChecked(ItemRecord *leaf, bool checked)
     });
 }
 
+bool ItemTree::isBig(const ItemRecord &record) const
+{
+    return record.leaves > ManyLeaves && record.leaves > m_folderList.size() / 8;
+}
+
 void ItemTree::setChecked(ItemRecord *record, bool checked)
 {
     if (!record->isShown)
         return;
-    const bool many = record->leaves > ManyLeaves && record->leaves > m_folderList.size() / 8;
-    Tally tally(this);
     QVector<ItemRecord *> open{record};
     while (!open.isEmpty()) {
         ItemRecord *current = open.takeLast();
         if (current->isFolder())
             setNewcomers(current, checked);
         if (current->isLeaf) {
-            if (many)
-                tally.set(current, checked);
-            else
-                setLeafChecked(current, checked);
+            setLeafChecked(current, checked);
             continue;
         }
-        for (TreeItemData *file : qAsConst(current->childFiles)) {
-            auto *leaf = static_cast<ItemRecord *>(file);
-            if (many)
-                tally.set(leaf, checked);
-            else
-                setLeafChecked(leaf, checked);
-        }
+        for (TreeItemData *file : qAsConst(current->childFiles))
+            setLeafChecked(static_cast<ItemRecord *>(file), checked);
         for (TreeItemData *folder : qAsConst(current->childFolders))
             open.append(static_cast<ItemRecord *>(folder));
         // the plug-in may have written a state that nothing below bears out
         writeCheckState(current);
     }
-    if (many)
-        tally.finish();
-}
-
-void ItemTree::setChecked(const QVector<ItemRecord *> &items, bool checked)
-{
-    if (items.size() <= ManyLeaves) {
-        for (ItemRecord *item : items)
-            setChecked(item, checked);
-        return;
-    }
-    Tally tally(this);
-    for (ItemRecord *item : items) {
-        if (item->isLeaf && item->isShown && !item->isFolder())
-            tally.set(item, checked);
-    }
-    tally.finish();
-    for (ItemRecord *item : items) {
-        if (item->isFolder())
-            setChecked(item, checked);
-    }
-}
-
-void ItemTree::checkDeleted()
-{
-    Tally tally(this);
-    for (int i = 0; i < m_records.size(); ++i) {
-        ItemRecord *record = m_records.at(i);
-        if (record->isShown && !record->exists && !record->isFolder())
-            tally.set(record, true);
-    }
-    tally.finish();
-}
-
-void ItemTree::invertChecks()
-{
-    Tally tally(this);
-    for (int i = 0; i < m_records.size(); ++i) {
-        ItemRecord *record = m_records.at(i);
-        if (record->isShown && record->isLeaf)
-            tally.set(record, !record->isChecked);
-    }
-    tally.finish();
-}
-
-void ItemTree::uncheckAll()
-{
-    Tally tally(this);
-    for (int i = 0; i < m_records.size(); ++i) {
-        ItemRecord *record = m_records.at(i);
-        if (record->isLeaf)
-            tally.set(record, false);
-        if (record->isFolder())
-            setNewcomers(record, false);
-    }
-    tally.finish();
-}
-
-const CheckStep *ItemTree::undo()
-{
-    m_history.end();
-    if (!m_history.lastDone())
-        return nullptr;
-    m_history.markUndone();
-    const CheckStep *step = m_history.lastUndone();
-    apply(step->unchecked, step->checked, step->unflagged, step->flagged);
-    return step;
-}
-
-const CheckStep *ItemTree::redo()
-{
-    m_history.end();
-    if (!m_history.lastUndone())
-        return nullptr;
-    m_history.markRedone();
-    const CheckStep *step = m_history.lastDone();
-    apply(step->checked, step->unchecked, step->flagged, step->unflagged);
-    return step;
-}
-
-/// Nothing of it is recorded: no step is open.
-void ItemTree::apply(const IndexSet &checked, const IndexSet &unchecked, const IndexSet &flagged,
-                     const IndexSet &unflagged)
-{
-    Tally tally(this);
-    const auto setLeaf = [this, &tally](int index, bool on) {
-        ItemRecord *record = m_records.at(index);
-        if (record->isLeaf) // a folder that was empty then may have been filled since
-            tally.set(record, on);
-    };
-    checked.forEach([&setLeaf](int index) { setLeaf(index, true); });
-    unchecked.forEach([&setLeaf](int index) { setLeaf(index, false); });
-    unflagged.forEach([this](int index) { setNewcomers(m_records.at(index), false); });
-    flagged.forEach([this](int index) { setNewcomers(m_records.at(index), true); });
-    tally.finish(); // takes back the flags of what is not wholly checked
 }
 
 /// The states of whatever counts leaves, from counts that are right. What is not wholly checked

@@ -45,11 +45,13 @@ ItemRecord *RecordStore::create()
     return record;
 }
 
-void RecordStore::clear()
+RecordStore::Remains RecordStore::takeAll()
 {
+    Remains remains;
+    remains.m_blocks.swap(m_blocks);
     m_byAddress.clear();
-    m_blocks.clear();
     m_size = 0;
+    return remains;
 }
 
 ItemRecord *RecordStore::at(int index) const
@@ -72,4 +74,16 @@ ItemRecord *RecordStore::find(const TreeItemData *item) const
     if (offset % sizeof(ItemRecord) != 0 || index >= quintptr(block->used))
         return nullptr;
     return block->record(int(index));
+}
+
+RecordStore::Remains::Remains() = default;
+RecordStore::Remains::~Remains() = default;
+RecordStore::Remains::Remains(Remains &&other) noexcept = default;
+RecordStore::Remains &RecordStore::Remains::operator=(Remains &&other) noexcept = default;
+
+bool RecordStore::Remains::destroyBlock()
+{
+    if (!m_blocks.empty())
+        m_blocks.pop_back();
+    return m_blocks.empty();
 }

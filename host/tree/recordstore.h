@@ -16,9 +16,14 @@ public:
     RecordStore(const RecordStore &) = delete;
     RecordStore &operator=(const RecordStore &) = delete;
 
+    /// Records that are in no store any more. They are destroyed with it, or before that block by
+    /// block, since a million of them takes long.
+    class Remains;
+
     /// A new record; its `secondaryId` is unique in the process.
     ItemRecord *create();
-    void clear();
+    /// The store is empty then; find() knows none of what it held.
+    Remains takeAll();
 
     int size() const { return m_size; }
     ItemRecord *at(int index) const;
@@ -32,4 +37,20 @@ private:
     std::vector<std::unique_ptr<Block>> m_blocks; // in order of making
     std::vector<Block *> m_byAddress;
     int m_size = 0;
+};
+
+class RecordStore::Remains
+{
+public:
+    Remains();
+    ~Remains();
+    Remains(Remains &&other) noexcept;
+    Remains &operator=(Remains &&other) noexcept;
+
+    /// True when none are left.
+    bool destroyBlock();
+
+private:
+    friend class RecordStore;
+    std::vector<std::unique_ptr<Block>> m_blocks;
 };
