@@ -75,7 +75,8 @@ void TestSidePanel::filter(int mode)
 {
     FilterCondition condition;
     condition.mode = mode;
-    m_tree->setFilter(ItemFilter(condition));
+    m_tree->beginFilter(ItemFilter(condition));
+    m_tree->filterMore(m_tree->records().size());
     m_panel->refresh();
 }
 
