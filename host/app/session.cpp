@@ -6,7 +6,8 @@
 #include <QPixmap>
 
 namespace {
-constexpr int PublishMs = 100; // ten times a second is all that an eye can follow
+constexpr int PublishMs = 100;   // ten times a second is all that an eye can follow
+constexpr int FirstHitsMs = 200; // what a filter finds later than this is shown bit by bit
 constexpr int FilteredAStep = 512;
 using Plugin = SDCardScanContentPluginInterface;
 } // namespace
@@ -162,13 +163,13 @@ void Session::publish()
         m_publisher.stop();
 }
 
-/// What a filter has let through so far takes the place of what was there before as soon as there
-/// is something; but what is selected would not stay so while it is still to come.
+/// A filter that is quick is shown when it has ended. Of a slow one is shown what there is so far;
+/// but what is selected would not stay so while it is still to come.
 bool Session::isTimeToShow() const
 {
     return !m_tree.isFiltering()
-        || (m_tree.isShown(*m_shown) && m_shown->itemCount > 0
-            && m_plugin->getSelectedItems(Plugin::ScanSide).isEmpty());
+        || (m_sinceFilter.elapsed() >= FirstHitsMs && m_tree.isShown(*m_shown)
+            && m_shown->itemCount > 0 && m_plugin->getSelectedItems(Plugin::ScanSide).isEmpty());
 }
 
 void Session::publishSearch()
@@ -260,6 +261,7 @@ void Session::setFilter(const FilterCondition &condition)
     m_plugin->setFilterCondition(&m_filter);
     restartSearch();
     m_publisher.start();
+    m_sinceFilter.start();
     m_work.add([this] { return m_tree.filterMore(FilteredAStep); }, [this] { endFilter(); });
 }
 

@@ -9,6 +9,7 @@
 #include "host/tree/itemtree.h"
 #include "host/tree/slicedwork.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -125,6 +126,7 @@ private:
     QHash<qint64, ItemRecord *> m_awaitingMetadata; // none of an earlier scan
     ScanRunner m_runner;
     QTimer m_publisher;
+    QElapsedTimer m_sinceFilter;
     QString m_path;
     ScanProgress m_progress;
     ScanOutcome m_outcome;

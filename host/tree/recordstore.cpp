@@ -83,7 +83,7 @@ RecordStore::Remains &RecordStore::Remains::operator=(Remains &&other) noexcept 
 
 bool RecordStore::Remains::destroyBlock()
 {
-    if (!m_blocks.empty())
-        m_blocks.pop_back();
-    return m_blocks.empty();
+    if (m_next < m_blocks.size())
+        m_blocks[m_next++].reset();
+    return m_next == m_blocks.size();
 }

@@ -47,10 +47,11 @@ public:
     Remains(Remains &&other) noexcept;
     Remains &operator=(Remains &&other) noexcept;
 
-    /// True when none are left.
+    /// The eldest of them, so nothing outlives what it lies in. True when none are left.
     bool destroyBlock();
 
 private:
     friend class RecordStore;
     std::vector<std::unique_ptr<Block>> m_blocks;
+    std::size_t m_next = 0;
 };

@@ -10,10 +10,13 @@ class FolderTree : public QTreeWidget
 
 public:
     static constexpr int Indent = 14;
+    /// The count is painted beside the name, which may have all the room that it leaves.
+    enum Column { NameColumn, CountColumn };
 
     explicit FolderTree(QWidget *parent = nullptr);
 
-    void setRingColor(const QColor &color) { m_ringColor = color; }
+    /// \a faint: counts; \a accent: that of the current row, and the ring.
+    void setColors(const QColor &faint, const QColor &accent);
 
 protected:
     void drawBranches(QPainter *painter, const QRect &rect,
@@ -25,8 +28,11 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
+    class RowPainter;
+
     void setRingShown(bool shown);
 
-    QColor m_ringColor;
+    QColor m_faint;
+    QColor m_accent;
     bool m_ringShown = false;
 };

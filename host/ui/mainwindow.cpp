@@ -2,15 +2,13 @@
 
 #include "host/app/hostsettings.h"
 #include "host/app/languages.h"
-#include "host/recovery/targetcheck.h"
 #include "host/scan/filecategory.h"
 #include "host/ui/bottombar.h"
 #include "host/ui/breadcrumbs.h"
 #include "host/ui/bulkmenu.h"
 #include "host/ui/filterbar.h"
-#include "host/ui/glyphs.h"
 #include "host/ui/pictureviewer.h"
-#include "host/ui/recoverydialog.h"
+#include "host/ui/recoveryflow.h"
 #include "host/ui/sidepanel.h"
 #include "host/ui/topbar.h"
 
@@ -18,18 +16,14 @@
 #include <QCursor>
 #include <QFileDialog>
 #include <QHBoxLayout>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QStandardPaths>
 #include <QToolTip>
 
 namespace {
 constexpr QSize MinimumSize{640, 480};
 constexpr QSize FirstSize{1280, 800};
 constexpr int SidePanelFrom = 860; // below this width the results need the room
-constexpr int IconSide = 28;
 constexpr int BulkTextFrom = 1000;
 enum Side { ScanPage, SearchPage };
 } // namespace
@@ -47,6 +41,7 @@ MainWindow::MainWindow(ContentPlugin &plugin, Session &session)
     , m_side(new SidePanel(session.tree(), this))
     , m_sides(new QStackedWidget(this))
     , m_bottomBar(new BottomBar(this))
+    , m_recovery(new RecoveryFlow(session, *m_banner, this))
 {
     setMinimumSize(MinimumSize);
     resize(FirstSize);
@@ -55,10 +50,7 @@ MainWindow::MainWindow(ContentPlugin &plugin, Session &session)
     connectBars();
     connectSession();
     addShortcuts();
-    const QString target = HostSettings::target();
-    m_room.setFolder(target.isEmpty()
-                         ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                         : target);
+    showTarget();
     setTheme(THEMETYPE(qApp->property("ThemeType").toInt()));
 }
 
@@ -123,11 +115,11 @@ void MainWindow::connectBars()
     connect(m_side, &SidePanel::picked, &m_session, &Session::show);
     connect(m_crumbs, &Breadcrumbs::picked, &m_session, &Session::show);
     connect(m_bottomBar, &BottomBar::stopRequested, &m_session, &Session::cancelScan);
-    connect(m_bottomBar, &BottomBar::targetRequested, this, &MainWindow::pickTarget);
-    connect(&m_room, &FreeSpace::changed, this,
-            [this] { m_bottomBar->setTarget(m_room.folder(), m_room.bytes()); });
+    connect(m_bottomBar, &BottomBar::targetRequested, m_recovery, &RecoveryFlow::pickTarget);
     connect(m_bottomBar, &BottomBar::recoverRequested, this,
-            [this] { recoverChosen(m_session.checkedForRecovery()); });
+            [this] { m_recovery->recoverChosen(m_session.checkedForRecovery()); });
+    connect(m_recovery, &RecoveryFlow::roomChanged, this, &MainWindow::showTarget);
+    connect(m_recovery, &RecoveryFlow::recovered, this, &MainWindow::recovered);
 }
 
 void MainWindow::connectSession()
@@ -149,7 +141,7 @@ void MainWindow::connectSession()
     connect(&m_session, &Session::fileActivated, this, &MainWindow::openFile);
     connect(
         &m_session, &Session::recoverRequested, this,
-        [this] { recoverChosen(m_session.selectedForRecovery()); },
+        [this] { m_recovery->recoverChosen(m_session.selectedForRecovery()); },
         Qt::QueuedConnection); // a dialog must not open inside the plug-in's signal
     connect(&m_session, &Session::noticed, this,
             [this](const Session::Words &words) { m_banner->tell(MessageBanner::Hint, words); });
@@ -203,6 +195,7 @@ void MainWindow::setTheme(THEMETYPE type)
     m_bulk->setTheme(m_theme);
     m_side->setTheme(m_theme);
     m_bottomBar->setTheme(m_theme);
+    m_recovery->setTheme(m_theme);
     m_plugin->updateTheme(type);
 }
 
@@ -230,6 +223,16 @@ void MainWindow::refreshChecks()
 {
     const ItemTree &tree = m_session.tree();
     m_bottomBar->setChecked(tree.checkedFiles(), tree.checkedBytes(), tree.hiddenCheckedFiles());
+}
+
+void MainWindow::showTarget()
+{
+    m_bottomBar->setTarget(m_recovery->room().folder(), m_recovery->room().bytes());
+}
+
+void MainWindow::recover(const QVector<FoundItem> &items, const QString &target)
+{
+    m_recovery->recover(items, target);
 }
 
 void MainWindow::offerUndo(int checkedFiles, int uncheckedFiles)
@@ -317,87 +320,6 @@ void MainWindow::chooseImage()
         openSource(path);
 }
 
-/// In front of the folder dialog, which opens again after it.
-void MainWindow::tellRefusal(const QString &reason)
-{
-    QMessageBox box(QMessageBox::NoIcon, tr("Recover to"), reason, QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setIconPixmap(
-        glyphIcon(Glyph::Warning, m_theme.bad).pixmap(windowHandle(), {IconSide, IconSide}));
-    box.button(QMessageBox::Ok)->setIcon(QIcon());
-    box.button(QMessageBox::Ok)->setProperty("primary", true);
-    m_theme.applyTo(&box);
-    box.exec();
-}
-
-QString MainWindow::pickTarget()
-{
-    QString target = m_room.folder();
-    while (true) {
-        target = QFileDialog::getExistingDirectory(this, tr("Recover to"), target);
-        if (target.isEmpty())
-            return target;
-        const QString reason = TargetCheck::refusal(m_session.path(), target);
-        if (reason.isEmpty())
-            break;
-        tellRefusal(reason);
-    }
-    HostSettings::setTarget(target);
-    m_room.setFolder(target);
-    return target;
-}
-
-void MainWindow::recoverChosen(const QVector<FoundItem> &items)
-{
-    if (items.isEmpty()) {
-        m_banner->tell(MessageBanner::Hint, [] { return tr("There is nothing to recover."); });
-        return;
-    }
-    const QString target = pickTarget();
-    if (!target.isEmpty())
-        recover(items, target);
-}
-
-/// Nothing has been written: every file is told as failed.
-void MainWindow::refuse(const QVector<FoundItem> &items, const MessageBanner::Words &reason)
-{
-    RecoveryReport report;
-    report.stopReason = reason();
-    for (const FoundItem &item : items)
-        report.failed.append({item.fullPath(), report.stopReason});
-    m_banner->tell(MessageBanner::Failure, reason);
-    emit recovered(report);
-}
-
-void MainWindow::recover(const QVector<FoundItem> &items, const QString &target)
-{
-    const QString source = m_session.path();
-    qint64 bytes = 0;
-    for (const FoundItem &item : items)
-        bytes += item.size;
-    const auto onCard = [source, target] { return TargetCheck::refusal(source, target); };
-    const auto tooMuch = [bytes, target] { return TargetCheck::refusalForSize(bytes, target); };
-    if (!onCard().isEmpty()) {
-        refuse(items, onCard);
-        return;
-    }
-    if (!tooMuch().isEmpty()) {
-        refuse(items, tooMuch);
-        return;
-    }
-    auto *dialog = new RecoveryDialog(m_session.source(), m_theme, this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowModality(Qt::WindowModal);
-    connect(dialog, &RecoveryDialog::recovered, this, [this, target](const RecoveryReport &report) {
-        const bool whole = report.failed.isEmpty() && report.stopReason.isEmpty();
-        m_banner->tell(whole ? MessageBanner::Success : MessageBanner::Failure,
-                       [report, target] { return RecoveryDialog::summaryOf(report, target); });
-        emit recovered(report);
-    });
-    dialog->open();
-    dialog->start(items, target);
-}
-
 void MainWindow::openFile(const ItemRecord *file)
 {
     if (file->fileCategory != PhotoCategory) {
@@ -405,20 +327,8 @@ void MainWindow::openFile(const ItemRecord *file)
         return;
     }
     const ItemSearch &search = m_session.search();
-    const TreeItemData *root = search.isActive() ? search.root() : m_session.shownRoot();
-    QVector<FoundItem> pictures;
-    int current = 0;
-    for (TreeItemData *item : root->childFiles) {
-        if (item->fileCategory != PhotoCategory)
-            continue;
-        if (item == file)
-            current = pictures.size();
-        pictures.append(static_cast<ItemRecord *>(item)->found());
-    }
-    if (pictures.isEmpty())
-        pictures.append(file->found());
     auto *viewer = new PictureViewer(m_session.source(), this);
-    viewer->open(pictures, current);
+    viewer->open(search.isActive() ? search.root() : m_session.shownRoot(), file);
 }
 
 void MainWindow::placeToast()
@@ -443,13 +353,13 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 void MainWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    m_room.setWatching(true);
+    m_recovery->setWatching(true);
 }
 
 void MainWindow::hideEvent(QHideEvent *event)
 {
     QMainWindow::hideEvent(event);
-    m_room.setWatching(false);
+    m_recovery->setWatching(false);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

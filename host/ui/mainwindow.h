@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/app/fileopener.h"
-#include "host/app/freespace.h"
 #include "host/app/session.h"
 #include "host/recovery/recoveryreport.h"
 #include "host/ui/hosttheme.h"
@@ -14,6 +13,7 @@ class Breadcrumbs;
 class BulkMenu;
 class FilterBar;
 class QStackedWidget;
+class RecoveryFlow;
 class SidePanel;
 class TopBar;
 
@@ -54,14 +54,10 @@ private:
     void switchLanguage(const QString &name);
     void chooseFolder();
     void chooseImage();
-    /// The folder that the user picks; empty when it is none.
-    QString pickTarget();
-    void tellRefusal(const QString &reason);
-    void recoverChosen(const QVector<FoundItem> &items);
-    void refuse(const QVector<FoundItem> &items, const MessageBanner::Words &reason);
     void openFile(const ItemRecord *file);
     void refreshSide();
     void refreshChecks();
+    void showTarget();
     void offerUndo(int checkedFiles, int uncheckedFiles);
     void undoChecks();
     void redoChecks();
@@ -71,7 +67,6 @@ private:
     ContentPlugin &m_plugin;
     Session &m_session;
     FileOpener m_opener;
-    FreeSpace m_room;
     HostTheme m_theme = HostTheme::light();
     TopBar *m_topBar;
     MessageBanner *m_banner;
@@ -83,4 +78,5 @@ private:
     SidePanel *m_side;
     QStackedWidget *m_sides;
     BottomBar *m_bottomBar;
+    RecoveryFlow *m_recovery;
 };

@@ -1,6 +1,8 @@
 #include "host/ui/pictureviewer.h"
 
 #include "host/media/mediajobs.h"
+#include "host/scan/filecategory.h"
+#include "host/tree/itemrecord.h"
 #include "host/tree/texts.h"
 #include "host/ui/glyphs.h"
 
@@ -46,29 +48,55 @@ PictureViewer::~PictureViewer()
     m_media->leave(this);
 }
 
-void PictureViewer::open(const QVector<FoundItem> &pictures, int current)
+void PictureViewer::open(const TreeItemData *root, const ItemRecord *current)
 {
-    m_pictures = pictures;
-    m_current = current;
+    m_root = root;
+    m_item = current->found();
+    lookForPhotos();
     load();
     show();
 }
 
+void PictureViewer::lookForPhotos()
+{
+    m_photos.clear();
+    m_listed = m_root->childFiles.size();
+    for (int i = 0; i < m_listed; ++i) {
+        const TreeItemData *file = m_root->childFiles.at(i);
+        if (file->fileCategory != PhotoCategory)
+            continue;
+        if (file->fileId == m_item.id)
+            m_current = m_photos.size();
+        m_photos.append(i);
+    }
+}
+
+/// Null when the list is no longer what it was.
+const ItemRecord *PictureViewer::photoAt(int number) const
+{
+    const int place = m_photos.value(number, -1);
+    if (!m_root || place < 0 || place >= m_root->childFiles.size())
+        return nullptr;
+    const auto *photo = static_cast<const ItemRecord *>(m_root->childFiles.at(place));
+    return photo->fileCategory == PhotoCategory ? photo : nullptr;
+}
+
 void PictureViewer::step(int by)
 {
-    const int next = m_current + by;
-    if (next < 0 || next >= m_pictures.size())
-        return;
-    m_current = next;
-    load();
+    if (m_root && m_root->childFiles.size() != m_listed)
+        lookForPhotos(); // more has been found, or there is another filter
+    if (const ItemRecord *photo = photoAt(m_current + by)) {
+        m_current += by;
+        m_item = photo->found();
+        load();
+    }
 }
 
 void PictureViewer::load()
 {
-    const FoundItem item = m_pictures.at(m_current);
-    setWindowTitle(item.name);
+    setWindowTitle(m_item.name);
     m_previous->setEnabled(m_current > 0);
-    m_next->setEnabled(m_current + 1 < m_pictures.size());
+    m_next->setEnabled(m_current + 1 < m_photos.size());
     m_loaded = MediaAnswer();
     m_media->drop(this); // nobody waits for the picture before
     const int request = ++m_request;
@@ -78,7 +106,7 @@ void PictureViewer::load()
             Qt::QueuedConnection);
     };
     MediaPool::Job job;
-    if (MediaJobs::prepare(item, extensionOf(item.name), &job)) {
+    if (MediaJobs::prepare(m_item, extensionOf(m_item.name), &job)) {
         job.owner = this;
         job.source = m_source;
         job.request.cover = QGuiApplication::primaryScreen()->size() * devicePixelRatioF();
@@ -123,8 +151,8 @@ void PictureViewer::paintEvent(QPaintEvent *)
     }
     const QRect caption(Margin, height() - CaptionHeight, width() - 2 * Margin, CaptionHeight);
     const QString text = tr("%1   %2 of %3")
-                             .arg(m_pictures.at(m_current).name, Texts::number(m_current + 1),
-                                  Texts::number(m_pictures.size()));
+                             .arg(m_item.name, Texts::number(m_current + 1),
+                                  Texts::number(qMax(1, m_photos.size())));
     painter.drawText(caption, Qt::AlignCenter,
                      painter.fontMetrics().elidedText(text, Qt::ElideMiddle, caption.width()));
 }

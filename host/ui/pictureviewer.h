@@ -1,12 +1,14 @@
 #pragma once
 
 #include "host/media/mediapool.h"
+#include "platform/item/treeitemdata.h"
 
 #include <QImage>
+#include <QPointer>
 #include <QWidget>
 
-class QLabel;
 class QToolButton;
+struct ItemRecord;
 
 /// Shows pictures of a source one at a time, fitted to the window. The helper program decodes them,
 /// no larger than the screen needs.
@@ -18,7 +20,8 @@ public:
     explicit PictureViewer(std::shared_ptr<const ScanSource> source, QWidget *parent = nullptr);
     ~PictureViewer() override;
 
-    void open(const QVector<FoundItem> &pictures, int current);
+    /// Begins with \a current and goes through the photos that \a root lists, as long as it lives.
+    void open(const TreeItemData *root, const ItemRecord *current);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -27,6 +30,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void lookForPhotos();
+    const ItemRecord *photoAt(int number) const;
     void step(int by);
     void load();
     void take(int request, const MediaAnswer &answer);
@@ -34,8 +39,11 @@ private:
     void retranslate();
 
     std::shared_ptr<const ScanSource> m_source;
-    QVector<FoundItem> m_pictures;
-    int m_current = 0;
+    QPointer<const TreeItemData> m_root;
+    QVector<int> m_photos; // their places in the root's list
+    int m_listed = 0;      // how many files that list had then
+    int m_current = 0;     // among the photos
+    FoundItem m_item;
     std::shared_ptr<MediaPool> m_media = MediaPool::shared();
     int m_request = 0;
     MediaAnswer m_loaded;

@@ -17,9 +17,10 @@
 
 namespace {
 constexpr int RecordRole = Qt::UserRole;
-constexpr int PanelWidth = 216;
+constexpr int PanelWidth = 224;
 constexpr int IconSide = 18;
-enum Column { NameColumn, CountColumn };
+constexpr int NameColumn = FolderTree::NameColumn;
+constexpr int CountColumn = FolderTree::CountColumn;
 
 /// Of a record that may be gone.
 const TreeItemData *addressOf(const QTreeWidgetItem *row)
@@ -63,11 +64,8 @@ SidePanel::SidePanel(const ItemTree &tree, QWidget *parent)
         emit picked(arrangement == ByKind ? m_tree.allFiles() : m_tree.placeRoot());
     });
 
-    m_rows->setColumnCount(2);
     m_rows->setHeaderHidden(true);
-    m_rows->header()->setStretchLastSection(false);
     m_rows->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    m_rows->header()->setSectionResizeMode(CountColumn, QHeaderView::ResizeToContents);
     m_rows->setIconSize({IconSide, IconSide});
     m_rows->setUniformRowHeights(true);
     m_rows->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -100,7 +98,6 @@ QTreeWidgetItem *SidePanel::addRow(QTreeWidgetItem *above, ItemRecord *record)
     auto *row = new QTreeWidgetItem;
     row->setData(NameColumn, RecordRole,
                  QVariant::fromValue<void *>(static_cast<TreeItemData *>(record)));
-    row->setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
     if (above)
         above->addChild(row);
     else
@@ -118,7 +115,8 @@ void SidePanel::refreshRow(QTreeWidgetItem *row)
     row->setToolTip(NameColumn, row->text(NameColumn));
     row->setIcon(NameColumn, iconOf(*record));
     row->setText(CountColumn, Texts::number(record->itemCount));
-    row->setForeground(CountColumn, m_faint);
+    row->setData(NameColumn, Qt::AccessibleTextRole,
+                 QStringLiteral("%1, %2").arg(row->text(NameColumn), row->text(CountColumn)));
     if (record->rootType == 0) {
         row->setChildIndicatorPolicy(record->childFolders.isEmpty()
                                          ? QTreeWidgetItem::DontShowIndicator
@@ -264,8 +262,7 @@ void SidePanel::setTheme(const HostTheme &theme)
 {
     theme.applyTo(this);
     m_icon = theme.icon;
-    m_faint = theme.faintText;
-    m_rows->setRingColor(theme.accentText);
+    m_rows->setColors(theme.faintText, theme.accentText);
     m_arrangements->setTheme(theme);
     refresh();
 }

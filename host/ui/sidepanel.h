@@ -49,5 +49,4 @@ private:
     Segments *m_arrangements;
     FolderTree *m_rows;
     QColor m_icon;
-    QColor m_faint;
 };

@@ -324,14 +324,6 @@
         <source>Open disk image</source>
         <translation>فتح صورة قرص</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>لا يوجد ما يُستعاد.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>استعادة إلى</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -648,6 +640,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>جارٍ الاستعادة إلى %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>استعادة إلى</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>لا يوجد ما يُستعاد.</translation>
     </message>
 </context>
 <context>

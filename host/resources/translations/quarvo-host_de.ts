@@ -300,14 +300,6 @@
         <source>Open disk image</source>
         <translation>Datenträgerabbild öffnen</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>Es gibt nichts wiederherzustellen.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Wiederherstellen nach</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -600,6 +592,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>Wiederherstellung nach %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Wiederherstellen nach</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Es gibt nichts wiederherzustellen.</translation>
     </message>
 </context>
 <context>

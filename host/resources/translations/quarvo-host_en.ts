@@ -300,14 +300,6 @@
         <source>Open disk image</source>
         <translation>Open disk image</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>There is nothing to recover.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Recover to</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -600,6 +592,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>Recovering to %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Recover to</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>There is nothing to recover.</translation>
     </message>
 </context>
 <context>

@@ -300,14 +300,6 @@
         <source>Open disk image</source>
         <translation>Ouvrir une image disque</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>Il n’y a rien à récupérer.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Récupérer vers</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -600,6 +592,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>Récupération vers %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Récupérer vers</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Il n’y a rien à récupérer.</translation>
     </message>
 </context>
 <context>

@@ -300,14 +300,6 @@
         <source>Open disk image</source>
         <translation>डिस्क इमेज खोलें</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>पुनर्प्राप्त करने के लिए कुछ नहीं है।</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>यहाँ पुनर्प्राप्त करें</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -600,6 +592,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>%1 में पुनर्प्राप्ति जारी</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>यहाँ पुनर्प्राप्त करें</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>पुनर्प्राप्त करने के लिए कुछ नहीं है।</translation>
     </message>
 </context>
 <context>

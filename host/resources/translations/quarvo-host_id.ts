@@ -294,14 +294,6 @@
         <source>Open disk image</source>
         <translation>Buka citra disk</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>Tidak ada yang perlu dipulihkan.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Pulihkan ke</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -588,6 +580,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>Memulihkan ke %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Pulihkan ke</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Tidak ada yang perlu dipulihkan.</translation>
     </message>
 </context>
 <context>

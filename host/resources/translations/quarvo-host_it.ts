@@ -300,14 +300,6 @@
         <source>Open disk image</source>
         <translation>Apri immagine disco</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>Non c’è nulla da recuperare.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Recupera in</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -600,6 +592,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>Recupero in %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Recupera in</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Non c’è nulla da recuperare.</translation>
     </message>
 </context>
 <context>

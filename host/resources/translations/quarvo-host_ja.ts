@@ -294,14 +294,6 @@
         <source>Open disk image</source>
         <translation>ディスクイメージを開く</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>復元するものがありません。</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>復元先</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -588,6 +580,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>%1 に復元中</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>復元先</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>復元するものがありません。</translation>
     </message>
 </context>
 <context>

@@ -294,14 +294,6 @@
         <source>Open disk image</source>
         <translation>디스크 이미지 열기</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>복구할 항목이 없습니다.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>복구 위치</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -588,6 +580,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>%1에 복구 중</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>복구 위치</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>복구할 항목이 없습니다.</translation>
     </message>
 </context>
 <context>

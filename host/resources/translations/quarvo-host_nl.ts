@@ -300,14 +300,6 @@
         <source>Open disk image</source>
         <translation>Schijfkopie openen</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>Er is niets te herstellen.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Herstellen naar</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -600,6 +592,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>Herstellen naar %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Herstellen naar</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Er is niets te herstellen.</translation>
     </message>
 </context>
 <context>

@@ -300,14 +300,6 @@
         <source>Open disk image</source>
         <translation>Abrir imagem de disco</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>Não há nada para recuperar.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Recuperar para</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -600,6 +592,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>A recuperar para %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Recuperar para</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Não há nada para recuperar.</translation>
     </message>
 </context>
 <context>

@@ -306,14 +306,6 @@
         <source>Open disk image</source>
         <translation>Открыть образ диска</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>Восстанавливать нечего.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Восстановить в</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -612,6 +604,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>Восстановление в %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Восстановить в</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Восстанавливать нечего.</translation>
     </message>
 </context>
 <context>

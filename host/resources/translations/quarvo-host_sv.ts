@@ -300,14 +300,6 @@
         <source>Open disk image</source>
         <translation>Öppna diskavbild</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>Det finns inget att återställa.</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>Återställ till</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -600,6 +592,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>Återställer till %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>Återställ till</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Det finns inget att återställa.</translation>
     </message>
 </context>
 <context>

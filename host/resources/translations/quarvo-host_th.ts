@@ -294,14 +294,6 @@
         <source>Open disk image</source>
         <translation>เปิดดิสก์อิมเมจ</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>ไม่มีอะไรให้กู้คืน</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>กู้คืนไปที่</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -588,6 +580,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>กำลังกู้คืนไปที่ %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>กู้คืนไปที่</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>ไม่มีอะไรให้กู้คืน</translation>
     </message>
 </context>
 <context>

@@ -294,14 +294,6 @@
         <source>Open disk image</source>
         <translation>打开磁盘映像</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>没有可恢复的内容。</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>恢复到</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -588,6 +580,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>正在恢复到 %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>恢复到</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>没有可恢复的内容。</translation>
     </message>
 </context>
 <context>

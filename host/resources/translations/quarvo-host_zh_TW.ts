@@ -294,14 +294,6 @@
         <source>Open disk image</source>
         <translation>開啟磁碟映像</translation>
     </message>
-    <message>
-        <source>There is nothing to recover.</source>
-        <translation>沒有可還原的內容。</translation>
-    </message>
-    <message>
-        <source>Recover to</source>
-        <translation>還原至</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln file(s) checked.</source>
         <translation>
@@ -588,6 +580,17 @@
     <message>
         <source>Recovering to %1</source>
         <translation>正在還原至 %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryFlow</name>
+    <message>
+        <source>Recover to</source>
+        <translation>還原至</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>沒有可還原的內容。</translation>
     </message>
 </context>
 <context>
