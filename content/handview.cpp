@@ -449,4 +449,4 @@ void HandView<View>::timerEvent(QTimerEvent *event)
 }
 
 template class HandView<QListView>;
-template class HandView<QTableView>;
+template class HandView<RowTable>;

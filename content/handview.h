@@ -1,6 +1,7 @@
 #pragma once
 
 #include "content/itemactions.h"
+#include "content/rowtable.h"
 #include "content/rubberband.h"
 #include "content/typeahead.h"
 #include "content/viewplace.h"
@@ -9,7 +10,6 @@
 #include <QColor>
 #include <QListView>
 #include <QPersistentModelIndex>
-#include <QTableView>
 
 /// What grid and table have in common of that which a hand does: the rubber band with its scrolling
 /// at the edges, type-ahead, Escape, ranges by Ctrl and Shift, and the state that outlives a reset
@@ -119,4 +119,4 @@ private:
 };
 
 extern template class HandView<QListView>;
-extern template class HandView<QTableView>;
+extern template class HandView<RowTable>;

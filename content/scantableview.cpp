@@ -4,7 +4,6 @@
 #include "content/gridnavigation.h"
 #include "content/viewaccessible.h"
 
-#include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -19,36 +18,18 @@ constexpr int OutlineInsetX = 4;
 constexpr int OutlineInsetY = 2;
 constexpr qreal OutlineRadius = 8;
 
-/// A hidden header. The stock one repaints the sections of the current row, and computes the places
-/// of a million sections for it.
-class HiddenRowHeader : public QHeaderView
-{
-public:
-    explicit HiddenRowHeader(QWidget *parent)
-        : QHeaderView(Qt::Vertical, parent)
-    {
-        hide();
-    }
-
-protected:
-    void currentChanged(const QModelIndex &, const QModelIndex &) override { }
-};
-
 } // namespace
 
 ScanTableView::ScanTableView(QWidget *parent)
     : HandView(DragDistance, parent)
     , m_rubberBand(new BandFrame(viewport()))
 {
-    setShowGrid(false);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
     viewport()->setAttribute(Qt::WA_Hover);
-    setVerticalHeader(new HiddenRowHeader(this));
-    setVerticalScrollMode(ScrollPerPixel);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false); // Tab leads on to the pane
     ViewAccessible::install();
@@ -56,13 +37,6 @@ ScanTableView::ScanTableView(QWidget *parent)
 }
 
 ScanTableView::~ScanTableView() = default;
-
-void ScanTableView::setRowHeight(int pixels)
-{
-    verticalHeader()->setMinimumSectionSize(pixels);
-    verticalHeader()->setDefaultSectionSize(pixels);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-}
 
 QPair<int, int> ScanTableView::visibleRows() const
 {
@@ -87,7 +61,7 @@ void ScanTableView::repaintMatching(int role, qint64 id)
 void ScanTableView::repaintRow(int row)
 {
     if (isVisible()) // the place of a row is not worth computing else
-        viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+        viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight());
 }
 
 void ScanTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -109,7 +83,7 @@ void ScanTableView::dataChanged(const QModelIndex &topLeft, const QModelIndex &b
 
 void ScanTableView::paintEvent(QPaintEvent *event)
 {
-    QTableView::paintEvent(event);
+    HandView::paintEvent(event);
     if (currentIndex().isValid())
         paintCurrentRow();
 }
@@ -119,13 +93,18 @@ void ScanTableView::paintCurrentRow()
     const int row = currentIndex().row();
     const QRectF outline(OutlineInsetX, rowViewportPosition(row) + OutlineInsetY,
                          viewport()->width() - 2 * OutlineInsetX,
-                         rowHeight(row) - 2 * OutlineInsetY);
+                         rowHeight() - 2 * OutlineInsetY);
     if (!outline.intersects(viewport()->rect()))
         return;
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(hasFocus() ? m_focusedRowColor : m_currentRowColor);
     painter.drawRoundedRect(outline.adjusted(0.5, 0.5, -0.5, -0.5), OutlineRadius, OutlineRadius);
+}
+
+bool ScanTableView::isHovered(const QModelIndex &index) const
+{
+    return index.row() == m_hoverRow && index.column() == m_hoverColumn;
 }
 
 void ScanTableView::setHoverCell(int row, int column)
@@ -169,7 +148,7 @@ QModelIndex ScanTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers
     const QModelIndex current = currentIndex();
     GridGeometry rows; // a grid of one column
     rows.rowCount = rowCount();
-    rows.cell = QSize(1, qMax(1, verticalHeader()->defaultSectionSize()));
+    rows.cell = QSize(1, rowHeight());
     if (rows.isEmpty())
         return current;
     if (!current.isValid())
@@ -288,5 +267,5 @@ void ScanTableView::scrollContentsBy(int dx, int dy)
 void ScanTableView::leaveEvent(QEvent *event)
 {
     setHoverCell(-1, -1);
-    QTableView::leaveEvent(event);
+    HandView::leaveEvent(event);
 }

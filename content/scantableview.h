@@ -10,7 +10,7 @@ class BandFrame;
 /// The table of the list modes: rows with a hovered cell for the delegate to paint, and a rubber
 /// band that adds whole rows to the selection. The cursor goes from row to row; its column means
 /// nothing.
-class ScanTableView : public HandView<QTableView>, public HoveredCell
+class ScanTableView : public HandView<RowTable>, public HoveredCell
 {
     Q_OBJECT
     Q_INTERFACES(HoveredCell)
@@ -27,8 +27,6 @@ public:
     int hoverRow() const override { return m_hoverRow; }
     int hoverColumn() const override { return m_hoverColumn; }
 
-    /// Every row is this high.
-    void setRowHeight(int pixels);
     /// First and last row of which any part is in the viewport; an empty range when none is.
     QPair<int, int> visibleRows() const override;
     /// Repaints the rows in the viewport whose \a role has the value \a id.
@@ -54,6 +52,7 @@ protected:
 
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
+    bool isHovered(const QModelIndex &index) const override;
     void scrollContentsBy(int dx, int dy) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
@@ -66,7 +65,6 @@ private:
     void repaintRow(int row);
     void paintCurrentRow();
     void setHoverCell(int row, int column);
-    int rowCount() const { return model() ? model()->rowCount() : 0; }
     QItemSelection rowsBetween(int top, int bottom) const;
 
     int m_hoverRow = -1;

@@ -4,6 +4,7 @@
 #include "model/scandatamodel.h"
 
 #include <QHeaderView>
+#include <QRandomGenerator>
 #include <QRubberBand>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -34,6 +35,13 @@ private:
     QWidget *m_widget;
 };
 
+template <class View>
+class Opened : public View
+{
+public:
+    using View::visualRegionForSelection;
+};
+
 } // namespace
 
 class TestScanTableView : public QObject
@@ -42,6 +50,8 @@ class TestScanTableView : public QObject
 
 private slots:
     void init();
+    void rowsLieAsInAStockTable_data();
+    void rowsLieAsInAStockTable();
     void cleanup() { m_table.reset(); }
     void bandNeedsFivePixels_data();
     void bandNeedsFivePixels();
@@ -78,6 +88,119 @@ void TestScanTableView::init()
     m_table->resize(700, 500);
     m_table->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_table.data()));
+}
+
+void TestScanTableView::rowsLieAsInAStockTable_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("rightToLeft");
+    QTest::addColumn<bool>("byPixel");
+    QTest::newRow("all columns in view") << 60 << 700 << false << true;
+    QTest::newRow("scrolled by columns") << 60 << 250 << false << false;
+    QTest::newRow("scrolled by pixels") << 60 << 250 << false << true;
+    QTest::newRow("right to left") << 60 << 250 << true << true;
+    QTest::newRow("right to left, by columns") << 60 << 250 << true << false;
+    QTest::newRow("fewer rows than room") << 3 << 250 << false << false;
+    QTest::newRow("a million pixels") << 30'000 << 700 << false << true;
+}
+
+/// One random step after the other in both, then all that they say and show must be the same.
+void TestScanTableView::rowsLieAsInAStockTable()
+{
+    QFETCH(int, rows);
+    QFETCH(int, width);
+    QFETCH(bool, rightToLeft);
+    QFETCH(bool, byPixel);
+    m_table.reset();
+    m_tree.clear();
+    m_tree.addFiles(rows);
+    m_model.openFolder(&m_tree.root);
+    Opened<RowTable> ours;
+    Opened<QTableView> stock;
+    stock.setShowGrid(false);
+    stock.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    stock.verticalHeader()->hide();
+    stock.verticalHeader()->setMinimumSectionSize(RowHeight);
+    stock.verticalHeader()->setDefaultSectionSize(RowHeight);
+    for (QTableView *view : {static_cast<QTableView *>(&ours), static_cast<QTableView *>(&stock)}) {
+        view->setModel(&m_model);
+        view->setSelectionBehavior(QAbstractItemView::SelectRows);
+        view->setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        view->setHorizontalScrollMode(byPixel ? QAbstractItemView::ScrollPerPixel
+                                              : QAbstractItemView::ScrollPerItem);
+        view->horizontalHeader()->moveSection(4, 1);
+        view->setColumnHidden(2, true);
+        view->resize(width, 333);
+        view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view));
+    }
+    ours.setRowHeight(RowHeight);
+    stock.setSelectionModel(ours.selectionModel());
+
+    QRandomGenerator random(7);
+    QVector<TreeItemData *> dead;
+    const auto both = [&](const auto &work) {
+        work(static_cast<QTableView &>(ours));
+        work(static_cast<QTableView &>(stock));
+    };
+    for (int step = 0; step < 60; ++step) {
+        const int count = m_model.rowCount();
+        const QModelIndex index = m_model.index(random.bounded(count), random.bounded(5));
+        switch (step % 6) {
+        case 0:
+            if (TreeItemData *item = m_model.itemAt(random.bounded(count))) {
+                m_tree.kill(item);
+                dead.append(item);
+            }
+            break;
+        case 1:
+            ours.selectionModel()->select(index,
+                                          QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
+            break;
+        case 2:
+            both([value = random.bounded(count * RowHeight)](QTableView &view) {
+                view.verticalScrollBar()->setValue(value);
+            });
+            break;
+        case 3:
+            if (step > 30) {
+                for (TreeItemData *item : qAsConst(dead))
+                    m_tree.root.childFiles.removeOne(item);
+                m_tree.addFiles(10);
+                m_model.openFolder(&m_tree.root);
+            }
+            break;
+        default: {
+            const auto hint = QAbstractItemView::ScrollHint(random.bounded(4));
+            both([&](QTableView &view) { view.scrollTo(index, hint); });
+        }
+        }
+        QCoreApplication::processEvents();
+        for (const auto bar :
+             {&QAbstractScrollArea::verticalScrollBar, &QAbstractScrollArea::horizontalScrollBar}) {
+            const QScrollBar *mine = (ours.*bar)();
+            const QScrollBar *theirs = (stock.*bar)();
+            QCOMPARE(mine->maximum(), theirs->maximum());
+            QCOMPARE(mine->pageStep(), theirs->pageStep());
+            QCOMPARE(mine->singleStep(), theirs->singleStep());
+            QCOMPARE(mine->value(), theirs->value());
+        }
+        for (int i = 0; i < 20; ++i) {
+            const QPoint pos(random.bounded(-20, width + 20), random.bounded(-50, 400));
+            QCOMPARE(ours.indexAt(pos), stock.indexAt(pos));
+            QCOMPARE(ours.rowAt(pos.y()), stock.rowAt(pos.y()));
+            const QModelIndex cell = m_model.index(random.bounded(m_model.rowCount()), i % 5);
+            QCOMPARE(ours.visualRect(cell), stock.visualRect(cell));
+            QCOMPARE(ours.rowViewportPosition(cell.row()), stock.rowViewportPosition(cell.row()));
+        }
+        const QItemSelection selected = ours.selectionModel()->selection();
+        const QRegion changed = stock.visualRegionForSelection(selected);
+        QVERIFY((changed & stock.viewport()->rect())
+                    .subtracted(ours.visualRegionForSelection(selected))
+                    .isEmpty());
+        QCOMPARE(ours.viewport()->grab().toImage(), stock.viewport()->grab().toImage());
+    }
 }
 
 void TestScanTableView::drag(const QPoint &from, const QPoint &to)
