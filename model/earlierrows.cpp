@@ -16,7 +16,7 @@ void EarlierRows::leaves(size_t position, Guard &&guard)
     m_left.emplace_back(quint32(position), std::move(guard));
 }
 
-void EarlierRows::end(RowSort::Order &&order, size_t foldersNow, size_t filesNow)
+void EarlierRows::end(RowOrder &&order, size_t foldersNow, size_t filesNow)
 {
     if (m_known)
         m_order = std::move(order);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/rowsort.h"
+#include "model/roworder.h"
 
 #include "platform/item/treeitemdata.h"
 
@@ -32,7 +32,7 @@ public:
     /// What was at \a position will not be there any more. In any order, after begin().
     void leaves(size_t position, Guard &&guard);
     /// The change is done. \a order: position by row before it; empty: the same.
-    void end(RowSort::Order &&order, size_t foldersNow, size_t filesNow);
+    void end(RowOrder &&order, size_t foldersNow, size_t filesNow);
 
     struct Places
     {
@@ -43,7 +43,7 @@ public:
     Places placesOf(const Runs &rows) const;
 
 private:
-    RowSort::Order m_order;
+    RowOrder m_order;
     std::vector<std::pair<quint32, Guard>> m_left;
     size_t m_folders = 0;
     size_t m_files = 0;

@@ -1,7 +1,6 @@
 #include "model/listedrecords.h"
 
 #include "model/earlierrows.h"
-#include "model/inparallel.h"
 #include "model/keyfingerprint.h"
 #include "model/recordcheck.h"
 
@@ -9,10 +8,9 @@
 
 #include <array>
 #include <atomic>
+#include <cstring>
 
 namespace {
-
-constexpr size_t WorthTwoThreads = 100'000; // records to look at
 
 TreeItemData *plausible(TreeItemData *record)
 {
@@ -57,11 +55,13 @@ size_t ListedRecords::replacePart(size_t first, size_t size, const QList<TreeIte
             earlier.leaves(first + i, std::move(m_guards[first + i]));
         m_guards.remove(first + newSize, size - newSize);
         m_letters.remove(first + newSize, size - newSize);
-        m_marks.remove(first + newSize, size - newSize);
+        m_fileMarks.remove(first + newSize, size - newSize);
+        m_secondaryMarks.remove(first + newSize, size - newSize);
     } else if (newSize > size) {
         m_guards.insert(first + size, newSize - size);
         m_letters.insert(first + size, newSize - size);
-        m_marks.insert(first + size, newSize - size);
+        m_fileMarks.insert(first + size, newSize - size);
+        m_secondaryMarks.insert(first + size, newSize - size);
         list(first, size, newSize, children);
     }
     return same;
@@ -107,39 +107,47 @@ void ListedRecords::list(size_t first, size_t from, size_t end,
     std::array<QStringView, Batch> names;
     const auto child = children.constBegin();
     while (from < end) {
-        const size_t count = std::min(Batch, end - from);
+        const size_t at = first + from;
+        const size_t count = std::min(Batch, m_guards.adjacent(at, first + end));
+        quint8 *const fileMarks = &m_fileMarks[at];
+        quint8 *const secondaryMarks = &m_secondaryMarks[at];
         for (size_t i = 0; i < count; ++i) {
             const TreeItemData *const record = plausible(child[int(from + i)]);
             names[i] = record ? QStringView(record->name) : QStringView();
-            m_marks[first + from + i] = record ? IdMarks::of(*record) : quint16(0);
+            fileMarks[i] = record ? idMarkOf(record->fileId) : quint8(0);
+            secondaryMarks[i] = record ? idMarkOf(record->secondaryId) : quint8(0);
         }
+        quint16 *const letters = &m_letters[at];
         for (size_t i = 0; i < count; ++i)
-            m_letters[first + from + i] = NameLetters::of(names[i]);
+            letters[i] = NameLetters::of(names[i]);
+        Guard *const guards = &m_guards[at];
         for (size_t i = 0; i < count; ++i)
-            m_guards[first + from + i] = plausible(child[int(from + i)]);
+            guards[i] = plausible(child[int(from + i)]);
         from += count;
     }
 }
 
 template <typename Matches>
-std::vector<size_t> ListedRecords::positionsByMark(const IdMarks::Pattern &pattern, bool one,
+std::vector<size_t> ListedRecords::positionsByMark(RecordId which, qint64 id, bool one,
                                                    Matches matches) const
 {
+    const Blocks<quint8> &marks = which == RecordId::File ? m_fileMarks : m_secondaryMarks;
     std::vector<size_t> found;
-    for (size_t from = 0; from < size();) {
-        const quint16 *const marks = &m_marks[from];
-        const size_t count = m_marks.adjacent(from, size());
-        for (size_t i = 0; i < count; ++i) {
-            if (!pattern.fits(marks[i]))
-                continue;
-            const TreeItemData *const record = at(from + i);
+    for (size_t from = 0; from < size(); from += marks.adjacent(from, size())) {
+        const quint8 *const first = &marks[from];
+        const quint8 *const end = first + marks.adjacent(from, size());
+        for (const quint8 *mark = first; mark != end; ++mark) {
+            mark = static_cast<const quint8 *>(std::memchr(mark, idMarkOf(id), size_t(end - mark)));
+            if (!mark)
+                break;
+            const size_t position = from + size_t(mark - first);
+            const TreeItemData *const record = at(position);
             if (!record || !matches(*record))
                 continue;
-            found.push_back(from + i);
+            found.push_back(position);
             if (one)
                 return found;
         }
-        from += count;
     }
     return found;
 }
@@ -178,15 +186,14 @@ std::vector<size_t> ListedRecords::positionsOfId(RecordId which, qint64 id, bool
     const auto hasId = [which, id](const TreeItemData &record) {
         return idOf(record, which) == id;
     };
-    const std::vector<size_t> found = positionsByMark(IdMarks::Pattern(which, id), one, hasId);
+    const std::vector<size_t> found = positionsByMark(which, id, one, hasId);
     return found.empty() ? positionsOneByOne(one, hasId) : found;
 }
 
 std::vector<size_t> ListedRecords::positionsOf(const TreeItemData *record, bool one) const
 {
     const auto isIt = [record](const TreeItemData &listed) { return &listed == record; };
-    const std::vector<size_t> found = positionsByMark(
-        IdMarks::Pattern(RecordId::File, record->fileId), one, isIt);
+    const std::vector<size_t> found = positionsByMark(RecordId::File, record->fileId, one, isIt);
     return found.empty() ? positionsOneByOne(one, isIt) : found;
 }
 
@@ -203,15 +210,16 @@ std::vector<const TreeItemData *> ListedRecords::all() const
     return records;
 }
 
-quint64 ListedRecords::fingerprint(int sortRole) const
+template <typename RecordAt>
+quint64 ListedRecords::fingerprintOf(int sortRole, RecordAt recordAt) const
 {
-    const auto half = [this, sortRole](size_t from, size_t end) {
+    const auto half = [=](size_t from, size_t end) {
         KeyFingerprint print(sortRole);
         std::array<const TreeItemData *, KeyFingerprint::MostAtOnce> records;
         while (from < end) {
             const size_t count = std::min(records.size(), end - from);
             for (size_t i = 0; i < count; ++i)
-                records[i] = at(from + i);
+                records[i] = recordAt(from + i);
             print.add(records.data(), count);
             from += count;
         }
@@ -226,4 +234,19 @@ quint64 ListedRecords::fingerprint(int sortRole) const
     both.add(first);
     both.add(second);
     return both.value();
+}
+
+quint64 ListedRecords::fingerprint(int sortRole) const
+{
+    return fingerprintOf(sortRole, [this](size_t position) { return at(position); });
+}
+
+quint64 ListedRecords::fingerprint(int sortRole, const TreeItemData &folder) const
+{
+    // without a look at the guards, which lie elsewhere again
+    return fingerprintOf(sortRole, [this, &folder](size_t position) {
+        return plausible(position < m_folderCount
+                             ? folder.childFolders.at(int(position))
+                             : folder.childFiles.at(int(position - m_folderCount)));
+    });
 }

@@ -2,6 +2,7 @@
 
 #include "model/blocks.h"
 #include "model/idmarks.h"
+#include "model/inparallel.h"
 #include "model/nameletters.h"
 
 #include "platform/item/treeitemdata.h"
@@ -56,12 +57,19 @@ public:
     std::vector<const TreeItemData *> all() const;
     /// Of the keys of all.
     quint64 fingerprint(int sortRole) const;
+    /// The same when it is known that all children of \a folder are listed as they are now.
+    quint64 fingerprint(int sortRole, const TreeItemData &folder) const;
 
     /// Hands the living records from position \a from to before \a end to \a visit.
     template <typename Visit>
     void visit(size_t from, size_t end, Visit visit) const;
+    /// Hands all living records to \a visit, half of very many on a thread of their own.
+    template <typename Visit>
+    void visitAll(Visit visit) const;
 
 private:
+    static constexpr size_t WorthTwoThreads = 100'000; // records to look at
+
     size_t replacePart(size_t first, size_t size, const QList<TreeItemData *> &children,
                        EarlierRows &earlier);
     /// The first of \a children before \a end that is not listed in its place, the first of all at
@@ -73,14 +81,17 @@ private:
     /// Lists these of \a children, the first of all at \a first.
     void list(size_t first, size_t from, size_t end, const QList<TreeItemData *> &children);
     template <typename Matches>
-    std::vector<size_t> positionsByMark(const IdMarks::Pattern &pattern, bool one,
-                                        Matches matches) const;
+    std::vector<size_t> positionsByMark(RecordId which, qint64 id, bool one, Matches matches) const;
     template <typename Matches>
     std::vector<size_t> positionsOneByOne(bool one, Matches matches) const;
 
+    template <typename RecordAt>
+    quint64 fingerprintOf(int sortRole, RecordAt recordAt) const;
+
     Blocks<Guard> m_guards;
-    Blocks<quint32> m_letters;
-    Blocks<quint16> m_marks;
+    Blocks<quint16> m_letters;
+    Blocks<quint8> m_fileMarks;
+    Blocks<quint8> m_secondaryMarks;
     size_t m_folderCount = 0;
 };
 
@@ -96,4 +107,13 @@ void ListedRecords::visit(size_t from, size_t end, Visit visit) const
         }
         from += count;
     }
+}
+
+template <typename Visit>
+void ListedRecords::visitAll(Visit each) const
+{
+    const size_t middle = size() / 2;
+    runInParallel(
+        size() >= WorthTwoThreads, [&] { visit(0, middle, each); },
+        [&] { visit(middle, size(), each); });
 }

@@ -2,14 +2,23 @@
 
 namespace {
 
-// The first letter settles most, and digits must be told apart in names that only count up.
-constexpr int FirstBits = 8;
-constexpr int OtherBits = 3;
-constexpr int Others = 8;
-static_assert(FirstBits + Others * OtherBits == 32, "one number for each name");
+// The first letter settles most, the next few are often the same in thousands of names, and then
+// come digits that must be told apart in names that only count up.
+constexpr int Known = 8;
+constexpr int Shifts[Known + 1] = {0, 5, 6, 7, 8, 10, 12, 14, 16};
 
-constexpr quint32 FirstMask = (1u << FirstBits) - 1;
-constexpr quint32 OtherMask = (1u << OtherBits) - 1;
+constexpr uint maskOf(int letter)
+{
+    return (1u << (Shifts[letter + 1] - Shifts[letter])) - 1;
+}
+
+/// Five bits: a number for each of A to Z, and the others for digits.
+uint firstBits(ushort folded)
+{
+    constexpr uint BehindZ = 27;
+    constexpr uint Left = 32 - BehindZ;
+    return folded < '@' ? BehindZ + folded % Left : folded & maskOf(0);
+}
 
 /// A letter beyond the basic plane only says that there is one.
 ushort foldedBeyondAscii(QChar letter)
@@ -28,23 +37,19 @@ ushort folded(QChar letter)
 
 } // namespace
 
-quint32 NameLetters::of(QStringView name)
+quint16 NameLetters::of(QStringView name)
 {
-    const int size = int(name.size());
+    const int size = qMin(int(name.size()), Known);
     if (size == 0)
         return 0;
-    quint32 letters = folded(name.at(0)) & FirstMask;
-    int shift = FirstBits;
-    for (int i = 1; i < size && i <= Others; ++i, shift += OtherBits)
-        letters |= (folded(name.at(i)) & OtherMask) << shift;
-    return letters;
+    uint letters = firstBits(folded(name.at(0)));
+    for (int i = 1; i < size; ++i)
+        letters |= (folded(name.at(i)) & maskOf(i)) << Shifts[i];
+    return quint16(letters);
 }
 
 NameLetters::Pattern::Pattern(const QString &text)
-    : m_mask(0)
+    : m_mask(quint16((1u << Shifts[qMin(text.size(), Known)]) - 1))
     , m_bits(of(text))
 {
-    const int known = qMin(text.size(), 1 + Others);
-    const int bits = known == 0 ? 0 : FirstBits + (known - 1) * OtherBits;
-    m_mask = bits == 32 ? ~0u : (1u << bits) - 1;
 }

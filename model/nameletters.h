@@ -8,18 +8,18 @@
 /// right bits is still to be read.
 namespace NameLetters {
 
-quint32 of(QStringView name);
+quint16 of(QStringView name);
 
 /// The bits of all names that begin with \a text, however they are written.
 class Pattern
 {
 public:
     explicit Pattern(const QString &text);
-    bool fits(quint32 letters) const { return (letters & m_mask) == m_bits; }
+    bool fits(quint16 letters) const { return (letters & m_mask) == m_bits; }
 
 private:
-    quint32 m_mask;
-    quint32 m_bits;
+    quint16 m_mask;
+    quint16 m_bits;
 };
 
 } // namespace NameLetters

@@ -64,12 +64,12 @@ int ScanDataModel::firstRow(const std::vector<size_t> &positions) const
         return -1;
     if (m_order.empty())
         return int(positions.front());
-    const auto row = positions.size() == 1
-        ? std::find(m_order.begin(), m_order.end(), positions.front())
-        : std::find_if(m_order.begin(), m_order.end(), [&](size_t position) {
-              return std::binary_search(positions.begin(), positions.end(), position);
-          });
-    return int(row - m_order.begin());
+    if (positions.size() == 1)
+        return int(m_order.rowOf(positions.front()));
+    size_t row = 0;
+    while (!std::binary_search(positions.begin(), positions.end(), m_order[row]))
+        ++row;
+    return int(row);
 }
 
 int ScanDataModel::rowOfId(RecordId which, qint64 id) const
@@ -98,8 +98,7 @@ void ScanDataModel::setAllCheckStates(int state)
 {
     {
         const QMutexLocker lock(&m_lock);
-        m_records.visit(0, m_records.size(),
-                        [state](TreeItemData &item) { item.checkState = state; });
+        m_records.visitAll([state](TreeItemData &item) { item.checkState = state; });
     }
     refreshCheckStates();
 }

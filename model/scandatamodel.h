@@ -3,6 +3,7 @@
 #include "model/earlierrows.h"
 #include "model/listedrecords.h"
 #include "model/recoverability.h"
+#include "model/roworder.h"
 #include "model/rowsort.h"
 #include "model/scanitemrole.h"
 
@@ -100,15 +101,15 @@ private:
     void takeChildren(const TreeItemData &folder);
     /// How many of the first rows show the same records as with \a previous, the order of before,
     /// when there were \a before records, of which the first \a same of each part have stayed.
-    int prefixSince(const RowSort::Order &previous, const ListedRecords::Parts &before,
+    int prefixSince(const RowOrder &previous, const ListedRecords::Parts &before,
                     const ListedRecords::Parts &same) const;
     /// The first row from \a from on, and then from the top, whose name begins with \a text.
     int rowOfName(const QString &text, int from) const;
-    /// The rows need not be put in order again when all records are where they were.
-    bool isStillInOrder() const;
-    RowSort::Order sortedOrder(const RowSort::Order &known) const;
+    /// The rows need not be put in order again when all children of \a folder are where they were.
+    bool isStillInOrder(const TreeItemData &folder) const;
+    RowOrder sortedOrder(const RowSort::Order &known) const;
     /// Gives persistent indexes the rows that their records have now.
-    void remapPersistentIndexes(const RowSort::Order &previous);
+    void remapPersistentIndexes(const RowOrder &previous);
     QVariant displayText(const TreeItemData &item, int column) const;
     QString spokenDescription(const TreeItemData &item) const;
 
@@ -117,7 +118,7 @@ private:
     int rowOfId(RecordId which, qint64 id) const;
 
     ListedRecords m_records;
-    RowSort::Order m_order;              ///< position in m_records by row; empty: the same
+    RowOrder m_order;                    ///< position in m_records by row; empty: the same
     std::optional<quint64> m_sortedKeys; ///< what m_order was made from, when that is known
     EarlierRows m_earlier;
     int m_sortRole = NameRole;

@@ -3,6 +3,7 @@
 #include "model/scandatamodel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -59,7 +60,7 @@ void ScanDataModel::clear()
     const QMutexLocker lock(&m_lock);
     beginResetModel();
     m_records.clear();
-    RowSort::Order().swap(m_order);
+    m_order = {};
     m_sortedKeys.reset();
     m_unchangedPrefix = 0;
     m_earlier.forget();
@@ -78,23 +79,22 @@ void ScanDataModel::takeChildren(const TreeItemData &folder)
     const ListedRecords::Parts same = m_records.replace(folder, m_earlier);
     const ListedRecords::Parts now = m_records.parts();
     const bool unchanged = same == before && now == before;
-    if (unchanged && isStillInOrder()) {
+    if (unchanged && isStillInOrder(folder)) {
         m_earlier.forget();
         m_unchangedPrefix = int(now.total());
         return;
     }
 
-    RowSort::Order previous;
-    previous.swap(m_order);
+    RowOrder previous = std::exchange(m_order, {});
     m_sortedKeys.reset();
     if (m_sorted) {
         const bool grown = now.folders >= before.folders && now.files >= before.files;
         if (!grown || previous.empty()) {
             m_order = sortedOrder({});
         } else if (now.folders == before.folders) {
-            m_order = sortedOrder(previous);
+            m_order = sortedOrder(previous.unpacked());
         } else {
-            RowSort::Order known = previous;
+            RowSort::Order known = previous.unpacked();
             for (quint32 &position : known) {
                 if (position >= before.folders)
                     position += quint32(now.folders - before.folders);
@@ -102,13 +102,13 @@ void ScanDataModel::takeChildren(const TreeItemData &folder)
             m_order = sortedOrder(known);
         }
         if (unchanged) // and may be so again
-            m_sortedKeys = m_records.fingerprint(m_sortRole);
+            m_sortedKeys = m_records.fingerprint(m_sortRole, folder);
     }
     m_unchangedPrefix = prefixSince(previous, before, same);
     m_earlier.end(std::move(previous), now.folders, now.files);
 }
 
-int ScanDataModel::prefixSince(const RowSort::Order &previous, const ListedRecords::Parts &before,
+int ScanDataModel::prefixSince(const RowOrder &previous, const ListedRecords::Parts &before,
                                const ListedRecords::Parts &same) const
 {
     const ListedRecords::Parts now = m_records.parts();
@@ -130,16 +130,16 @@ int ScanDataModel::prefixSince(const RowSort::Order &previous, const ListedRecor
     return int(row);
 }
 
-bool ScanDataModel::isStillInOrder() const
+bool ScanDataModel::isStillInOrder(const TreeItemData &folder) const
 {
     if (!m_sorted || m_order.empty())
         return !m_sorted && m_order.empty();
-    return m_sortedKeys && *m_sortedKeys == m_records.fingerprint(m_sortRole);
+    return m_sortedKeys && *m_sortedKeys == m_records.fingerprint(m_sortRole, folder);
 }
 
-RowSort::Order ScanDataModel::sortedOrder(const RowSort::Order &known) const
+RowOrder ScanDataModel::sortedOrder(const RowSort::Order &known) const
 {
-    return RowSort::sorted(m_records.all(), m_sortRole, m_sortOrder, known);
+    return RowOrder(RowSort::sorted(m_records.all(), m_sortRole, m_sortOrder, known));
 }
 
 EarlierRows::Runs ScanDataModel::rowsNow(const EarlierRows::Runs &before) const
@@ -176,8 +176,7 @@ void ScanDataModel::sort(int column, Qt::SortOrder order)
         const ListedRecords::Parts parts = m_records.parts();
         m_earlier.begin(parts.folders, parts.files);
         m_unchangedPrefix = 0;
-        RowSort::Order previous = sortedOrder({});
-        previous.swap(m_order);
+        RowOrder previous = std::exchange(m_order, sortedOrder({}));
         m_sortedKeys = m_records.fingerprint(m_sortRole);
         remapPersistentIndexes(previous);
         m_earlier.end(std::move(previous), parts.folders, parts.files);
@@ -185,7 +184,7 @@ void ScanDataModel::sort(int column, Qt::SortOrder order)
     emit layoutChanged({}, SortHint);
 }
 
-void ScanDataModel::remapPersistentIndexes(const RowSort::Order &previous)
+void ScanDataModel::remapPersistentIndexes(const RowOrder &previous)
 {
     const QModelIndexList from = persistentIndexList();
     if (from.isEmpty())

@@ -120,6 +120,8 @@ private slots:
     void rootTypeOfTheTop();
     void keepsTheContract();
     void growthIsLikeOpeningAnew();
+    void manyRowsAreLikeOpenedAnew_data();
+    void manyRowsAreLikeOpenedAnew();
     void deadRecordSaysNothing();
     void sameAddressAnotherRecord();
     void implausibleChildren();
@@ -293,6 +295,55 @@ void tst_ScanDataModel::growthIsLikeOpeningAnew()
             QVERIFY(before.at(prefix) != after.at(prefix) || after.at(prefix) < 0);
     }
     QVERIFY(model.rowCount() > 100);
+}
+
+void tst_ScanDataModel::manyRowsAreLikeOpenedAnew_data()
+{
+    QTest::addColumn<bool>("sorted");
+    QTest::newRow("in the host's order") << false;
+    QTest::newRow("sorted") << true;
+}
+
+/// So many that two threads look at them.
+void tst_ScanDataModel::manyRowsAreLikeOpenedAnew()
+{
+    QFETCH(bool, sorted);
+    constexpr int Many = 150'000;
+    Host host;
+    ScanDataModel model;
+    const auto opensAsAnew = [&] {
+        const QVector<qint64> before = idsOf(model);
+        ScanDataModel fresh;
+        for (ScanDataModel *each : {&model, &fresh}) {
+            if (sorted && !each->isSorted())
+                each->sort(ScanDataModel::SizeColumn, Qt::DescendingOrder);
+            each->openFolder(&host.root);
+        }
+        const QVector<qint64> after = idsOf(model);
+        const int same = model.unchangedPrefix();
+        return after == idsOf(fresh) && same <= before.size()
+            && std::equal(before.begin(), before.begin() + same, after.begin());
+    };
+    QList<TreeItemData *> &files = host.root.childFiles;
+    for (int update = 0; update < 2; ++update) {
+        for (int i = 0; i < Many; ++i)
+            host.addFile();
+        QVERIFY(opensAsAnew());
+        for (const int place : {Many / 3, Many - 5}) {
+            host.destroy(files.at(place));
+            TreeItemData *const old = files.at(place + 2);
+            host.kill(old);
+            QCOMPARE(host.make(FileKind), old); // another one at its address
+        }
+    }
+    QVERIFY(opensAsAnew());
+    QVERIFY(opensAsAnew()); // the same again
+    QCOMPARE(model.unchangedPrefix(), files.size());
+    files.at(Many + 7)->fileSize = 100; // and again, but for a key that no address tells of
+    QVERIFY(opensAsAnew());
+    model.setAllCheckStates(Qt::Checked);
+    QVERIFY(std::all_of(files.begin(), files.end(),
+                        [](const TreeItemData *file) { return file->checkState == Qt::Checked; }));
 }
 
 void tst_ScanDataModel::deadRecordSaysNothing()
