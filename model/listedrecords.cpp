@@ -211,7 +211,7 @@ std::vector<const TreeItemData *> ListedRecords::all() const
 }
 
 template <typename RecordAt>
-quint64 ListedRecords::fingerprintOf(int sortRole, RecordAt recordAt) const
+quint64 ListedRecords::fingerprintOf(int sortRole, size_t size, RecordAt recordAt)
 {
     const auto half = [=](size_t from, size_t end) {
         KeyFingerprint print(sortRole);
@@ -228,25 +228,28 @@ quint64 ListedRecords::fingerprintOf(int sortRole, RecordAt recordAt) const
     quint64 first = 0;
     quint64 second = 0;
     runInParallel(
-        size() >= WorthTwoThreads, [&] { first = half(0, size() / 2); },
-        [&] { second = half(size() / 2, size()); });
+        size >= WorthTwoThreads, [&] { first = half(0, size / 2); },
+        [&] { second = half(size / 2, size); });
     KeyFingerprint both(sortRole);
     both.add(first);
     both.add(second);
     return both.value();
 }
 
-quint64 ListedRecords::fingerprint(int sortRole) const
+quint64 ListedRecords::fingerprint(int sortRole, const std::vector<const TreeItemData *> &records)
 {
-    return fingerprintOf(sortRole, [this](size_t position) { return at(position); });
+    return fingerprintOf(sortRole, records.size(),
+                         [&records](size_t position) { return records[position]; });
 }
 
-quint64 ListedRecords::fingerprint(int sortRole, const TreeItemData &folder) const
+quint64 ListedRecords::fingerprint(int sortRole, const TreeItemData &folder)
 {
-    // without a look at the guards, which lie elsewhere again
-    return fingerprintOf(sortRole, [this, &folder](size_t position) {
-        return plausible(position < m_folderCount
-                             ? folder.childFolders.at(int(position))
-                             : folder.childFiles.at(int(position - m_folderCount)));
+    // without a look at the guards, whose counters lie elsewhere again
+    const QList<TreeItemData *> &folders = folder.childFolders;
+    const QList<TreeItemData *> &files = folder.childFiles;
+    const auto folderCount = size_t(folders.size());
+    return fingerprintOf(sortRole, folderCount + size_t(files.size()), [&](size_t position) {
+        return plausible(position < folderCount ? folders.at(int(position))
+                                                : files.at(int(position - folderCount)));
     });
 }

@@ -55,10 +55,10 @@ public:
     std::vector<size_t> positionsOf(const TreeItemData *record, bool one) const;
     /// Null where a record has died.
     std::vector<const TreeItemData *> all() const;
-    /// Of the keys of all.
-    quint64 fingerprint(int sortRole) const;
-    /// The same when it is known that all children of \a folder are listed as they are now.
-    quint64 fingerprint(int sortRole, const TreeItemData &folder) const;
+    /// Of the keys of \a records, which are all().
+    static quint64 fingerprint(int sortRole, const std::vector<const TreeItemData *> &records);
+    /// The same when all children of \a folder are known to be listed as they are now.
+    static quint64 fingerprint(int sortRole, const TreeItemData &folder);
 
     /// Hands the living records from position \a from to before \a end to \a visit.
     template <typename Visit>
@@ -86,7 +86,7 @@ private:
     std::vector<size_t> positionsOneByOne(bool one, Matches matches) const;
 
     template <typename RecordAt>
-    quint64 fingerprintOf(int sortRole, RecordAt recordAt) const;
+    static quint64 fingerprintOf(int sortRole, size_t size, RecordAt recordAt);
 
     Blocks<Guard> m_guards;
     Blocks<quint16> m_letters;

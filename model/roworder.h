@@ -16,7 +16,7 @@ public:
     explicit RowOrder(const RowSort::Order &positions);
 
     bool empty() const { return m_bytes.empty(); }
-    size_t size() const { return empty() ? 0 : (m_bytes.size() - Overlap) / m_width; }
+    size_t size() const { return m_bytes.size() / m_width; } // the overlap is less than one
     size_t operator[](size_t row) const
     {
         quint32 bytes = 0;

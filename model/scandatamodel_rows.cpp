@@ -102,7 +102,7 @@ void ScanDataModel::takeChildren(const TreeItemData &folder)
             m_order = sortedOrder(known);
         }
         if (unchanged) // and may be so again
-            m_sortedKeys = m_records.fingerprint(m_sortRole, folder);
+            m_sortedKeys = ListedRecords::fingerprint(m_sortRole, folder);
     }
     m_unchangedPrefix = prefixSince(previous, before, same);
     m_earlier.end(std::move(previous), now.folders, now.files);
@@ -134,7 +134,7 @@ bool ScanDataModel::isStillInOrder(const TreeItemData &folder) const
 {
     if (!m_sorted || m_order.empty())
         return !m_sorted && m_order.empty();
-    return m_sortedKeys && *m_sortedKeys == m_records.fingerprint(m_sortRole, folder);
+    return m_sortedKeys && *m_sortedKeys == ListedRecords::fingerprint(m_sortRole, folder);
 }
 
 RowOrder ScanDataModel::sortedOrder(const RowSort::Order &known) const
@@ -176,8 +176,10 @@ void ScanDataModel::sort(int column, Qt::SortOrder order)
         const ListedRecords::Parts parts = m_records.parts();
         m_earlier.begin(parts.folders, parts.files);
         m_unchangedPrefix = 0;
-        RowOrder previous = std::exchange(m_order, sortedOrder({}));
-        m_sortedKeys = m_records.fingerprint(m_sortRole);
+        const auto records = m_records.all();
+        RowOrder previous = std::exchange(
+            m_order, RowOrder(RowSort::sorted(records, m_sortRole, m_sortOrder)));
+        m_sortedKeys = ListedRecords::fingerprint(m_sortRole, records);
         remapPersistentIndexes(previous);
         m_earlier.end(std::move(previous), parts.folders, parts.files);
     }
