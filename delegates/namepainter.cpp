@@ -3,6 +3,7 @@
 #include "delegates/chighlighter.h"
 #include "delegates/elidecache.h"
 #include "delegates/painterstate.h"
+#include "delegates/textline.h"
 
 #include <QDebug>
 #include <QPainter>
@@ -121,18 +122,8 @@ QTextLayout *NamePainter::highlightedLayout(const QString &text, Qt::LayoutDirec
                               m_colors.highlightForeground);
     m_highlighter->rehighlight();
 
-    auto layout = std::make_unique<QTextLayout>(line, font());
-    layout->setFormats(m_renderer->document()->firstBlock().layout()->formats());
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    option.setTextDirection(direction);
-    layout->setTextOption(option);
-    layout->setCacheEnabled(true);
-    layout->beginLayout();
-    layout->createLine();
-    layout->endLayout();
-
-    QTextLayout *result = layout.release();
+    const auto marks = m_renderer->document()->firstBlock().layout()->formats();
+    QTextLayout *result = laidOutLine(line, font(), direction, marks).release();
     m_highlightedTexts.insert(text, result, 1);
     return result;
 }

@@ -1,12 +1,11 @@
 #include "delegates/plaintexts.h"
 
 #include "delegates/painterstate.h"
+#include "delegates/textline.h"
 
 #include <QFontMetrics>
 #include <QPainter>
 #include <QStyle>
-
-#include <memory>
 
 namespace {
 
@@ -52,16 +51,7 @@ const QTextLayout &PlainTexts::laidOut(const QString &text, Qt::LayoutDirection 
     const QTextLayout *known = m_texts.object(text);
     if (known && known->textOption().textDirection() == direction)
         return *known;
-    auto layout = std::make_unique<QTextLayout>(onOneLine(text), m_font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    option.setTextDirection(direction);
-    layout->setTextOption(option);
-    layout->setCacheEnabled(true);
-    layout->beginLayout();
-    layout->createLine();
-    layout->endLayout();
-    QTextLayout *result = layout.release();
+    QTextLayout *result = laidOutLine(onOneLine(text), m_font, direction).release();
     m_texts.insert(text, result, 1);
     return *result;
 }
