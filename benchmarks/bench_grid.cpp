@@ -1,4 +1,5 @@
 // The grid against a stock list view in icon mode, in one process and over one model.
+#include "benchmarks/ratio.h"
 #include "content/thumbnailgrid.h"
 #include "support/carddelegate.h"
 #include "support/plainlistmodel.h"
@@ -201,7 +202,8 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    printRatios();
+    if (!listsNamesOnly(argc, argv))
+        printRatios();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -1,4 +1,5 @@
 // The list's table against a stock table view, in one process and over one model.
+#include "benchmarks/ratio.h"
 #include "content/scantableview.h"
 
 #include <QAbstractTableModel>
@@ -57,6 +58,17 @@ public:
     mutable int painted = 0;
 };
 
+void setRowHeight(ScanTableView &view)
+{
+    view.setRowHeight(RowHeight);
+}
+
+void setRowHeight(QTableView &view)
+{
+    view.verticalHeader()->setDefaultSectionSize(RowHeight);
+    view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
 template <class View>
 struct Bench
 {
@@ -67,8 +79,7 @@ struct Bench
         view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         view.setMouseTracking(true);
         view.verticalHeader()->hide();
-        view.verticalHeader()->setDefaultSectionSize(RowHeight);
-        view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        setRowHeight(view);
         view.setItemDelegate(&delegate);
         view.setModel(&model);
         view.resize(1000, 800);
@@ -145,8 +156,10 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    const bool namesOnly = listsNamesOnly(argc, argv);
     benchmark::Initialize(&argc, argv);
-    printRatios();
+    if (!namesOnly)
+        printRatios();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

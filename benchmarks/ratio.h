@@ -2,10 +2,20 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <string>
 #include <vector>
+
+/// The program is only asked what it could measure. To be asked before the library takes its
+/// arguments out.
+inline bool listsNamesOnly(int argc, char **argv)
+{
+    return std::any_of(argv, argv + argc, [](const std::string &argument) {
+        return argument == "--benchmark_list_tests" || argument == "--benchmark_list_tests=true";
+    });
+}
 
 /// Runs all benchmarks and then prints, for each pair "Name/ours" and "Name/stock" (with whatever
 /// arguments follow), how many times faster ours was in this run: by the clock where the benchmark
