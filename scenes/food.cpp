@@ -6,22 +6,6 @@
 
 using namespace Table;
 
-static QPainterPath blob(Random &random, const QPointF &center, double radius, double rough)
-{
-    QPolygonF outline;
-    const auto seed = quint32(random.below(1 << 28));
-    for (int i = 0; i < 90; ++i) {
-        const double angle = i * 6.2832 / 90;
-        const double reach = radius
-            * (1 + rough * noise(std::cos(angle) * 1.6 + 5, std::sin(angle) * 1.6 + 5, seed));
-        outline << center + QPointF(std::cos(angle), std::sin(angle)) * reach;
-    }
-    QPainterPath path;
-    path.addPolygon(outline);
-    path.closeSubpath();
-    return path;
-}
-
 void Scenes::coffee(Canvas &canvas, int)
 {
     wood(canvas, {70, 40, 24}, {168, 112, 70});
@@ -157,108 +141,6 @@ void Scenes::pizza(Canvas &canvas, int)
         }
     });
     canvas.glow({canvas.width() * 0.2, 100}, 900, {255, 220, 170}, 0.35);
-}
-
-void Scenes::berries(Canvas &canvas, int)
-{
-    cloth(canvas, {206, 214, 214});
-    Random &random = canvas.random();
-    const QPointF center(canvas.width() * 0.5, 500);
-    plate(canvas, center, 430, {92, 140, 160});
-    canvas.draw([&](QPainter &painter) {
-        QRadialGradient cream(center - QPointF(60, 60), 330);
-        cream.setColorAt(0, Qt::white);
-        cream.setColorAt(1, {240, 228, 222});
-        painter.setBrush(cream);
-        painter.drawPath(blob(random, center, 298, 0.06));
-        static const QColor s_fruit[] = {
-            {60, 70, 150}, {210, 30, 60}, {60, 70, 150}, {120, 20, 70}};
-        for (int i = 0; i < 66; ++i) {
-            const double angle = i * 2.39996;
-            const double away = 262 * std::sqrt((65.5 - i) / 66);
-            const QPointF at = center + QPointF(std::cos(angle), std::sin(angle)) * away
-                + QPointF(random.between(-10, 10), random.between(-10, 10));
-            const int kind = random.below(4);
-            const double radius = random.between(28, 38);
-            painter.setBrush(QColor(60, 20, 50, 80));
-            painter.drawEllipse(at + QPointF(6, 8), radius, radius);
-            if (kind == 1 || kind == 3) {
-                for (int d = 0; d < 19; ++d) {
-                    const double turn = d * 2.39996;
-                    const double out = radius * 0.8 * std::sqrt((18.5 - d) / 19);
-                    ball(painter, at + QPointF(std::cos(turn), std::sin(turn)) * out, radius * 0.3,
-                         s_fruit[kind]);
-                }
-            } else {
-                ball(painter, at, radius, s_fruit[kind]);
-                painter.setBrush(QColor(30, 30, 80, 150));
-                painter.drawEllipse(at + QPointF(radius * 0.1, radius * 0.1), radius * 0.22,
-                                    radius * 0.2);
-            }
-        }
-        leaf(painter, center + QPointF(-20, -30), 120, -50, {70, 160, 80});
-        leaf(painter, center + QPointF(-20, -30), 110, -120, {80, 170, 86});
-        leaf(painter, center + QPointF(-16, -30), 96, 10, {60, 150, 74});
-    });
-    canvas.glow({canvas.width() * 0.12, 80}, 800, {255, 250, 236}, 0.45);
-}
-
-void Scenes::citrus(Canvas &canvas, int)
-{
-    cloth(canvas, {70, 150, 156});
-    Random &random = canvas.random();
-    static const QColor s_flesh[] = {{250, 150, 30}, {250, 214, 60}, {238, 92, 80}, {170, 204, 70}};
-    for (int i = 0; i < 17; ++i) {
-        const double columns = 5;
-        const QPointF at(canvas.width()
-                                 * (std::fmod(i, columns) + 0.5 + (int(i / columns) % 2 ? 0.45 : 0))
-                                 / columns
-                             + random.between(-22, 22),
-                         130 + 250 * int(i / columns) + random.between(-22, 22));
-        const double radius = random.between(106, 142);
-        const QColor flesh = s_flesh[random.below(4)];
-        shadow(canvas, at, radius, 0.5);
-        canvas.draw([&](QPainter &painter) {
-            if (random.chance(0.2)) {
-                ball(painter, at, radius, flesh);
-                return;
-            }
-            painter.setBrush(mix(flesh, QColor(200, 80, 0), 0.25));
-            painter.drawEllipse(at, radius, radius);
-            painter.setBrush(mix(flesh, Qt::white, 0.82));
-            painter.drawEllipse(at, radius * 0.93, radius * 0.93);
-            const double turn = random.between(0, 360);
-            for (int s = 0; s < 10; ++s) {
-                painter.save();
-                painter.translate(at);
-                painter.rotate(turn + s * 36);
-                QPainterPath segment(QPointF(radius * 0.09, 0));
-                segment.lineTo(radius * 0.8, -radius * 0.225);
-                segment.quadTo(QPointF(radius * 0.9, 0), QPointF(radius * 0.8, radius * 0.225));
-                segment.closeSubpath();
-                QRadialGradient juice(QPointF(0, 0), radius * 0.9);
-                juice.setColorAt(0, mix(flesh, Qt::white, 0.4));
-                juice.setColorAt(1, flesh);
-                painter.setPen(
-                    QPen(QBrush(juice), radius * 0.05, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-                painter.setBrush(juice);
-                painter.drawPath(segment);
-                painter.setPen(QPen(QColor(255, 255, 255, 70), 1.6));
-                for (int f = 0; f < 9; ++f) {
-                    const double a = random.between(0.2, 0.7) * radius;
-                    const double b = random.between(-0.16, 0.16) * a;
-                    painter.drawLine(QPointF(a, b), QPointF(a + radius * 0.12, b * 1.2));
-                }
-                painter.restore();
-            }
-        });
-    }
-    canvas.draw([&](QPainter &painter) {
-        for (int i = 0; i < 9; ++i)
-            leaf(painter, {random.unit() * canvas.width(), random.unit() * 1000},
-                 random.between(90, 150), random.between(0, 360), {50, 130, 70});
-    });
-    canvas.glow({canvas.width() * 0.1, 60}, 1000, {255, 250, 220}, 0.4);
 }
 
 void Scenes::cake(Canvas &canvas, int)
@@ -458,55 +340,4 @@ void Scenes::ramen(Canvas &canvas, int)
         }
     });
     canvas.glow({canvas.width() * 0.15, 80}, 900, {255, 230, 190}, 0.38);
-}
-
-void Scenes::document(Canvas &canvas, int)
-{
-    wood(canvas, {92, 62, 42}, {190, 140, 96});
-    Random &random = canvas.random();
-    canvas.draw([&](QPainter &painter) {
-        painter.translate(canvas.width() * 0.5, 500);
-        painter.rotate(-6);
-        const double half = std::min(canvas.width() * 0.4, 330.0);
-        for (int i = 0; i < 9; ++i)
-            painter.fillRect(QRectF(-half + 4 + i * 2, -430 + 4 + i * 2, half * 2, 880),
-                             QColor(20, 10, 10, 14));
-        QLinearGradient paper(-half, -430, half, 450);
-        paper.setColorAt(0, {255, 254, 248});
-        paper.setColorAt(1, {222, 216, 206});
-        painter.fillRect(QRectF(-half, -430, half * 2, 880), paper);
-        painter.fillRect(QRectF(-half + 50, -370, 84, 84), QColor(52, 110, 180));
-        painter.fillRect(QRectF(-half + 160, -362, half * 0.9, 22), QColor(46, 50, 62));
-        painter.fillRect(QRectF(-half + 160, -326, half * 0.6, 13), QColor(120, 126, 140));
-        for (int line = 0; line < 19; ++line) {
-            double x = -half + 50;
-            const double y = -232 + line * 31 + (line > 6 ? 22 : 0) + (line > 12 ? 22 : 0);
-            const double end = line % 7 == 6 ? 0 : half - 60;
-            while (x < end) {
-                const double word = random.between(16, 66);
-                painter.fillRect(QRectF(x, y, std::min(word, end - x), 9), QColor(70, 74, 88, 200));
-                x += word + 10;
-            }
-        }
-        painter.setPen(QPen(QColor(30, 50, 130), 4, Qt::SolidLine, Qt::RoundCap));
-        QPainterPath ink(QPointF(half - 250, 396));
-        for (int i = 0; i < 7; ++i)
-            ink.cubicTo(QPointF(half - 240 + i * 26, 340), QPointF(half - 226 + i * 26, 430),
-                        QPointF(half - 222 + i * 26, 388 + 6 * (i % 2)));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPath(ink);
-    });
-    canvas.draw([&](QPainter &painter) {
-        painter.translate(canvas.width() * 0.86, 640);
-        painter.rotate(-62);
-        painter.fillRect(QRectF(-230, 8, 440, 22), QColor(20, 10, 10, 70));
-        QLinearGradient barrel(0, -14, 0, 14);
-        barrel.setColorAt(0, {90, 120, 170});
-        barrel.setColorAt(1, {16, 26, 54});
-        painter.fillRect(QRectF(-240, -13, 400, 26), barrel);
-        painter.setBrush(QColor(216, 180, 90));
-        painter.drawPolygon(QPolygonF({{160, -12}, {214, -2}, {214, 2}, {160, 12}}));
-        painter.fillRect(QRectF(-10, -14, 14, 28), QColor(216, 180, 90));
-    });
-    canvas.glow({60, 40}, 1000, {255, 246, 224}, 0.35);
 }

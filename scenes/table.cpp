@@ -100,4 +100,20 @@ void leaf(QPainter &painter, const QPointF &foot, double length, double angle, c
     painter.restore();
 }
 
+QPainterPath blob(Random &random, const QPointF &center, double radius, double rough)
+{
+    QPolygonF outline;
+    const auto seed = quint32(random.below(1 << 28));
+    for (int i = 0; i < 90; ++i) {
+        const double angle = i * 6.2832 / 90;
+        const double reach = radius
+            * (1 + rough * noise(std::cos(angle) * 1.6 + 5, std::sin(angle) * 1.6 + 5, seed));
+        outline << center + QPointF(std::cos(angle), std::sin(angle)) * reach;
+    }
+    QPainterPath path;
+    path.addPolygon(outline);
+    path.closeSubpath();
+    return path;
+}
+
 } // namespace Table
