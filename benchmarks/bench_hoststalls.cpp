@@ -80,6 +80,8 @@ private:
         add("check the deleted", 1,
             [this](int) { m_session.changeChecks(Session::Bulk::CheckDeleted); });
         add("check photos", 1, [this](int) { m_session.changeChecks(Session::Bulk::CheckPhotos); });
+        add("what is checked, to recover", 1,
+            [this](int) { m_session.takeChecked([](const QVector<FoundItem> &) {}); });
         add("uncheck all", 1, [this](int) { m_session.changeChecks(Session::Bulk::UncheckAll); });
         add("select all, Space", 4, [this](int i) {
             auto *grid = m_window.findChild<QListView *>(QStringLiteral("listView"));

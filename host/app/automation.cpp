@@ -116,14 +116,15 @@ void Automation::recover()
         finish();
         return;
     }
-    const QVector<FoundItem> items = m_session.checkedForRecovery();
-    if (items.isEmpty()) {
-        fail(QStringLiteral("nothing is chosen, so there is nothing to recover; see --check"));
-        finish();
-        return;
-    }
-    m_recovering = true;
-    m_window.recover(items, m_wishes.recoverTo);
+    m_session.takeChecked([this](const QVector<FoundItem> &items) {
+        if (items.isEmpty()) {
+            fail(QStringLiteral("nothing is chosen, so there is nothing to recover; see --check"));
+            finish();
+            return;
+        }
+        m_recovering = true;
+        m_window.recover(items, m_wishes.recoverTo);
+    });
 }
 
 void Automation::finish()

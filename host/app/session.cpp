@@ -9,6 +9,7 @@ namespace {
 constexpr int PublishMs = 100;   // ten times a second is all that an eye can follow
 constexpr int FirstHitsMs = 200; // what a filter finds later than this is shown bit by bit
 constexpr int FilteredAStep = 512;
+constexpr int CollectedAStep = 512;
 using Plugin = SDCardScanContentPluginInterface;
 } // namespace
 
@@ -253,7 +254,7 @@ void Session::restartSearch()
 void Session::setFilter(const FilterCondition &condition)
 {
     m_checks.settle();
-    m_work.drop(); // an earlier filter
+    const int run = ++m_filterRun;
     const bool described = m_filter.aiSearch;
     m_filter = condition;
     m_filter.aiSearch = described;
@@ -262,7 +263,12 @@ void Session::setFilter(const FilterCondition &condition)
     restartSearch();
     m_publisher.start();
     m_sinceFilter.start();
-    m_work.add([this] { return m_tree.filterMore(FilteredAStep); }, [this] { endFilter(); });
+    // another filter may come before this one has ended
+    m_work.add([this, run] { return run != m_filterRun || m_tree.filterMore(FilteredAStep); },
+               [this, run] {
+                   if (run == m_filterRun)
+                       endFilter();
+               });
 }
 
 void Session::endFilter()
@@ -367,37 +373,52 @@ QVector<ItemRecord *> Session::matching(const QString &pattern)
     return found;
 }
 
-QVector<FoundItem> Session::selectedForRecovery()
+void Session::takeSelected(const Taker &taker)
 {
-    settle();
-    QVector<FoundItem> items;
-    QVector<const TreeItemData *> open;
-    QSet<qint64> seen; // a folder and something in it may both be selected
+    struct State
+    {
+        QVector<FoundItem> items;
+        QVector<const TreeItemData *> open;
+        QSet<qint64> seen; // a folder and something in it may both be selected
+    };
+    const auto state = std::make_shared<State>();
     const auto selected = m_plugin->getSelectedItems(m_search.isActive() ? Plugin::SearchSide
                                                                          : Plugin::ScanSide);
     for (const TreeItemData *item : selected)
-        open.append(item);
-    while (!open.isEmpty()) {
-        const ItemRecord *record = m_tree.records().find(open.takeLast());
-        if (!record || seen.contains(record->secondaryId))
-            continue;
-        seen.insert(record->secondaryId);
+        state->open.append(item);
+    const auto take = [this, state](const TreeItemData *item) {
+        const ItemRecord *record = m_tree.records().find(item);
+        if (!record || state->seen.contains(record->secondaryId))
+            return;
+        state->seen.insert(record->secondaryId);
         if (!record->isRoot)
-            items.append(record->found());
+            state->items.append(record->found());
         for (const auto *list : {&record->childFolders, &record->childFiles}) {
             for (const TreeItemData *child : *list)
-                open.append(child);
+                state->open.append(child);
         }
-    }
-    return items;
+    };
+    m_work.add(
+        [state, take] {
+            for (int i = 0; i < CollectedAStep && !state->open.isEmpty(); ++i)
+                take(state->open.takeLast());
+            return state->open.isEmpty();
+        },
+        [state, taker] { taker(state->items); });
 }
 
-QVector<FoundItem> Session::checkedForRecovery()
+void Session::takeChecked(const Taker &taker)
 {
-    settle();
-    QVector<FoundItem> items;
-    const auto checked = m_tree.checkedItems();
-    for (const ItemRecord *record : checked)
-        items.append(record->found());
-    return items;
+    const auto items = std::make_shared<QVector<FoundItem>>();
+    m_work.add(
+        [this, items, next = 0]() mutable {
+            const int end = qMin(next + CollectedAStep, m_tree.records().size());
+            for (; next < end; ++next) {
+                const ItemRecord &record = *m_tree.records().at(next);
+                if (m_tree.isChosen(record))
+                    items->append(record.found());
+            }
+            return end == m_tree.records().size();
+        },
+        [items, taker] { taker(*items); });
 }

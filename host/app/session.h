@@ -71,9 +71,12 @@ public:
     void setChecked(const QVector<ItemRecord *> &items, bool checked);
     /// The files and folders that \a pattern means, see PathPattern.
     QVector<ItemRecord *> matching(const QString &pattern);
-    /// What is selected on the side that is on screen; folders with all that is shown in them.
-    QVector<FoundItem> selectedForRecovery();
-    QVector<FoundItem> checkedForRecovery();
+    using Taker = std::function<void(const QVector<FoundItem> &)>;
+    /// Collects in slices what is selected on the side that is on screen, folders with all that is
+    /// shown in them.
+    void takeSelected(const Taker &taker);
+    /// The same with what is checked.
+    void takeChecked(const Taker &taker);
 
 signals:
     void opened();
@@ -133,6 +136,7 @@ private:
     ItemRecord *m_shown = nullptr;
     int m_viewMode = SDCardScanContentPluginInterface::GridView;
     quint64 m_publishedRevision = 0;
+    int m_filterRun = 0;
     int m_publishedMatches = -1;
     bool m_scanning = false;
 };

@@ -73,8 +73,8 @@ public:
     qint64 checkedBytes() const { return m_checkedBytes; }
     /// Checked files that the filter hides.
     int hiddenCheckedFiles() const;
-    /// Checked files, hidden ones too, and the checked folders with nothing in them.
-    QVector<const ItemRecord *> checkedItems() const;
+    /// A checked file, be it hidden, or a checked folder with nothing in it.
+    bool isChosen(const ItemRecord &record) const;
 
     /// Grows whenever what a root shows may have changed.
     quint64 revision() const { return m_revision; }

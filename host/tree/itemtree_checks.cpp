@@ -147,14 +147,7 @@ int ItemTree::hiddenCheckedFiles() const
     return m_checkedFiles - m_allFiles->checkedLeaves;
 }
 
-QVector<const ItemRecord *> ItemTree::checkedItems() const
+bool ItemTree::isChosen(const ItemRecord &record) const
 {
-    QVector<const ItemRecord *> items;
-    items.reserve(m_checkedFiles);
-    for (int i = 0; i < m_records.size(); ++i) {
-        const ItemRecord *record = m_records.at(i);
-        if (record->isLeaf && record->isChecked && (record->isShown || !record->isFolder()))
-            items.append(record);
-    }
-    return items;
+    return record.isLeaf && record.isChecked && (isShown(record) || !record.isFolder());
 }

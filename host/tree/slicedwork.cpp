@@ -44,7 +44,9 @@ void SlicedWork::workUntil(qint64 milliseconds)
         if (!m_jobs.front().step())
             continue;
         const std::function<void()> ended = std::move(m_jobs.front().ended);
-        m_jobs.pop_front(); // first: what is told may lead back to here
+        m_jobs.pop_front(); // first: what is told may lead back to here, or open a dialog
+        if (!m_jobs.empty())
+            m_timer.start();
         if (ended)
             ended();
     } while (clock.elapsed() < milliseconds);

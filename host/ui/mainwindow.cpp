@@ -117,7 +117,7 @@ void MainWindow::connectBars()
     connect(m_bottomBar, &BottomBar::stopRequested, &m_session, &Session::cancelScan);
     connect(m_bottomBar, &BottomBar::targetRequested, m_recovery, &RecoveryFlow::pickTarget);
     connect(m_bottomBar, &BottomBar::recoverRequested, this,
-            [this] { m_recovery->recoverChosen(m_session.checkedForRecovery()); });
+            [this] { m_session.takeChecked(recoverChosen()); });
     connect(m_recovery, &RecoveryFlow::roomChanged, this, &MainWindow::showTarget);
     connect(m_recovery, &RecoveryFlow::recovered, this, &MainWindow::recovered);
 }
@@ -141,7 +141,7 @@ void MainWindow::connectSession()
     connect(&m_session, &Session::fileActivated, this, &MainWindow::openFile);
     connect(
         &m_session, &Session::recoverRequested, this,
-        [this] { m_recovery->recoverChosen(m_session.selectedForRecovery()); },
+        [this] { m_session.takeSelected(recoverChosen()); },
         Qt::QueuedConnection); // a dialog must not open inside the plug-in's signal
     connect(&m_session, &Session::noticed, this,
             [this](const Session::Words &words) { m_banner->tell(MessageBanner::Hint, words); });
@@ -228,6 +228,11 @@ void MainWindow::refreshChecks()
 void MainWindow::showTarget()
 {
     m_bottomBar->setTarget(m_recovery->room().folder(), m_recovery->room().bytes());
+}
+
+Session::Taker MainWindow::recoverChosen()
+{
+    return [this](const QVector<FoundItem> &items) { m_recovery->recoverChosen(items); };
 }
 
 void MainWindow::recover(const QVector<FoundItem> &items, const QString &target)

@@ -266,7 +266,8 @@ void TestHostWindow::searchesAreCheckedAsAWhole()
 void TestHostWindow::aTargetOnTheCardIsRefused()
 {
     m_session->changeChecks(Session::Bulk::CheckPhotos);
-    const QVector<FoundItem> items = m_session->checkedForRecovery();
+    QVector<FoundItem> items;
+    m_session->takeChecked([&items](const QVector<FoundItem> &checked) { items = checked; });
     QCOMPARE(items.size(), Photos);
     QSignalSpy recovered(m_window.get(), &MainWindow::recovered);
     const QString target = card() + QStringLiteral("/out");

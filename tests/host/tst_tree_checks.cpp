@@ -344,7 +344,10 @@ void TestTreeChecks::newcomersFollowOnlyWhatWasCheckedAsAWhole()
     tree.beginFilter(ItemFilter(onlyBig));
     tree.filterMore(tree.records().size());
     QCOMPARE(tree.hiddenCheckedFiles(), 6);
-    QCOMPARE(tree.checkedItems().size(), 6);
+    int chosen = 0;
+    for (int i = 0; i < tree.records().size(); ++i)
+        chosen += tree.isChosen(*tree.records().at(i)) ? 1 : 0;
+    QCOMPARE(chosen, 6);
     QCOMPARE(tree.placeRoot()->itemCount, 0);
 }
 
