@@ -47,7 +47,7 @@ public:
     Remains(Remains &&other) noexcept;
     Remains &operator=(Remains &&other) noexcept;
 
-    /// The eldest of them, so nothing outlives what it lies in. True when none are left.
+    /// The eldest of them: a folder goes before what its lists name. True when none are left.
     bool destroyBlock();
 
 private:
