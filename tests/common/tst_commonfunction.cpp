@@ -70,8 +70,7 @@ private slots:
 
 void TestCommonFunction::categoryNames_data()
 {
-    QTest::addColumn<int>("rootType");
-    QTest::addColumn<QString>("text");
+    addColumns<int, QString>({"rootType", "text"});
 
     const auto row = [](int rootType, const char *text) {
         QTest::newRow(qPrintable(QString::number(rootType))) << rootType << text;
@@ -102,8 +101,7 @@ void TestCommonFunction::categoryNames()
 
 void TestCommonFunction::categoryKeys_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, QString>({"key", "text"});
 
     addRow("video", "zenvo_video", "Video");
     addRow("games have another key", "zenvo_game_files", "Game");
@@ -123,9 +121,7 @@ void TestCommonFunction::categoryKeys()
 
 void TestCommonFunction::dates_data()
 {
-    QTest::addColumn<QByteArray>("zone");
-    QTest::addColumn<qint64>("seconds");
-    QTest::addColumn<QString>("text");
+    addColumns<QByteArray, qint64, QString>({"zone", "seconds", "text"});
 
     const qint64 noon = 1709290800; // 2024-03-01 11:00 UTC
     addRow("Taiwan", QByteArray("Asia/Taipei"), noon, "2024-03-01");
@@ -163,8 +159,7 @@ void TestCommonFunction::dates()
 
 void TestCommonFunction::sizes_data()
 {
-    QTest::addColumn<qint64>("bytes");
-    QTest::addColumn<QString>("text");
+    addColumns<qint64, QString>({"bytes", "text"});
 
     const qint64 kilo = 1024;
     addRow("none", qint64(0), "0 SizeUnit_Bytes");
@@ -186,9 +181,7 @@ void TestCommonFunction::sizes()
 
 void TestCommonFunction::locations_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("root");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, QString, QString>({"path", "root", "text"});
 
     addRow("volume dropped", "/Volume/DCIM/100", "E:", "E:\\DCIM\\100");
     addRow("closed root", "/Volume/DCIM/100", "E:\\", "E:\\DCIM\\100");
@@ -219,9 +212,7 @@ void TestCommonFunction::locations()
 
 void TestCommonFunction::screens_data()
 {
-    QTest::addColumn<QString>("factor");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<int>("ratio");
+    addColumns<QString, QString, int>({"factor", "path", "ratio"});
 
     addRow("1", "1", "base.jpg", 1);
     addRow("1.5", "1.5", "base.jpg", 1);
@@ -244,9 +235,7 @@ void TestCommonFunction::screens()
 
 void TestCommonFunction::themedImages_data()
 {
-    QTest::addColumn<QVariant>("theme");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("path");
+    addColumns<QVariant, QString, QString>({"theme", "name", "path"});
 
     const QString there = QStringLiteral("icon16_check_normal");
     addRow("light", QVariant(0), there, ":/Images/icon16_check_normal.png");

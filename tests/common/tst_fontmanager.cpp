@@ -1,5 +1,6 @@
 #include "common/fontmanager.h"
 #include "platform/system/system.h"
+#include "support/datarow.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -22,9 +23,7 @@ private slots:
 
 void TestFontManager::families_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<QString>("semibold");
+    addColumns<QString, QString, QString>({"language", "family", "semibold"});
 
     const QString segoe = QStringLiteral("Segoe UI");
     const QString semibold = QStringLiteral("Segoe UI Semibold");
@@ -65,8 +64,7 @@ void TestFontManager::families()
 
 void TestFontManager::weights_data()
 {
-    QTest::addColumn<int>("css");
-    QTest::addColumn<int>("weight");
+    addColumns<int, int>({"css", "weight"});
 
     QTest::newRow("normal") << 400 << int(QFont::Normal);
     QTest::newRow("semibold") << 600 << int(QFont::DemiBold);

@@ -1,4 +1,5 @@
 #include "common/highdpipixmapsbutton.h"
+#include "support/datarow.h"
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -9,68 +10,32 @@
 
 namespace {
 
-enum Step {
-    Enter,
-    Leave,
-    PressLeft,
-    ReleaseLeft,
-    PressRight,
-    ReleaseRight,
-    Space,
-    Off,
-    On,
-    NotClickable,
-    Reset,
-    ShowHover
-};
-using Steps = QVector<int>;
+using Button = HighDpiPixmapsButton;
+using Step = void (*)(Button *);
+using Steps = QVector<Step>;
+
+template <QEvent::Type Type>
+void send(Button *button)
+{
+    QEvent event(Type);
+    QCoreApplication::sendEvent(button, &event);
+}
+
+const Step Enter = send<QEvent::Enter>;
+const Step Leave = send<QEvent::Leave>;
+const Step PressLeft = [](Button *button) { QTest::mousePress(button, Qt::LeftButton); };
+const Step ReleaseLeft = [](Button *button) { QTest::mouseRelease(button, Qt::LeftButton); };
+const Step PressRight = [](Button *button) { QTest::mousePress(button, Qt::RightButton); };
+const Step ReleaseRight = [](Button *button) { QTest::mouseRelease(button, Qt::RightButton); };
+const Step Space = [](Button *button) { QTest::keyClick(button, Qt::Key_Space); };
+const Step Off = [](Button *button) { button->setEnabledState(false); };
+const Step On = [](Button *button) { button->setEnabledState(true); };
+const Step NotClickable = [](Button *button) { button->setClickable(false); };
+const Step Reset = [](Button *button) { button->resetState(); };
+const Step ShowHover = [](Button *button) { button->showHoverState(); };
 
 const HighDpiPixmapsButton::Images s_names{QStringLiteral("n"), QStringLiteral("h"),
                                            QStringLiteral("p"), QStringLiteral("d")};
-
-void perform(HighDpiPixmapsButton *button, int step)
-{
-    QEvent enter(QEvent::Enter);
-    QEvent leave(QEvent::Leave);
-    switch (step) {
-    case Enter:
-        QCoreApplication::sendEvent(button, &enter);
-        break;
-    case Leave:
-        QCoreApplication::sendEvent(button, &leave);
-        break;
-    case PressLeft:
-        QTest::mousePress(button, Qt::LeftButton);
-        break;
-    case ReleaseLeft:
-        QTest::mouseRelease(button, Qt::LeftButton);
-        break;
-    case PressRight:
-        QTest::mousePress(button, Qt::RightButton);
-        break;
-    case ReleaseRight:
-        QTest::mouseRelease(button, Qt::RightButton);
-        break;
-    case Space:
-        QTest::keyClick(button, Qt::Key_Space);
-        break;
-    case Off:
-        button->setEnabledState(false);
-        break;
-    case On:
-        button->setEnabledState(true);
-        break;
-    case NotClickable:
-        button->setClickable(false);
-        break;
-    case Reset:
-        button->resetState();
-        break;
-    case ShowHover:
-        button->showHoverState();
-        break;
-    }
-}
 
 } // namespace
 
@@ -90,11 +55,8 @@ private slots:
 
 void TestHighDpiPixmapsButton::states_data()
 {
-    QTest::addColumn<Steps>("steps");
-    QTest::addColumn<QString>("image");
-    QTest::addColumn<int>("clicks");
-    QTest::addColumn<int>("hovers");
-    QTest::addColumn<Qt::CursorShape>("cursor");
+    addColumns<Steps, QString, int, int, Qt::CursorShape>(
+        {"steps", "image", "clicks", "hovers", "cursor"});
 
     const auto row = [](const char *name, const Steps &steps, const char *image, int clicks,
                         int hovers, Qt::CursorShape cursor) {
@@ -131,8 +93,8 @@ void TestHighDpiPixmapsButton::states()
     QSignalSpy clicks(&button, &HighDpiPixmapsButton::buttonClicked);
     QSignalSpy hovers(&button, &HighDpiPixmapsButton::buttonHovered);
 
-    for (int step : qAsConst(steps))
-        perform(&button, step);
+    for (const Step step : qAsConst(steps))
+        step(&button);
 
     QTEST(button.currentImage(), "image");
     QTEST(clicks.count(), "clicks");
@@ -152,8 +114,8 @@ void TestHighDpiPixmapsButton::paintsThePictureOverAllOfIt()
     }
     HighDpiPixmapsButton button(folder.path(), s_names);
     button.resize(33, 21);
-    for (int step : {Leave, Enter}) {
-        perform(&button, step);
+    for (const Step step : {Leave, Enter}) {
+        step(&button);
         const QImage shown = button.grab().toImage();
         for (const QPoint &corner : {QPoint(0, 0), QPoint(32, 20)})
             QCOMPARE(shown.pixelColor(corner), colours[step == Enter]);

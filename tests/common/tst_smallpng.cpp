@@ -1,4 +1,5 @@
 #include "common/smallpng.h"
+#include "support/pngparts.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -6,7 +7,6 @@
 #include <QLoggingCategory>
 #include <QRandomGenerator>
 #include <QTest>
-#include <QtEndian>
 
 namespace {
 
@@ -35,29 +35,6 @@ QByteArray pngOf(const QImage &image)
     return buffer.data();
 }
 
-quint32 checksum(const QByteArray &bytes)
-{
-    quint32 sum = 0xFFFFFFFF;
-    for (const char byte : bytes) {
-        sum ^= uchar(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            sum = (sum >> 1) ^ (sum & 1 ? 0xEDB88320 : 0);
-    }
-    return ~sum;
-}
-
-QByteArray number(quint32 value)
-{
-    QByteArray bytes(4, '\0');
-    qToBigEndian(value, bytes.data());
-    return bytes;
-}
-
-QByteArray chunk(const QByteArray &name, const QByteArray &data)
-{
-    return number(quint32(data.size())) + name + data + number(checksum(name + data));
-}
-
 /// A file whose rows are filtered as \a filters say in turn, filled with noise that means
 /// something else under each filter.
 QByteArray filtered(const QSize &size, int colourType, int channels, const QByteArray &filters)
@@ -71,10 +48,9 @@ QByteArray filtered(const QSize &size, int colourType, int channels, const QByte
     }
     const QByteArray packed = qCompress(rows).mid(4);
     const int half = packed.size() / 2;
-    QByteArray header = number(quint32(size.width())) + number(quint32(size.height()));
-    header.append("\x08", 1).append(char(colourType)).append("\0\0\0", 3);
-    return QByteArray("\x89PNG\r\n\x1a\n") + chunk("IHDR", header) + chunk("tEXt", "a\0b")
-        + chunk("IDAT", packed.left(half)) + chunk("IDAT", packed.mid(half)) + chunk("IEND", {});
+    using namespace PngParts;
+    return header(size, colourType) + chunk("tEXt", "a\0b") + chunk("IDAT", packed.left(half))
+        + chunk("IDAT", packed.mid(half)) + chunk("IEND", {});
 }
 
 QImage stock(QByteArray bytes)
@@ -144,7 +120,7 @@ void tst_SmallPng::leavesTheRestAlone_data()
     QTest::newRow("sixteen bits") << pngOf(picture({40, 30}, QImage::Format_RGBA64, Soft));
     QTest::newRow("unknown filter") << filtered({4, 4}, 2, 3, QByteArray(1, '\5'));
     QTest::newRow("one colour is transparent")
-        << good.left(33) + chunk("tRNS", QByteArray(6, '\0')) + good.mid(33);
+        << good.left(33) + PngParts::chunk("tRNS", QByteArray(6, '\0')) + good.mid(33);
     QByteArray wrongSize = good;
     wrongSize[19] = char(wrongSize.at(19) + 1);
     QTest::newRow("header does not fit its checksum") << wrongSize;

@@ -2,11 +2,11 @@
 #include "common/restyling.h"
 #include "common/thememanager.h"
 #include "probe.h"
+#include "support/datarow.h"
 #include "support/usersettings.h"
+#include "support/writefile.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QSettings>
 #include <QSignalSpy>
@@ -88,11 +88,8 @@ private slots:
 
 void TestThemeManager::start_data()
 {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<bool>("systemDark");
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<int>("property");
-    QTest::addColumn<bool>("follow");
+    addColumns<QString, bool, int, int, bool>(
+        {"stored", "systemDark", "theme", "property", "follow"});
 
     QTest::newRow("nothing stored, light") << "" << false << 0 << 0 << true;
     QTest::newRow("nothing stored, dark") << "" << true << 1 << 1 << true;
@@ -205,10 +202,7 @@ void TestThemeManager::themeTravelsInQueuedSignals()
 
 void TestThemeManager::loadsStyleSheets_data()
 {
-    QTest::addColumn<QVariant>("theme");
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("missing");
+    addColumns<QVariant, QStringList, QString, QStringList>({"theme", "files", "text", "missing"});
 
     const QString folder = QCoreApplication::applicationDirPath();
     const QString missing = folder + QStringLiteral("/theme/%1/TestModule/none.qss");
@@ -233,15 +227,9 @@ void TestThemeManager::loadsStyleSheets()
     QFETCH(QStringList, missing);
 
     const QString themes = QCoreApplication::applicationDirPath() + QStringLiteral("/theme/");
-    const auto write = [&](const QString &path, const QByteArray &content) {
-        QDir().mkpath(QFileInfo(themes + path).path());
-        QFile file(themes + path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    };
-    write(QStringLiteral("light/TestModule/a.qss"), "light \xc3\xa9");
-    write(QStringLiteral("dark/TestModule/a.qss"), "dark \xc3\xa9");
-    write(QStringLiteral("dark/TestModule/b.qss"), "second\n");
+    QVERIFY(writeFile(themes + QStringLiteral("light/TestModule/a.qss"), "light \xc3\xa9"));
+    QVERIFY(writeFile(themes + QStringLiteral("dark/TestModule/a.qss"), "dark \xc3\xa9"));
+    QVERIFY(writeFile(themes + QStringLiteral("dark/TestModule/b.qss"), "second\n"));
 
     qApp->setProperty("ThemeType", theme);
     for (const QString &path : missing) {
@@ -255,8 +243,7 @@ void TestThemeManager::loadsStyleSheets()
 
 void TestThemeManager::styleSheetFiles_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
+    addColumns<QString, QByteArray>({"name", "content"});
 
     const QByteArray plain("QLabel\n{\n    color: red;\n}\n");
     const QByteArray fromWindows = QByteArray(plain).replace("\n", "\r\n");
@@ -278,11 +265,7 @@ void TestThemeManager::styleSheetFiles()
 
     const QTemporaryDir folder;
     const QString path = folder.filePath(name);
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
+    QVERIFY(writeFile(path, content));
     const QString text = QStringLiteral("QLabel\n{\n    color: red;\n}\n");
     for (const QString &form : {path, QDir::toNativeSeparators(path)}) {
         QCOMPARE(QSSLoader::loadFiles({form}), text);

@@ -1,4 +1,5 @@
 #include "common/zvlangmanager.h"
+#include "support/datarow.h"
 #include "zvlang.h"
 
 #include <QCoreApplication>
@@ -169,9 +170,7 @@ void TestZVLangManager::sendsRequests()
 
 void TestZVLangManager::languages_data()
 {
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QByteArray>("sent");
+    addColumns<QString, QString, QByteArray>({"code", "stored", "sent"});
 
     QTest::newRow("Arabic of no country") << "ar-ar"
                                           << "ar-ae" << QByteArray("ar_AE");
@@ -199,37 +198,30 @@ void TestZVLangManager::languages()
 
 void TestZVLangManager::failures_data()
 {
-    QTest::addColumn<QString>("operation");
+    addColumns<QString, Call>({"operation", "call"});
 
-    for (const char *operation : {"init", "exit", "getDateStr", "getDateTimeStr", "getNumberStr",
-                                  "getMoneyStr", "getStorageStr"})
-        QTest::newRow(operation) << operation;
+    const auto row = [](const char *name, Call call) { QTest::newRow(name) << name << call; };
+    using Manager = ZVLangManager;
+    row("init", [](Manager *m) { return m->init({}, {}, {}, {}, "en-us") ? "true" : "left over"; });
+    row("exit", [](Manager *m) { return m->exit() ? "true" : "left over"; });
+    row("getDateStr", [](Manager *m) { return m->getDateStr(1); });
+    row("getDateTimeStr", [](Manager *m) { return m->getDateTimeStr(1); });
+    row("getNumberStr", [](Manager *m) { return m->getNumberStr(1); });
+    row("getMoneyStr", [](Manager *m) { return m->getMoneyStr(1); });
+    row("getStorageStr", [](Manager *m) { return m->getStorageStr(1, 2); });
 }
 
 void TestZVLangManager::failures()
 {
     QFETCH(QString, operation);
+    QFETCH(Call, call);
 
-    ZVLangManager *manager = ZVLangManager::instance();
     s_library.error = "no such langu\xc3\xa2ge";
     s_library.answer = "left over";
     const QString line =
         QStringLiteral("ZVLangManager::%1() errMsg = no such languâge").arg(operation);
     QTest::ignoreMessage(QtDebugMsg, line.toUtf8().constData());
-    if (operation == QLatin1String("init"))
-        QVERIFY(!manager->init({}, {}, {}, {}, QStringLiteral("en-us")));
-    else if (operation == QLatin1String("exit"))
-        QVERIFY(!manager->exit());
-    else if (operation == QLatin1String("getDateStr"))
-        QCOMPARE(manager->getDateStr(1), QStringLiteral("left over"));
-    else if (operation == QLatin1String("getDateTimeStr"))
-        QCOMPARE(manager->getDateTimeStr(1), QStringLiteral("left over"));
-    else if (operation == QLatin1String("getNumberStr"))
-        QCOMPARE(manager->getNumberStr(1), QStringLiteral("left over"));
-    else if (operation == QLatin1String("getMoneyStr"))
-        QCOMPARE(manager->getMoneyStr(1), QStringLiteral("left over"));
-    else
-        QCOMPARE(manager->getStorageStr(1, 2), QStringLiteral("left over"));
+    QCOMPARE(call(ZVLangManager::instance()), QStringLiteral("left over"));
 }
 
 QTEST_GUILESS_MAIN(TestZVLangManager)

@@ -3,6 +3,7 @@
 #include "detail/elidedlabel.h"
 #include "detail/itemdetailview.h"
 #include "popups/previewframe.h"
+#include "support/datarow.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -60,8 +61,7 @@ private:
 
 void TestItemDetailView::metadataRows_data()
 {
-    QTest::addColumn<Pairs>("metaData");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<Pairs, QStringList>({"metaData", "expected"});
     QTest::newRow("none") << Pairs{} << QStringList{};
     QTest::newRow("settled order") << Pairs{{"fNumber", "2.8"}, {"model", "X1"}, {"make", "Canon"}}
                                    << QStringList{"camera_brand=Canon", "model=X1", "f_number=2.8"};
@@ -91,10 +91,7 @@ void TestItemDetailView::metadataRows()
 
 void TestItemDetailView::statusAndPath_data()
 {
-    QTest::addColumn<bool>("exists");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("volumeRoot");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<bool, QString, QString, QStringList>({"exists", "path", "volumeRoot", "expected"});
     QTest::newRow("on the medium")
         << true << "/DCIM/100"
         << "E:"

@@ -11,17 +11,16 @@
 /// in units; the picture knows how many pixels a unit has.
 namespace Contrast {
 
-inline double luminance(QRgb colour)
+inline double luminance(const QColor &colour)
 {
-    const auto part = [](int channel) {
-        const double value = channel / 255.0;
+    const auto part = [](double value) {
         return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour))
-        + 0.0722 * part(qBlue(colour));
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF())
+        + 0.0722 * part(colour.blueF());
 }
 
-inline double between(QRgb left, QRgb right)
+inline double between(const QColor &left, const QColor &right)
 {
     const double a = luminance(left) + 0.05;
     const double b = luminance(right) + 0.05;

@@ -1,5 +1,6 @@
 #include "look/contrast.h"
 #include "look/seenwidgets.h"
+#include "support/datarow.h"
 #include "tools/screenshots/pages.h"
 #include "tools/screenshots/stage.h"
 
@@ -24,18 +25,13 @@ constexpr double VisibleBand = 1.8;
 // Of cards and rows, as their painters place them.
 constexpr int BoxInset = 8;
 constexpr int BoxSide = 16;
-constexpr int RowPictureEnd = 66;
 constexpr int NameStrip = 42;
-constexpr int NameHeight = 22;
-constexpr int LabelTop = 18;
-constexpr int LabelHeight = 14;
 constexpr int SortMarkRoom = 22;
 constexpr int HeaderFontPixels = 12;
 
 } // namespace
 
 /// Reads the contrast of texts and marks off the rendered pages, whatever chose their colours.
-/// Colours that are given and not ours to choose are told, not failed.
 class TestContrast : public QObject
 {
     Q_OBJECT
@@ -47,8 +43,6 @@ private slots:
     void texts();
     void headerTexts_data() { themes(); }
     void headerTexts();
-    void givenColours_data() { themes(); }
-    void givenColours();
     void checkBoxes_data();
     void checkBoxes();
     void marks_data() { themes(); }
@@ -129,8 +123,7 @@ QRect TestContrast::headerSection(int section) const
 
 void TestContrast::texts_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("theme");
+    addColumns<QString, QString>({"page", "theme"});
     const QStringList pages = Pages::names();
     for (const QString &page : pages) {
         for (const char *theme : {"light", "dark"})
@@ -180,49 +173,11 @@ void TestContrast::headerTexts()
     }
 }
 
-void TestContrast::givenColours()
-{
-    QFETCH(QString, theme);
-
-    prepare(QStringLiteral("grid"));
-    QImage picture = m_stage->picture(Scale);
-    const auto tell = [&](const char *what, const QRect &area) {
-        const double contrast = Contrast::reached(picture, area, Contrast::ground(picture, area));
-        if (contrast < TextContrast)
-            qInfo("given: %s, %s: %.2f", what, qPrintable(theme), contrast);
-        QVERIFY2(contrast > 1.5, what); // it is there at all
-    };
-    const auto tellCard = [&](const char *name, const char *label, int row) {
-        const QRect card = cell(row);
-        tell(name,
-             QRect(card.left() + BoxInset, card.bottom() - NameStrip + 2,
-                   card.width() - 2 * BoxInset, NameHeight - 4));
-        tell(label,
-             QRect(card.center().x() - 20, card.bottom() - LabelTop + 1, 40, LabelHeight - 2));
-    };
-    tellCard("name on a card", "high recoverability", 0);
-    tellCard("name on the selected card", "high recoverability, selected", 2);
-    tellCard("name on the card under the mouse", "high recoverability, under the mouse", 3);
-    m_stage->items()->scrollToBottom();
-    picture = m_stage->picture(Scale);
-    tellCard("name of a raw photo", "medium recoverability", 29);
-
-    prepare(QStringLiteral("list-search"));
-    picture = m_stage->picture(Scale);
-    for (const int row : {0, 1, 3}) {
-        tell("name in a row", cell(row).adjusted(RowPictureEnd, 6, -4, -6));
-        for (int column = 1; column < 5; ++column)
-            tell("text in a row", cell(row, column).adjusted(4, 6, -2, -6));
-    }
-}
-
 // Marks ----------------------------------------------------------------------------------------
 
 void TestContrast::checkBoxes_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("theme");
-    QTest::addColumn<QVector<int>>("rows");
+    addColumns<QString, QString, QVector<int>>({"page", "theme", "rows"});
     for (const char *theme : {"light", "dark"}) {
         const QString name = QString::fromLatin1(theme);
         QTest::addRow("cards, %s", theme)
@@ -318,9 +273,7 @@ void TestContrast::scrollBars()
 
 void TestContrast::focus_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("theme");
+    addColumns<QString, QString, QString>({"page", "name", "theme"});
     for (const char *theme : {"light", "dark"}) {
         for (const char *name : {"allCheckButton", "nameButton"})
             QTest::addRow("%s, %s", name, theme)
@@ -357,8 +310,7 @@ void TestContrast::focus()
 
 void TestContrast::selection_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("theme");
+    addColumns<QString, QString>({"page", "theme"});
     for (const char *theme : {"light", "dark"}) {
         for (const char *page : {"grid", "list-kinds"})
             QTest::addRow("%s, %s", page, theme)

@@ -1,3 +1,5 @@
+#include "support/datarow.h"
+#include "support/pixels.h"
 #include "tools/screenshots/pages.h"
 #include "tools/screenshots/stage.h"
 
@@ -39,19 +41,6 @@ void leave(QAbstractItemView *items)
         QApplication::sendEvent(items->viewport(), &event);
 }
 
-/// What is around all pixels that differ.
-QRect difference(const QImage &one, const QImage &other)
-{
-    QRect around;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            if (one.pixel(x, y) != other.pixel(x, y))
-                around |= QRect(x, y, 1, 1);
-        }
-    }
-    return around;
-}
-
 } // namespace
 
 void TestLanguageSwitch::initTestCase()
@@ -70,9 +59,7 @@ QImage TestLanguageSwitch::picture()
 
 void TestLanguageSwitch::pages_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<QString>("to");
+    addColumns<QString, QString, QString>({"page", "from", "to"});
 
     const QStringList names = Pages::names();
     for (const QString &page : names) {
@@ -114,8 +101,7 @@ void TestLanguageSwitch::pages()
 
 void TestLanguageSwitch::themes_data()
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<bool>("seen");
+    addColumns<QString, bool>({"page", "seen"});
     for (const char *page : {"grid", "grid-search", "list-pane", "list-kinds", "search-hint"}) {
         QTest::addRow("%s, in sight", page) << QString::fromLatin1(page) << true;
         QTest::addRow("%s, out of sight", page) << QString::fromLatin1(page) << false;

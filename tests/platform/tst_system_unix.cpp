@@ -1,7 +1,7 @@
 #include "platform/system/system.h"
+#include "support/datarow.h"
+#include "support/writefile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QIcon>
@@ -32,10 +32,7 @@ void TestSystemUnix::initTestCase()
 
 void TestSystemUnix::colourScheme_data()
 {
-    QTest::addColumn<QByteArray>("gtkTheme");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("dark");
+    addColumns<QByteArray, QString, QByteArray, bool>({"gtkTheme", "file", "content", "dark"});
 
     const QString kde = QStringLiteral("kdeglobals");
     const QString gtk3 = QStringLiteral("gtk-3.0/settings.ini");
@@ -72,13 +69,8 @@ void TestSystemUnix::colourScheme()
     QFETCH(bool, dark);
 
     const QTemporaryDir config;
-    if (!file.isEmpty()) {
-        const QString path = config.filePath(file);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile out(path);
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write(content);
-    }
+    if (!file.isEmpty())
+        QVERIFY(writeFile(config.filePath(file), content));
     const QByteArray before = qgetenv("XDG_CONFIG_HOME");
     qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
     if (!gtkTheme.isEmpty())
@@ -100,10 +92,8 @@ void TestSystemUnix::iconsOfTheDesktop()
     const QTemporaryDir themes;
     const QString theme = themes.filePath(QStringLiteral("probe"));
     QVERIFY(QDir().mkpath(theme + QStringLiteral("/32")));
-    QFile index(theme + QStringLiteral("/index.theme"));
-    QVERIFY(index.open(QIODevice::WriteOnly));
-    index.write("[Icon Theme]\nName=probe\nDirectories=32\n[32]\nSize=32\nType=Fixed\n");
-    index.close();
+    QVERIFY(writeFile(theme + QStringLiteral("/index.theme"),
+                      "[Icon Theme]\nName=probe\nDirectories=32\n[32]\nSize=32\nType=Fixed\n"));
     QImage picture(32, 32, QImage::Format_RGB32);
     picture.fill(Qt::red);
     QVERIFY(picture.save(theme + QStringLiteral("/32/application-pdf.png")));
@@ -120,25 +110,13 @@ void TestSystemUnix::iconsOfTheDesktop()
 
 void TestSystemUnix::fontsHaveTheirScripts_data()
 {
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<QString>("standIn");
-    QTest::addColumn<QString>("sample");
+    addColumns<QString, QString, QString>({"family", "standIn", "sample"});
 
-    QTest::newRow("Latin") << "Segoe UI"
-                           << "Open Sans"
-                           << "aé";
-    QTest::newRow("Latin, semibold") << "Segoe UI Semibold"
-                                     << "Open Sans"
-                                     << "aé";
-    QTest::newRow("Japanese") << "Yu Gothic UI"
-                              << "Noto Sans CJK JP"
-                              << "直あア";
-    QTest::newRow("Korean") << "Malgun Gothic"
-                            << "Noto Sans CJK KR"
-                            << "설정";
-    QTest::newRow("Traditional Chinese") << "Microsoft JhengHei UI"
-                                         << "Noto Sans CJK TC"
-                                         << "繁體简体";
+    addRow("Latin", "Segoe UI", "Open Sans", "aé");
+    addRow("Latin, semibold", "Segoe UI Semibold", "Open Sans", "aé");
+    addRow("Japanese", "Yu Gothic UI", "Noto Sans CJK JP", "直あア");
+    addRow("Korean", "Malgun Gothic", "Noto Sans CJK KR", "설정");
+    addRow("Traditional Chinese", "Microsoft JhengHei UI", "Noto Sans CJK TC", "繁體简体");
 }
 
 void TestSystemUnix::fontsHaveTheirScripts()

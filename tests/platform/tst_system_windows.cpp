@@ -1,5 +1,6 @@
 #include "platform/system/storage.h"
 #include "platform/system/system.h"
+#include "support/datarow.h"
 #include "support/usersettings.h"
 
 #include <QDir>
@@ -48,9 +49,7 @@ void TestSystemWindows::colourScheme()
 
 void TestSystemWindows::iconsOfTheShell_data()
 {
-    QTest::addColumn<QString>("extension");
-    QTest::addColumn<int>("side");
-    QTest::addColumn<bool>("some");
+    addColumns<QString, int, bool>({"extension", "side", "some"});
 
     QTest::newRow("known, small") << "txt" << 16 << true;
     QTest::newRow("known, large") << "txt" << 140 << true;

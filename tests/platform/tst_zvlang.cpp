@@ -83,9 +83,7 @@ void TestZVLang::initTestCase()
 
 void TestZVLang::texts_data()
 {
-    QTest::addColumn<LangFunction>("function");
-    QTest::addColumn<QByteArray>("request");
-    QTest::addColumn<QString>("text");
+    addColumns<LangFunction, QByteArray, QString>({"function", "request", "text"});
 
     const auto storage = [](const char *name, const char *lang, const char *bytes,
                             const char *precision, const char *text) {
@@ -164,9 +162,7 @@ void TestZVLang::texts()
 
 void TestZVLang::refusals_data()
 {
-    QTest::addColumn<LangFunction>("function");
-    QTest::addColumn<QByteArray>("request");
-    QTest::addColumn<QString>("says");
+    addColumns<LangFunction, QByteArray, QString>({"function", "request", "says"});
 
     const auto row = [](const char *name, LangFunction function, const QByteArray &request,
                         const char *says) { QTest::newRow(name) << function << request << says; };

@@ -1,3 +1,6 @@
+#include "support/datarow.h"
+#include "support/eventcounter.h"
+#include "support/writefile.h"
 #include "zvlottie.h"
 
 #include <QElapsedTimer>
@@ -17,33 +20,13 @@ constexpr int Side = 142;
 const QColor Needle(255, 0, 0);
 const QColor Disc(0, 0, 255);
 
-QImage pictureOf(QWidget &widget)
+QImage pictureOf(QWidget &widget, const QColor &page = Qt::white)
 {
     QImage image(widget.size(), QImage::Format_RGB32);
-    image.fill(Qt::white);
+    image.fill(page);
     widget.render(&image, {}, {}, QWidget::DrawChildren);
     return image;
 }
-
-/// Counts what comes to a widget.
-class EventCounter : public QObject
-{
-public:
-    EventCounter(QWidget *widget, QEvent::Type type)
-        : m_type(type)
-    {
-        widget->installEventFilter(this);
-    }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == m_type;
-        return false;
-    }
-    int count = 0;
-
-private:
-    QEvent::Type m_type;
-};
 
 } // namespace
 
@@ -64,6 +47,7 @@ private slots:
     void failedSourceEmptiesThePicture();
     void isDestroyedWhileRendering();
     void hugeSizesAreBounded();
+    void scanningLeavesThePageThrough();
 
 private:
     std::unique_ptr<ZVLottie> made();
@@ -81,8 +65,7 @@ std::unique_ptr<ZVLottie> TestZVLottie::made()
 
 void TestZVLottie::sources_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("loads");
+    addColumns<QByteArray, bool>({"content", "loads"});
 
     QFile file(m_animation);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -106,12 +89,8 @@ void TestZVLottie::sources()
 
     QTemporaryDir dir;
     const QString deep = dir.filePath(QString(150, 'd') + QLatin1Char('/') + QString(150, 'e'));
-    QVERIFY(QDir().mkpath(deep));
     const QString path = deep + QStringLiteral("/Über 動画.json");
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
+    QVERIFY(writeFile(path, content));
 
     ZVLottie lottie{QString()};
     QCOMPARE(lottie.setSource(path), loads);
@@ -276,6 +255,19 @@ void TestZVLottie::hugeSizesAreBounded()
     EventCounter paints(lottie.get(), QEvent::Paint);
     QTRY_VERIFY(paints.count > 0);
     QCOMPARE(lottie->size(), QSize(Side, Side));
+}
+
+void TestZVLottie::scanningLeavesThePageThrough()
+{
+    ZVLottie lottie(QCoreApplication::applicationDirPath()
+                    + QLatin1String("/LottieFiles/Scanning/data.json"));
+    lottie.resize(Side, Side);
+    lottie.show();
+    const QColor page(30, 33, 45);
+    QTRY_VERIFY(pictureOf(lottie, page).pixelColor(Side / 2, Side / 2) != page);
+    const QImage picture = pictureOf(lottie, page);
+    QCOMPARE(picture.pixelColor(1, 1), page);
+    QCOMPARE(picture.pixelColor(Side - 2, Side - 2), page);
 }
 
 QTEST_MAIN(TestZVLottie)

@@ -1,4 +1,5 @@
 #include "common/dropshadowmanager.h"
+#include "support/datarow.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -27,9 +28,7 @@ private:
 
 void TestDropShadow::endsSoftly_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<qreal>("ratio");
-    QTest::addColumn<int>("radius");
+    addColumns<QSize, qreal, int>({"size", "ratio", "radius"});
     for (qreal ratio : {1.0, 1.5, 2.0, 3.0})
         QTest::addRow("menu at %g", ratio) << QSize(170, 148) << ratio << 8;
     QTest::newRow("odd sides") << QSize(217, 149) << 1.0 << 8;
@@ -92,9 +91,7 @@ void TestDropShadow::keepsTheFillInside()
 
 void TestDropShadow::odd_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<qreal>("ratio");
-    QTest::addColumn<bool>("painted");
+    addColumns<QSize, qreal, bool>({"size", "ratio", "painted"});
     QTest::newRow("empty") << QSize(0, 148) << 1.0 << false;
     QTest::newRow("negative") << QSize(-5, -5) << 1.0 << false;
     QTest::newRow("smaller than its margins") << QSize(20, 20) << 2.0 << true;

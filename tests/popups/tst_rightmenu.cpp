@@ -5,6 +5,7 @@
 #include "popups/previewframe.h"
 #include "popups/rightmenudialog.h"
 #include "popups/rightmenuframe.h"
+#include "support/datarow.h"
 
 #include <QAccessible>
 #include <QFontMetrics>
@@ -122,10 +123,7 @@ void TestRightMenu::init()
 
 void TestRightMenu::iconsByStateAndTheme_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<int>("state");
-    QTest::addColumn<QString>("picture");
+    addColumns<QString, int, int, QString>({"name", "theme", "state", "picture"});
     const auto rows = [](const char *name, int theme, const char *base) {
         for (int state : {0, 1, 2, 7}) {
             const bool lit = state == 1 || state == 2;
@@ -179,8 +177,7 @@ void TestRightMenu::stateIsWrittenForTheStylesheet()
 
 void TestRightMenu::widthsFollowTheTexts_data()
 {
-    QTest::addColumn<QString>("preview");
-    QTest::addColumn<QString>("recover");
+    addColumns<QString, QString>({"preview", "recover"});
     QTest::newRow("one letter each") << "P"
                                      << "R";
     QTest::newRow("long preview") << "Vorschau der ausgewählten Datei"
@@ -243,9 +240,7 @@ void TestRightMenu::opensExactlyAtThePoint()
 
 void TestRightMenu::placementForKeyboard_data()
 {
-    QTest::addColumn<QPoint>("anchor");
-    QTest::addColumn<bool>("mirrored");
-    QTest::addColumn<QPoint>("corner");
+    addColumns<QPoint, bool, QPoint>({"anchor", "mirrored", "corner"});
     // a body of 140 x 88 on a screen from (100, 50) to (900, 650)
     QTest::newRow("free") << QPoint(300, 200) << false << QPoint(300, 200);
     QTest::newRow("just fits") << QPoint(760, 562) << false << QPoint(760, 562);
@@ -292,8 +287,7 @@ void TestRightMenu::mirrorsRightToLeft()
 
 void TestRightMenu::chooses_data()
 {
-    QTest::addColumn<Choice>("choice");
-    QTest::addColumn<int>("action");
+    addColumns<Choice, int>({"choice", "action"});
     const auto row = [](const char *name, int action, const Choice &choice) {
         QTest::newRow(name) << choice << action;
     };
@@ -329,8 +323,7 @@ void TestRightMenu::chooses()
 
 void TestRightMenu::keysMoveTheHighlight_data()
 {
-    QTest::addColumn<QList<Qt::Key>>("keys");
-    QTest::addColumn<QString>("entry");
+    addColumns<QList<Qt::Key>, QString>({"keys", "entry"});
     QTest::newRow("down") << QList<Qt::Key>{Qt::Key_Down} << "Preview";
     QTest::newRow("up") << QList<Qt::Key>{Qt::Key_Up} << "Recover";
     QTest::newRow("wraps down") << QList<Qt::Key>{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}

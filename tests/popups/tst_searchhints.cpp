@@ -5,6 +5,8 @@
 #include "popups/aisearchhintframe.h"
 #include "popups/searchdialog.h"
 #include "popups/searchhintframe.h"
+#include "support/datarow.h"
+#include "support/eventcounter.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -46,19 +48,6 @@ private:
     {
         return QStringLiteral("Wiederherstellung ").repeated(words).trimmed();
     }
-};
-
-/// Counts the layout requests that an object gets.
-class LayoutRequests : public QObject
-{
-public:
-    explicit LayoutRequests(QObject *watched) { watched->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::LayoutRequest;
-        return false;
-    }
-    int count = 0;
 };
 
 void setLanguage(const char *name)
@@ -139,14 +128,12 @@ private slots:
     void pagesFit();
     void columnStandsInTheMiddle();
     void tipsAreNumberedOnce();
-    void linkTakesTheThemesColour();
     void imageName_data();
     void imageName();
     void imageFollowsTheme();
     void missingPicturesLeaveTheTexts();
     void dialogFitsTheScreen_data();
     void dialogFitsTheScreen();
-    void closeButtonMirrors();
     void linkOpensTheDialogOverAMask();
     void linkWorksByKeyboard();
     void keysClose_data();
@@ -169,9 +156,7 @@ void TestSearchHints::init()
 
 void TestSearchHints::pagesFit_data()
 {
-    QTest::addColumn<bool>("described");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("picture");
+    addColumns<bool, QSize, bool>({"described", "size", "picture"});
     for (bool described : {false, true}) {
         const char *name = described ? "described" : "by name";
         QTest::addRow("%s, as designed", name) << described << QSize(1077, 584) << true;
@@ -190,7 +175,7 @@ void TestSearchHints::pagesFit()
     page->resize(size);
     showSettled(page.get());
     QTEST(page->findChild<QLabel *>(QStringLiteral("labelImage"))->isVisible(), "picture");
-    LayoutRequests requests(page.get());
+    EventCounter requests(page.get(), QEvent::LayoutRequest);
     QCoreApplication::processEvents();
     QCOMPARE(requests.count, 0); // it has come to rest
     checkLabels(page.get());
@@ -225,23 +210,9 @@ void TestSearchHints::tipsAreNumberedOnce()
     QCOMPARE(textOf(named, "labelTip2"), QStringLiteral("scandataview_search_hint_wait_scan"));
 }
 
-void TestSearchHints::linkTakesTheThemesColour()
-{
-    SearchHintFrame page;
-    page.show();
-    const QColor light = page.linkColor();
-    ThemeManager::instance()->setThemeType(DarkTheme);
-    page.updateTheme();
-    const QColor dark = page.linkColor();
-    QVERIFY(light.isValid() && dark.isValid());
-    QVERIFY(dark.lightness() > light.lightness());
-    QVERIFY(page.findChild<QLabel *>(QStringLiteral("labelTip1"))->text().contains(dark.name()));
-}
-
 void TestSearchHints::imageName_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("suffix");
+    addColumns<QString, QString>({"language", "suffix"});
     const auto row = [](const char *language, const char *suffix) {
         QTest::newRow(language) << QString::fromLatin1(language) << QString::fromLatin1(suffix);
     };
@@ -304,9 +275,7 @@ void TestSearchHints::missingPicturesLeaveTheTexts()
 
 void TestSearchHints::dialogFitsTheScreen_data()
 {
-    QTest::addColumn<QSize>("available");
-    QTest::addColumn<bool>("longTexts");
-    QTest::addColumn<int>("width");
+    addColumns<QSize, bool, int>({"available", "longTexts", "width"});
     QTest::newRow("large screen") << QSize(3840, 2160) << false << 800;
     QTest::newRow("large screen, long texts") << QSize(3840, 2160) << true << 800;
     QTest::newRow("small screen") << QSize(640, 480) << false << 640;
@@ -330,16 +299,6 @@ void TestSearchHints::dialogFitsTheScreen()
     const auto *title = dialog.findChild<QLabel *>(QStringLiteral("labelTitle"));
     const auto *close = dialog.findChild<QPushButton *>(QStringLiteral("btnClose"));
     QVERIFY(!close->geometry().intersects(title->geometry()));
-}
-
-void TestSearchHints::closeButtonMirrors()
-{
-    SearchDialog dialog;
-    dialog.fitInto({1920, 1080});
-    const auto *close = dialog.findChild<QPushButton *>(QStringLiteral("btnClose"));
-    QCOMPARE(close->geometry(), QRect(768, 4, 24, 24));
-    dialog.setLayoutDirection(Qt::RightToLeft);
-    QCOMPARE(close->geometry(), QRect(8, 4, 24, 24));
 }
 
 void TestSearchHints::linkOpensTheDialogOverAMask()

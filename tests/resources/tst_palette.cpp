@@ -1,10 +1,11 @@
+#include "look/contrast.h"
+#include "support/datarow.h"
+
 #include <QColor>
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <cmath>
 
 namespace {
 
@@ -63,22 +64,6 @@ QColor over(const QColor &top, const QColor &ground)
                             mix(top.blueF(), ground.blueF()));
 }
 
-double luminance(const QColor &color)
-{
-    const auto linear = [](double value) {
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-        + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &color, const QColor &ground)
-{
-    const double a = luminance(over(color, ground)) + 0.05;
-    const double b = luminance(ground) + 0.05;
-    return std::max(a, b) / std::min(a, b);
-}
-
 } // namespace
 
 /// What the look book says about colours, held against the palette.
@@ -117,11 +102,8 @@ void TestPalette::initTestCase()
 
 void TestPalette::contrastIsAsWritten_data()
 {
-    QTest::addColumn<QString>("color");
-    QTest::addColumn<QString>("ground");
-    QTest::addColumn<QString>("light");
-    QTest::addColumn<QString>("dark");
-    QTest::addColumn<double>("least");
+    addColumns<QString, QString, QString, QString, double>(
+        {"color", "ground", "light", "dark", "least"});
 
     static const QRegularExpression heading(QStringLiteral("^### .*?(?:at least ([\\d.]+))?$"));
     static const QRegularExpression row(
@@ -159,7 +141,7 @@ void TestPalette::contrastIsAsWritten()
         }
         const QColor above = colorNamed(color, theme);
         QVERIFY2(above.isValid(), qPrintable(color));
-        const double figure = contrast(above, below);
+        const double figure = Contrast::between(over(above, below), below);
         QCOMPARE(QString::number(figure, 'f', 1), written.at(theme));
         QVERIFY2(figure >= least, qPrintable(QString::number(figure)));
     }

@@ -1,6 +1,7 @@
 #include "picturefiles.h"
 
 #include "platform/item/treeitemdata.h"
+#include "support/datarow.h"
 #include "thumbnails/filetypeicons.h"
 
 #include <QFile>
@@ -71,10 +72,6 @@ private slots:
     void initTestCase();
     void isThere_data();
     void isThere();
-    void everyKindOfFileIsThere_data();
-    void everyKindOfFileIsThere();
-    void everyLanguageIsThere_data();
-    void everyLanguageIsThere();
 
 private:
     void verifyWhole(const QString &base);
@@ -97,8 +94,7 @@ void TestPictureNames::verifyWhole(const QString &base)
 
 void TestPictureNames::isThere_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("file");
+    addColumns<QString, QString>({"name", "file"});
     const QMap<QString, QString> names = namesOfTheCode();
     QVERIFY(names.size() > 30);
     for (auto it = names.cbegin(); it != names.cend(); ++it)
@@ -122,48 +118,6 @@ void TestPictureNames::isThere()
             light = light || !folderOf(base).contains(QLatin1String("/Dark"));
         QVERIFY2(light, qPrintable(QLatin1String("only dark, named in ") + file));
     }
-}
-
-void TestPictureNames::everyKindOfFileIsThere_data()
-{
-    QTest::addColumn<int>("category");
-    QTest::addColumn<QString>("extension");
-    for (int category = 0; category <= 11; ++category)
-        QTest::addRow("category %d", category) << category << QString();
-    for (const char *extension : {"docx", "xlsx", "pptx", "pdf", "txt", "cr2", "unheard-of"})
-        QTest::newRow(extension) << 0 << QString::fromLatin1(extension);
-    QTest::newRow("folder") << -1 << QString();
-}
-
-void TestPictureNames::everyKindOfFileIsThere()
-{
-    QFETCH(int, category);
-    QFETCH(QString, extension);
-
-    TreeItemData item;
-    item.kind = category < 0 ? 1 : 2;
-    item.fileCategory = category;
-    item.extension = extension;
-    using FileTypeIcons::Size;
-    verifyWhole(QLatin1String(":/Images/icon32/") + FileTypeIcons::imageName(item, Size::List));
-    verifyWhole(QLatin1String(":/Images/") + FileTypeIcons::imageName(item, Size::Card));
-    verifyWhole(QLatin1String(":/Images/") + FileTypeIcons::imageName(item, Size::Pane));
-}
-
-void TestPictureNames::everyLanguageIsThere_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *language : {"AR", "DE", "EN", "ES", "FR", "ID", "IND", "IT", "JP", "KO", "NL",
-                                 "PT", "RUS", "SE", "TCH", "THA"})
-        QTest::newRow(language) << QLatin1String("unsourcefiles/image_SDCardUnsourcedFiles_Win-")
-                + QLatin1String(language);
-}
-
-void TestPictureNames::everyLanguageIsThere()
-{
-    QFETCH(QString, name);
-    verifyWhole(QLatin1String(":/Images/") + name);
-    verifyWhole(QLatin1String(":/Images/Dark/") + name);
 }
 
 QTEST_MAIN(TestPictureNames)

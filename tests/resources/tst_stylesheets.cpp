@@ -1,13 +1,11 @@
 #include "common/qssloader.h"
+#include "support/datarow.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QLabel>
 #include <QListView>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <cmath>
 
 namespace {
 
@@ -46,29 +44,6 @@ void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &
         warnings().append(text);
 }
 
-double luminance(const QColor &colour)
-{
-    const auto part = [](double value) {
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF())
-        + 0.0722 * part(colour.blueF());
-}
-
-double contrast(const QColor &text, const QColor &page)
-{
-    const double alpha = text.alphaF();
-    const auto over = [alpha](double top, double bottom) {
-        return top * alpha + bottom * (1 - alpha);
-    };
-    const QColor seen = QColor::fromRgbF(over(text.redF(), page.redF()),
-                                         over(text.greenF(), page.greenF()),
-                                         over(text.blueF(), page.blueF()));
-    const double a = luminance(seen) + 0.05;
-    const double b = luminance(page) + 0.05;
-    return qMax(a, b) / qMin(a, b);
-}
-
 } // namespace
 
 class TestStylesheets : public QObject
@@ -82,14 +57,11 @@ private slots:
     void themesHaveTheSameRules();
     void gridGivesItsPageToThePainters_data();
     void gridGivesItsPageToThePainters();
-    void pageTextsAreReadable_data();
-    void pageTextsAreReadable();
 };
 
 void TestStylesheets::isUnderstood_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<QByteArray>("name");
+    addColumns<int, QByteArray>({"theme", "name"});
     for (const char *name : s_files) {
         QTest::addRow("%s, light", name) << 0 << QByteArray(name);
         QTest::addRow("%s, dark", name) << 1 << QByteArray(name);
@@ -146,8 +118,7 @@ void TestStylesheets::themesHaveTheSameRules()
 
 void TestStylesheets::gridGivesItsPageToThePainters_data()
 {
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<bool>("bright");
+    addColumns<int, bool>({"theme", "bright"});
     QTest::newRow("light") << 0 << true;
     QTest::newRow("dark") << 1 << false;
 }
@@ -167,38 +138,6 @@ void TestStylesheets::gridGivesItsPageToThePainters()
     const QColor base = grid.palette().color(QPalette::Base);
     QCOMPARE(base.alpha(), 255);
     QCOMPARE(base.lightness() > 127, bright);
-}
-
-void TestStylesheets::pageTextsAreReadable_data()
-{
-    QTest::addColumn<int>("theme");
-    QTest::addColumn<QByteArray>("name");
-    for (const char *name : {"scantitlelabel", "scansubtitlelabel", "selectAlllabel",
-                             "labNoDataTitle", "labNoDataText", "labLoadingTitle", "labLoadingText",
-                             "labNoFilterTitle", "labNoFilterText"}) {
-        QTest::addRow("%s, light", name) << 0 << QByteArray(name);
-        QTest::addRow("%s, dark", name) << 1 << QByteArray(name);
-    }
-}
-
-void TestStylesheets::pageTextsAreReadable()
-{
-    QFETCH(int, theme);
-    QFETCH(QByteArray, name);
-
-    setTheme(theme);
-    QWidget page;
-    QWidget ground(&page);
-    ground.setObjectName(QStringLiteral("nodatapage"));
-    QLabel label(&ground);
-    label.setObjectName(QLatin1String(name));
-    page.setStyleSheet(sheet("sdcardcontentdatawidget"));
-    ground.ensurePolished();
-    label.ensurePolished();
-
-    const QColor text = label.palette().color(QPalette::WindowText);
-    const double reached = contrast(text, ground.palette().color(QPalette::Window));
-    QVERIFY2(reached >= 4.5, qPrintable(QString::number(reached)));
 }
 
 QTEST_MAIN(TestStylesheets)

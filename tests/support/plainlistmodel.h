@@ -42,13 +42,6 @@ public:
         endInsertRows();
     }
 
-    void remove(int row, int count)
-    {
-        beginRemoveRows({}, row, row + count - 1);
-        m_rows -= count;
-        endRemoveRows();
-    }
-
 private:
     int m_rows;
 };
