@@ -5,6 +5,7 @@
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
 #include "support/assistivetechnology.h"
+#include "support/datarow.h"
 #include "support/plainlistmodel.h"
 #include "support/recordtree.h"
 
@@ -157,9 +158,7 @@ void TestAccessibility::init()
 
 void TestAccessibility::everythingHasAName_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("headers");
-    QTest::addColumn<int>("rows");
+    addColumns<int, int, int>({"mode", "headers", "rows"});
     QTest::newRow("grid") << 0 << 0 << 0;
     QTest::newRow("list with pane") << 1 << 4 << 41;
     QTest::newRow("list") << 2 << 5 << 41;
@@ -380,6 +379,10 @@ void TestAccessibility::millionRowsCostNothing()
             QCOMPARE(list->indexOfChild(list->child(first + row)), first + row);
         QAccessibleInterface *last = list->child(first + Rows - 1);
         QCOMPARE(last->text(QAccessible::Name), QStringLiteral("item 999999"));
+        QVERIFY(last->state().offscreen);
+        const QRect seen = each->visualRect(model.index(1, 0));
+        const QPoint middle = each->viewport()->mapToGlobal(seen.center());
+        QCOMPARE(list->childAt(middle.x(), middle.y()), list->child(first + 1));
         each->selectAll();
         QVERIFY(last->state().selected);
         if (list->tableInterface()) {

@@ -6,6 +6,8 @@
 #include "model/headerview.h"
 #include "model/scandatamodel.h"
 #include "model/scanitemrole.h"
+#include "support/datarow.h"
+#include "support/eventcounter.h"
 #include "support/recordtree.h"
 
 #include <QPushButton>
@@ -86,10 +88,7 @@ void TestBulkChecks::cleanup()
 
 void TestBulkChecks::wholeTreeIsOneAnnouncement_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("searchMode");
-    QTest::addColumn<int>("checkedBefore");
-    QTest::addColumn<int>("state");
+    addColumns<int, bool, int, int>({"mode", "searchMode", "checkedBefore", "state"});
     QTest::newRow("grid") << 0 << false << 0 << int(Qt::Checked);
     QTest::newRow("grid, some checked") << 0 << false << 7 << int(Qt::Checked);
     QTest::newRow("grid, all checked") << 0 << false << Many << int(Qt::Unchecked);
@@ -126,8 +125,7 @@ void TestBulkChecks::wholeTreeIsOneAnnouncement()
 
 void TestBulkChecks::partIsAnnouncedItemByItem_data()
 {
-    QTest::addColumn<bool>("whole");
-    QTest::addColumn<int>("last");
+    addColumns<bool, int>({"whole", "last"});
     QTest::newRow("all but one") << false << Many - 2;
     // select-all would also mean what is still to come
     QTest::newRow("all of what has been delivered") << true << Many - 1;
@@ -207,8 +205,7 @@ void TestBulkChecks::selectionIsReadBackByRows()
 
 void TestBulkChecks::largeSelectionStaysThroughASort_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("first");
+    addColumns<int, int>({"mode", "first"});
     QTest::newRow("grid, some") << 0 << 700;
     QTest::newRow("grid, all") << 0 << 0;
     QTest::newRow("list, some") << 2 << 700;
@@ -334,17 +331,7 @@ void TestBulkChecks::everyLongSortIsSeen()
     widget->setViewMode(mode);
     widget->updateData(&tree->root, QString());
     QCoreApplication::processEvents();
-    class PaintCounter : public QObject
-    {
-    public:
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            count += event->type() == QEvent::Paint;
-            return false;
-        }
-        int count = 0;
-    } paints;
-    view(mode)->viewport()->installEventFilter(&paints);
+    EventCounter paints(view(mode)->viewport(), QEvent::Paint);
     int busy = 0;
     connect(model(), &QAbstractItemModel::layoutAboutToBeChanged, &paints, [&] {
         const QCursor *const pointer = QGuiApplication::overrideCursor();

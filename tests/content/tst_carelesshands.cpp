@@ -3,6 +3,7 @@
 #include "content/sdcardcontentdatawidget.h"
 #include "content/thumbnailgrid.h"
 #include "popups/rightmenudialog.h"
+#include "support/datarow.h"
 #include "support/recordtree.h"
 
 #include <QScrollBar>
@@ -25,10 +26,6 @@ private slots:
     void quickClicksOpenOnce_data();
     void quickClicksOpenOnce();
     void menuMayOutliveItsWidget();
-    void anchorOutlivesManyResults_data();
-    void anchorOutlivesManyResults();
-    void spaceWhereTheSelectedHaveDied_data();
-    void spaceWhereTheSelectedHaveDied();
 
 private:
     void show(int mode, int files);
@@ -98,9 +95,7 @@ void TestCarelessHands::doubleClick(const QPoint &pos)
 
 void TestCarelessHands::slotsMayDoAnything_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("moment");
-    QTest::addColumn<QString>("deed");
+    addColumns<int, QString, QString>({"mode", "moment", "deed"});
     for (const char *deed : {"other tree", "reset", "same tree grown", "kill it all"}) {
         for (int mode : {0, 1, 2}) {
             for (const char *moment : {"check", "open", "current", "more", "keys"})
@@ -203,11 +198,7 @@ void TestCarelessHands::doubleClickOutlivesResults()
 
 void TestCarelessHands::quickClicksOpenOnce_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("onIcon");
-    QTest::addColumn<int>("clicks");
-    QTest::addColumn<ulong>("apart");
-    QTest::addColumn<int>("opens");
+    addColumns<int, bool, int, ulong, int>({"mode", "onIcon", "clicks", "apart", "opens"});
     for (int mode : {0, 2}) {
         QTest::addRow("double on the icon, mode %d", mode) << mode << true << 2 << 120UL << 1;
         QTest::addRow("triple on the icon, mode %d", mode) << mode << true << 3 << 120UL << 1;
@@ -254,51 +245,6 @@ void TestCarelessHands::menuMayOutliveItsWidget()
     m_widget.reset(); // with the opening still to come, or the menu open
     QCoreApplication::processEvents();
     QVERIFY(!QApplication::activePopupWidget());
-}
-
-void TestCarelessHands::anchorOutlivesManyResults_data()
-{
-    doubleClickOutlivesResults_data();
-}
-
-void TestCarelessHands::anchorOutlivesManyResults()
-{
-    QFETCH(int, mode);
-    show(mode, 40);
-    QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, spot(2));
-    QTest::keyClick(view(), Qt::Key_Down, Qt::ShiftModifier);
-    QTest::keyClick(view(), Qt::Key_Down, Qt::ShiftModifier);
-    const int reached = view()->currentIndex().row();
-    for (int i = 0; i < 10; ++i) {
-        m_tree->addFiles(7);
-        m_widget->updateData(&m_tree->root, QString());
-    }
-    QTest::keyClick(view(), Qt::Key_Up, Qt::ShiftModifier);
-    const int now = view()->currentIndex().row();
-    QVERIFY(now < reached);
-    QCOMPARE(m_widget->selectedItems().size(), now - 2 + 1);
-    QVERIFY(m_widget->selectedItems().contains(m_tree->root.childFiles.at(2)));
-}
-
-void TestCarelessHands::spaceWhereTheSelectedHaveDied_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::newRow("grid") << 0;
-    QTest::newRow("table") << 1;
-}
-
-void TestCarelessHands::spaceWhereTheSelectedHaveDied()
-{
-    QFETCH(int, mode);
-    show(mode, 6);
-    const QList<TreeItemData *> files = m_tree->root.childFiles;
-    QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, spot(1));
-    QTest::keyClick(view(), Qt::Key_Down, Qt::ControlModifier);
-    TreeItemData *current = files.at(view()->currentIndex().row());
-    QVERIFY(current != files.at(1));
-    m_tree->kill(files.at(1));
-    QTest::keyClick(view(), Qt::Key_Space);
-    QCOMPARE(current->checkState, int(Qt::Checked));
 }
 
 QTEST_MAIN(TestCarelessHands)

@@ -4,6 +4,7 @@
 #include "model/headerview.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
+#include "support/datarow.h"
 #include "support/recordtree.h"
 
 #include <QApplication>
@@ -74,8 +75,7 @@ void TestKeyboardReach::init()
 
 void TestKeyboardReach::tabReachesEverything_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QStringList>("stops");
+    addColumns<int, QStringList>({"mode", "stops"});
     QTest::newRow("grid") << 0 << QStringList{"allCheckButton", "nameButton", "sizeButton",
                                               "typeButton",     "dateButton", "listView"};
     QTest::newRow("list with pane")
@@ -119,8 +119,7 @@ void TestKeyboardReach::tabReachesEverything()
 
 void TestKeyboardReach::focusIsSeen_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("stops");
+    addColumns<int, int>({"mode", "stops"});
     QTest::newRow("grid") << 0 << 6;
     QTest::newRow("list with pane") << 1 << 5;
     QTest::newRow("list") << 2 << 2;
@@ -199,9 +198,7 @@ void TestKeyboardReach::headerWorksByKey()
 
 void TestKeyboardReach::enterClicksButtons_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QMetaMethod>("signal");
+    addColumns<int, QString, QMetaMethod>({"mode", "button", "signal"});
     QTest::newRow("select all") << 0 << "allCheckButton"
                                 << QMetaMethod::fromSignal(&Content::signalItemDataCheck);
     QTest::newRow("sort") << 0 << "sizeButton"

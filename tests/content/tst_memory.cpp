@@ -7,6 +7,7 @@
 #include "delegates/elidecache.h"
 #include "delegates/plaintexts.h"
 #include "model/scandatamodel.h"
+#include "support/datarow.h"
 #include "support/recordtree.h"
 #include "thumbnails/filetypeicons.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
@@ -109,9 +110,7 @@ void TestMemory::cleanup()
 
 void TestMemory::listing_data()
 {
-    QTest::addColumn<bool>("sorted");
-    QTest::addColumn<bool>("hasViews");
-    QTest::addColumn<int>("bytesEach");
+    addColumns<bool, bool, int>({"sorted", "hasViews", "bytesEach"});
     QTest::newRow("the model") << false << false << 21;
     QTest::newRow("the model, sorted") << true << false << 24;
     QTest::newRow("with both views") << false << true << 21;
@@ -181,10 +180,7 @@ void TestMemory::waitForTheWorker(int asked)
 
 void TestMemory::looking_data()
 {
-    QTest::addColumn<Look>("look");
-    QTest::addColumn<int>("looks");
-    QTest::addColumn<int>("bytesEach");
-    QTest::addColumn<int>("kilobytes");
+    addColumns<Look, int, int, int>({"look", "looks", "bytesEach", "kilobytes"});
 
     constexpr int Asked = 160; // by a side, of the worker, of the host
     QTest::newRow("types of files") << Look([](int from, int to) {

@@ -1,6 +1,6 @@
-#include "content/pagechoice.h"
 #include "content/sdcardcontentdatawidget.h"
 #include "platform/item/filtercondition.h"
+#include "support/datarow.h"
 #include "support/recordtree.h"
 
 #include <QSignalSpy>
@@ -9,12 +9,45 @@
 
 namespace {
 
-enum Step { Start, Finish, Stop, Empty, Full, Unknown, Load, Reset, SearchMode, Filter, Describe };
+/// A content area and what a host may have for it.
+struct Scene
+{
+    explicit Scene(int side)
+        : widget(side)
+    {
+        full.addFiles(3);
+        unknown.addFiles(3);
+        unknown.root.itemCount = -1;
+    }
+    void show(RecordTree &tree) { widget.updateData(&tree.root, QString()); }
+
+    RecordTree empty, full, unknown;
+    FilterCondition filter;
+    SDCardContentDataWidget widget;
+};
+
+using Step = void (*)(Scene &);
+const Step Start = [](Scene &s) { s.widget.setScanState(1); };
+const Step Finish = [](Scene &s) { s.widget.setScanState(4); };
+const Step Stop = [](Scene &s) { s.widget.setScanState(5); };
+const Step Empty = [](Scene &s) { s.show(s.empty); };
+const Step Full = [](Scene &s) { s.show(s.full); };
+const Step Unknown = [](Scene &s) { s.show(s.unknown); };
+const Step Load = [](Scene &s) { s.widget.showLoadingPage(true); };
+const Step Reset = [](Scene &s) { s.widget.reset(); };
+const Step SearchMode = [](Scene &s) { s.widget.setSearchMode(true); };
+const Step Filter = [](Scene &s) {
+    s.filter.minSize = 1;
+    s.widget.setFilterCondition(&s.filter);
+};
+const Step Describe = [](Scene &s) {
+    s.filter.aiSearch = true;
+    s.widget.setFilterCondition(&s.filter);
+};
 
 } // namespace
 
-Q_DECLARE_METATYPE(FilterCondition)
-Q_DECLARE_METATYPE(QVector<int>)
+Q_DECLARE_METATYPE(QVector<Step>)
 
 class TestPages : public QObject
 {
@@ -23,20 +56,15 @@ class TestPages : public QObject
 private slots:
     void page_data();
     void page();
-    void filterActivity_data();
-    void filterActivity();
     void hintPagesAreMadeOnce();
-    void nullRootChangesNothing();
     void missingAnimationLeavesAUsablePage();
 };
 
 void TestPages::page_data()
 {
-    QTest::addColumn<int>("side");
-    QTest::addColumn<QVector<int>>("steps");
-    QTest::addColumn<QString>("expected");
+    addColumns<int, QVector<Step>, QString>({"side", "steps", "expected"});
 
-    const auto row = [](const char *name, int side, const QVector<int> &steps, const char *page) {
+    const auto row = [](const char *name, int side, const QVector<Step> &steps, const char *page) {
         QTest::newRow(name) << side << steps << QString::fromLatin1(page);
     };
     row("scan side begins", 1, {}, "scanningpage");
@@ -72,93 +100,14 @@ void TestPages::page_data()
 void TestPages::page()
 {
     QFETCH(int, side);
-    QFETCH(QVector<int>, steps);
+    QFETCH(QVector<Step>, steps);
     QFETCH(QString, expected);
 
-    RecordTree empty;
-    RecordTree full;
-    full.addFiles(3);
-    RecordTree unknown;
-    unknown.addFiles(3);
-    unknown.root.itemCount = -1;
-    FilterCondition filter;
-
-    SDCardContentDataWidget widget(side);
-    for (int step : qAsConst(steps)) {
-        switch (step) {
-        case Start:
-            widget.setScanState(1);
-            break;
-        case Finish:
-            widget.setScanState(4);
-            break;
-        case Stop:
-            widget.setScanState(5);
-            break;
-        case Empty:
-            widget.updateData(&empty.root, QString());
-            break;
-        case Full:
-            widget.updateData(&full.root, QString());
-            break;
-        case Unknown:
-            widget.updateData(&unknown.root, QString());
-            break;
-        case Load:
-            widget.showLoadingPage(true);
-            break;
-        case Reset:
-            widget.reset();
-            break;
-        case SearchMode:
-            widget.setSearchMode(true);
-            break;
-        case Filter:
-            filter.minSize = 1;
-            widget.setFilterCondition(&filter);
-            break;
-        case Describe:
-            filter.aiSearch = true;
-            widget.setFilterCondition(&filter);
-            break;
-        }
-    }
-    const auto *stack = widget.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+    Scene scene(side);
+    for (const Step step : qAsConst(steps))
+        step(scene);
+    const auto *stack = scene.widget.findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
     QCOMPARE(stack->currentWidget()->objectName(), expected);
-}
-
-void TestPages::filterActivity_data()
-{
-    QTest::addColumn<FilterCondition>("filter");
-    QTest::addColumn<bool>("active");
-
-    FilterCondition filter;
-    QTest::newRow("as made") << filter << false;
-    filter.aiSearch = true;
-    QTest::newRow("an AI search is no filter") << filter << false;
-    filter = {};
-    filter.maxSize = 0;
-    QTest::newRow("zero is a bound") << filter << true;
-    filter = {};
-    filter.minTime = -2;
-    QTest::newRow("only all ones is unset") << filter << true;
-    filter = {};
-    filter.text2 = QStringLiteral("x");
-    QTest::newRow("second text") << filter << true;
-    filter = {};
-    filter.list1 = QStringList{QString()};
-    QTest::newRow("a list of one empty text") << filter << true;
-    filter = {};
-    filter.mode = 0;
-    QTest::newRow("mode") << filter << true;
-}
-
-void TestPages::filterActivity()
-{
-    QFETCH(FilterCondition, filter);
-    QFETCH(bool, active);
-    QCOMPARE(PageChoice::isFilterActive(&filter), active);
-    QVERIFY(!PageChoice::isFilterActive(nullptr));
 }
 
 void TestPages::hintPagesAreMadeOnce()
@@ -174,19 +123,6 @@ void TestPages::hintPagesAreMadeOnce()
         widget.updateData(&empty.root, QStringLiteral("x"));
     }
     QCOMPARE(stack->count(), before + 2);
-}
-
-void TestPages::nullRootChangesNothing()
-{
-    RecordTree tree;
-    tree.addFiles(2);
-    SDCardContentDataWidget widget(1);
-    widget.updateData(&tree.root, QString());
-    QSignalSpy current(&widget, &SDCardContentDataWidget::signalCurrentItemChanged);
-    widget.updateData(nullptr, QStringLiteral("word"));
-    QCOMPARE(current.count(), 0);
-    QCOMPARE(widget.findChild<QStackedWidget *>()->currentWidget()->objectName(),
-             QStringLiteral("scandatapage"));
 }
 
 void TestPages::missingAnimationLeavesAUsablePage()

@@ -2,6 +2,7 @@
 #include "support/recordtree.h"
 
 #include "model/scandatamodel.h"
+#include "support/datarow.h"
 
 #include <QHeaderView>
 #include <QRandomGenerator>
@@ -53,23 +54,18 @@ private slots:
     void rowsLieAsInAStockTable_data();
     void rowsLieAsInAStockTable();
     void cleanup() { m_table.reset(); }
-    void bandNeedsFivePixels_data();
-    void bandNeedsFivePixels();
     void bandSelectsWhatAPlainWalkWould_data();
     void bandSelectsWhatAPlainWalkWould();
-    void bandAddsToTheSelection();
     void bandScrollsAtTheEdge_data();
     void bandScrollsAtTheEdge();
     void hoverRepaintsTheRowsConcerned();
     void leavingClearsTheHoverCellOnce();
-    void deadRowsInABand();
 
 private:
     QPoint at(int row, int y, int x = 20) const
     {
         return {x, m_table->rowViewportPosition(row) + y};
     }
-    void drag(const QPoint &from, const QPoint &to);
     QVector<int> selectedRows() const;
 
     RecordTree m_tree;
@@ -92,10 +88,7 @@ void TestScanTableView::init()
 
 void TestScanTableView::rowsLieAsInAStockTable_data()
 {
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("rightToLeft");
-    QTest::addColumn<bool>("byPixel");
+    addColumns<int, int, bool, bool>({"rows", "width", "rightToLeft", "byPixel"});
     QTest::newRow("all columns in view") << 60 << 700 << false << true;
     QTest::newRow("scrolled by columns") << 60 << 250 << false << false;
     QTest::newRow("scrolled by pixels") << 60 << 250 << false << true;
@@ -203,16 +196,6 @@ void TestScanTableView::rowsLieAsInAStockTable()
     }
 }
 
-void TestScanTableView::drag(const QPoint &from, const QPoint &to)
-{
-    QWidget *viewport = m_table->viewport();
-    QTest::mousePress(viewport, Qt::LeftButton, {}, from);
-    QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(viewport, &move);
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
-}
-
 QVector<int> TestScanTableView::selectedRows() const
 {
     QVector<int> rows;
@@ -222,35 +205,9 @@ QVector<int> TestScanTableView::selectedRows() const
     return rows;
 }
 
-void TestScanTableView::bandNeedsFivePixels_data()
-{
-    QTest::addColumn<QPoint>("delta");
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("four down") << QPoint(0, 4) << false;
-    QTest::newRow("five down") << QPoint(0, 5) << true;
-    QTest::newRow("two and two") << QPoint(2, -2) << false;
-    QTest::newRow("three and two") << QPoint(-3, 2) << true;
-}
-
-void TestScanTableView::bandNeedsFivePixels()
-{
-    QFETCH(QPoint, delta);
-    QFETCH(bool, shown);
-    QWidget *viewport = m_table->viewport();
-    const QPoint from = at(2, 20);
-    QTest::mousePress(viewport, Qt::LeftButton, {}, from);
-    QMouseEvent move(QEvent::MouseMove, from + delta, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(viewport, &move);
-    QCOMPARE(viewport->findChild<QRubberBand *>()->isVisible(), shown);
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, from + delta);
-    QVERIFY(!viewport->findChild<QRubberBand *>()->isVisible());
-}
-
 void TestScanTableView::bandSelectsWhatAPlainWalkWould_data()
 {
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<int>("scroll");
+    addColumns<QPoint, QPoint, int>({"from", "to", "scroll"});
     QTest::newRow("inside one row") << QPoint(10, 5) << QPoint(60, 30) << 0;
     QTest::newRow("touches by one pixel") << QPoint(10, 39) << QPoint(60, 81) << 0;
     QTest::newRow("upwards, scrolled") << QPoint(60, 300) << QPoint(10, 7) << 333;
@@ -283,19 +240,6 @@ void TestScanTableView::bandSelectsWhatAPlainWalkWould()
     m_table->verticalScrollBar()->setValue(scroll);
     QTest::mouseRelease(m_table->viewport(), Qt::LeftButton, {}, to);
     QCOMPARE(selectedRows(), expected);
-}
-
-void TestScanTableView::bandAddsToTheSelection()
-{
-    QWidget *viewport = m_table->viewport();
-    QTest::mousePress(viewport, Qt::LeftButton, {}, at(1, 5));
-    QMouseEvent move(QEvent::MouseMove, at(2, 5), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(viewport, &move);
-    m_table->selectionModel()->select(m_model.index(9, 0),
-                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, at(2, 5));
-    QVERIFY(selectedRows().contains(9));
-    QVERIFY(selectedRows().contains(2));
 }
 
 void TestScanTableView::bandScrollsAtTheEdge_data()
@@ -366,17 +310,6 @@ void TestScanTableView::leavingClearsTheHoverCellOnce()
     QCoreApplication::sendEvent(m_table.data(), &leave);
     QCoreApplication::processEvents();
     QCOMPARE(spy.area, 0);
-}
-
-void TestScanTableView::deadRowsInABand()
-{
-    const QList<TreeItemData *> files = m_tree.root.childFiles;
-    for (int row : {1, 2, 5})
-        m_tree.kill(files.at(row));
-    drag(at(1, 5), at(6, 30));
-    const QVector<int> rows = selectedRows();
-    QVERIFY(rows.contains(3) && rows.contains(4) && rows.contains(6));
-    m_table->grab();
 }
 
 QTEST_MAIN(TestScanTableView)

@@ -2,10 +2,11 @@
 #include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
 #include "content/thumbnailgrid.h"
+#include "support/datarow.h"
+#include "support/eventcounter.h"
 #include "support/recordtree.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
-#include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -21,19 +22,6 @@ QPixmap red()
     pixmap.fill(Qt::red);
     return pixmap;
 }
-
-class PaintWatcher : public QObject
-{
-public:
-    QRegion painted;
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            painted += static_cast<QPaintEvent *>(event)->region();
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 } // namespace
 
@@ -83,8 +71,7 @@ void TestThumbnailArrivals::cleanup()
 
 void TestThumbnailArrivals::onlyVisibleRowsRepaint_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("scrolled");
+    addColumns<int, bool>({"mode", "scrolled"});
     QTest::newRow("grid") << 0 << false;
     QTest::newRow("grid, scrolled") << 0 << true;
     QTest::newRow("list") << 2 << false;
@@ -101,8 +88,7 @@ void TestThumbnailArrivals::onlyVisibleRowsRepaint()
         : widget->findChild<ScanTableView *>();
     if (scrolled)
         view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum() / 2);
-    PaintWatcher watcher;
-    view->viewport()->installEventFilter(&watcher);
+    EventCounter watcher(view->viewport(), QEvent::Paint);
     view->viewport()->update();
     QTRY_VERIFY(!watcher.painted.isEmpty());
     QCoreApplication::processEvents();

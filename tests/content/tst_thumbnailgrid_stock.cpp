@@ -2,6 +2,7 @@
 // same.
 #include "content/thumbnailgrid.h"
 #include "support/carddelegate.h"
+#include "support/datarow.h"
 #include "support/plainlistmodel.h"
 
 #include <QRandomGenerator>
@@ -86,11 +87,7 @@ void TestThumbnailGridStock::cleanup()
 
 void TestThumbnailGridStock::shapes()
 {
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("spacing");
-    QTest::addColumn<QSize>("cell");
-    QTest::addColumn<bool>("rightToLeft");
+    addColumns<int, int, int, QSize, bool>({"rows", "width", "spacing", "cell", "rightToLeft"});
     const QSize card(150, 124);
     for (bool rightToLeft : {false, true}) {
         const auto row = [rightToLeft](const char *name, int rows, int width, int spacing,

@@ -3,6 +3,7 @@
 #include "content/thumbnailgrid.h"
 #include "popups/rightmenudialog.h"
 #include "popups/rightmenuframe.h"
+#include "support/datarow.h"
 #include "support/recordtree.h"
 
 #include <QApplication>
@@ -25,8 +26,6 @@ private slots:
     void tapClicks_data() { bothModes(); }
     void tapClicks();
     void twoTapsOpen();
-    void tapKeepsToTheCheckBox_data();
-    void tapKeepsToTheCheckBox();
     void dragScrolls_data() { bothModes(); }
     void dragScrolls();
     void longPressOpensTheMenu_data();
@@ -136,28 +135,6 @@ void TestTouch::twoTapsOpen()
     QCOMPARE(opened.size(), 1);
 }
 
-void TestTouch::tapKeepsToTheCheckBox_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<bool>("checks");
-    QTest::newRow("card, first pixel of the area") << 0 << QPoint(3, 3) << true;
-    QTest::newRow("card, last pixel of the area") << 0 << QPoint(28, 28) << true;
-    QTest::newRow("card, beside the area") << 0 << QPoint(29, 28) << false;
-    QTest::newRow("row, first pixel of the area") << 2 << QPoint(8, 8) << true;
-    QTest::newRow("row, before the area") << 2 << QPoint(7, 8) << false;
-}
-
-void TestTouch::tapKeepsToTheCheckBox()
-{
-    QFETCH(int, mode);
-    QFETCH(QPoint, pos);
-    QFETCH(bool, checks);
-    show(mode);
-    tap(cell(1).topLeft() + pos);
-    QCOMPARE(record(1)->checkState == Qt::Checked, checks);
-}
-
 void TestTouch::dragScrolls()
 {
     QFETCH(int, mode);
@@ -179,8 +156,7 @@ void TestTouch::dragScrolls()
 
 void TestTouch::longPressOpensTheMenu_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("onBox");
+    addColumns<int, bool>({"mode", "onBox"});
     QTest::newRow("card") << 0 << false;
     QTest::newRow("card's box") << 0 << true;
     QTest::newRow("row") << 2 << false;

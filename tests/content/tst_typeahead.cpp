@@ -35,46 +35,11 @@ class TestTypeAhead : public QObject
 
 private slots:
     void cleanup() { QApplication::setKeyboardInputInterval(400); }
-    void sameAsStockView_data();
-    void sameAsStockView();
     void modelFindsWhatReadingFinds_data();
     void modelFindsWhatReadingFinds();
     void lettersGoOnWhileResultsStreamIn();
     void listIsSearchedByName();
 };
-
-void TestTypeAhead::sameAsStockView_data()
-{
-    QTest::addColumn<QString>("alphabet");
-    QTest::newRow("two letters") << "ab";
-    QTest::newRow("letters and digits") << "abc_1";
-}
-
-void TestTypeAhead::sameAsStockView()
-{
-    QFETCH(QString, alphabet);
-    QRandomGenerator random(7);
-    QStandardItemModel model;
-    for (int i = 0; i < 60; ++i)
-        model.appendRow(new QStandardItem(randomName(random, alphabet, 4)));
-    ThumbnailGrid grid;
-    QListView stock;
-    for (QListView *view : {static_cast<QListView *>(&grid), &stock})
-        view->setModel(&model);
-
-    QString before;
-    for (int step = 0; step < 600; ++step) {
-        QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
-        const QString letter = alphabet.at(random.bounded(alphabet.size()));
-        // the stock view stays where it is when a letter is typed again and again
-        if (letter == before || random.bounded(3) == 0)
-            startAnew();
-        before = letter;
-        grid.keyboardSearch(letter);
-        stock.keyboardSearch(letter);
-        QCOMPARE(grid.currentIndex(), stock.currentIndex());
-    }
-}
 
 void TestTypeAhead::modelFindsWhatReadingFinds_data()
 {

@@ -1,4 +1,5 @@
 #include "delegates/cardlayout.h"
+#include "support/datarow.h"
 
 #include <QtTest>
 
@@ -21,10 +22,7 @@ private slots:
 
 void TestCardLayout::hits_data()
 {
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<bool>("onBox");
-    QTest::addColumn<bool>("onPreview");
+    addColumns<QPoint, Qt::LayoutDirection, bool, bool>({"pos", "direction", "onBox", "onPreview"});
 
     const auto ltr = Qt::LeftToRight;
     const auto rtl = Qt::RightToLeft;
@@ -82,8 +80,7 @@ void TestCardLayout::mirrorsInRightToLeft()
 
 void TestCardLayout::fitsPictures_data()
 {
-    QTest::addColumn<QSize>("picture");
-    QTest::addColumn<QRect>("drawn");
+    addColumns<QSize, QRect>({"picture", "drawn"});
 
     QTest::newRow("small: as it is") << QSize(100, 60) << QRect(27, 13, 96, 58);
     QTest::newRow("wide") << QSize(300, 100) << QRect(2, 18, 146, 48);
@@ -104,8 +101,7 @@ void TestCardLayout::fitsPictures()
 
 void TestCardLayout::badgeStaysInsidePicture_data()
 {
-    QTest::addColumn<QRect>("picture");
-    QTest::addColumn<QRect>("badge");
+    addColumns<QRect, QRect>({"picture", "badge"});
 
     QTest::newRow("a card's picture") << QRect(2, 2, 146, 82) << QRect(121, 7, 20, 20);
     QTest::newRow("narrower than the badge") << QRect(40, 2, 12, 80) << QRect(40, 7, 12, 12);

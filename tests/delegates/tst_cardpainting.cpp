@@ -7,6 +7,8 @@
 #include "delegates/recoverabilitylabel.h"
 #include "delegates/scaledthumbnails.h"
 #include "platform/system/system.h"
+#include "support/datarow.h"
+#include "support/pixels.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
 #include <QtTest>
@@ -92,7 +94,6 @@ private slots:
     void hoverVeilsOnlyFiles();
     void keepsSharpPicturesSharp();
     void shearedPainter();
-    void followsTheme();
 };
 
 void TestCardPainting::initTestCase()
@@ -104,10 +105,8 @@ void TestCardPainting::initTestCase()
 
 void TestCardPainting::composedIsDrawnInBands_data()
 {
-    QTest::addColumn<int>("look");
-    QTest::addColumn<QRect>("cell");
-    QTest::addColumn<qreal>("scale");
-    QTest::addColumn<std::optional<Recoverability>>("level");
+    addColumns<int, QRect, qreal, std::optional<Recoverability>>(
+        {"look", "cell", "scale", "level"});
 
     const QRect usual(5, 7, 150, 124);
     const std::optional<Recoverability> none;
@@ -167,9 +166,7 @@ void TestCardPainting::composedIsDrawnInBands()
 
 void TestCardPainting::paintedAgainIsPaintedAnew_data()
 {
-    QTest::addColumn<qreal>("scale");
-    QTest::addColumn<THEMETYPE>("theme");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
+    addColumns<qreal, THEMETYPE, Qt::LayoutDirection>({"scale", "theme", "direction"});
     QTest::newRow("light") << 1.0 << LightTheme << Qt::LeftToRight;
     QTest::newRow("dark, mirrored") << 1.0 << DarkTheme << Qt::RightToLeft;
     QTest::newRow("between device pixels") << 1.25 << LightTheme << Qt::RightToLeft;
@@ -253,14 +250,10 @@ void TestCardPainting::gapBetweenDevicePixels()
         background.draw(&painter, grid, CardLayout(QRect(at, QSize(150, 124))), base, {}, label);
     painter.end();
 
-    int mixed = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            mixed += pixel != base.rgb() && pixel != QColor(Qt::magenta).rgb();
-        }
-    }
-    QCOMPARE(mixed, 0);
+    const auto isMixed = [&](QRgb pixel) {
+        return pixel != base.rgb() && pixel != QColor(Qt::magenta).rgb();
+    };
+    QCOMPARE(around(image, isMixed), QRect());
     const QRect row = grid.deviceRect(QRect(3, 5, 450, 124));
     for (int x = row.left(); x <= row.right(); ++x)
         QCOMPARE(QColor(image.pixel(x, row.center().y())), base);
@@ -268,12 +261,8 @@ void TestCardPainting::gapBetweenDevicePixels()
 
 void TestCardPainting::checkBoxLooks_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("own");
-    QTest::addColumn<int>("parents");
-    QTest::addColumn<bool>("emptyFolderCheckable");
-    QTest::addColumn<int>("look");
+    addColumns<int, int, int, int, bool, int>(
+        {"kind", "count", "own", "parents", "emptyFolderCheckable", "look"});
     const int off = int(CheckBox::Look::Unchecked);
     const int half = int(CheckBox::Look::Partial);
     const int on = int(CheckBox::Look::Checked);
@@ -319,11 +308,8 @@ void TestCardPainting::checkBoxLooks()
 
 void TestCardPainting::labelByLevel_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("category");
-    QTest::addColumn<bool>("thumbnail");
-    QTest::addColumn<bool>("finished");
-    QTest::addColumn<QColor>("background");
+    addColumns<int, int, bool, bool, QColor>(
+        {"kind", "category", "thumbnail", "finished", "background"});
     const QColor high(241, 251, 242);
     const QColor medium(255, 248, 230);
     const QColor assessing(237, 244, 254);
@@ -352,17 +338,12 @@ void TestCardPainting::labelByLevel()
     IconDelegate delegate;
     delegate.setAssessmentFinished(finished);
     const QImage image = cards.paint(delegate, cards.indexOf(item));
-    const QRect strip(40, 104, 70, 16);
-    bool found[3] = {};
-    const QColor colors[] = {{241, 251, 242}, {255, 248, 230}, {237, 244, 254}};
-    for (int y = strip.top(); y <= strip.bottom(); ++y) {
-        for (int x = strip.left(); x <= strip.right(); ++x) {
-            for (int i = 0; i < 3; ++i)
-                found[i] |= image.pixel(x, y) == colors[i].rgb();
-        }
+    for (const QColor &color :
+         {QColor(241, 251, 242), QColor(255, 248, 230), QColor(237, 244, 254)}) {
+        const QRect label = around(image.copy(40, 104, 70, 16),
+                                   [color](QRgb pixel) { return pixel == color.rgb(); });
+        QCOMPARE(!label.isEmpty(), color == background);
     }
-    for (int i = 0; i < 3; ++i)
-        QCOMPARE(found[i], colors[i] == background);
 }
 
 void TestCardPainting::labelOfNarrowCard()
@@ -385,9 +366,7 @@ void TestCardPainting::labelOfNarrowCard()
 
 void TestCardPainting::pictureStandsInItsRect_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<qreal>("pixelRatio");
-    QTest::addColumn<QRect>("drawn");
+    addColumns<QSize, qreal, QRect>({"size", "pixelRatio", "drawn"});
     QTest::newRow("usual") << Thumbnail << 1.0 << QRect(23, 2, 104, 80);
     QTest::newRow("portrait") << QSize(146, 194) << 1.0 << QRect(46, 2, 57, 80);
     QTest::newRow("double resolution") << QSize(200, 120) << 2.0 << QRect(27, 13, 96, 58);
@@ -408,14 +387,9 @@ void TestCardPainting::pictureStandsInItsRect()
     ScanPluginPreviewManager::instance()->storeThumbnail(item->fileId, thumbnail);
     const IconDelegate delegate;
     for (const int scale : {1, 2}) {
-        const QImage image = cards.paintWith(delegate, cards.indexOf(item), cards.option(), scale);
-        QRect found;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 28 * scale; x < image.width(); ++x) { // right of the check box
-                if (image.pixel(x, y) == PictureColor.rgb())
-                    found |= QRect(x, y, 1, 1);
-            }
-        }
+        QImage image = cards.paintWith(delegate, cards.indexOf(item), cards.option(), scale);
+        QPainter(&image).fillRect(0, 0, 28 * scale, image.height(), Qt::black); // the check box
+        const QRect found = around(image, [](QRgb pixel) { return pixel == PictureColor.rgb(); });
         const QRect visible = drawn & QRect(28, 0, 200, 200);
         QCOMPARE(found, QRect(visible.topLeft() * scale, visible.size() * scale));
     }
@@ -499,20 +473,6 @@ void TestCardPainting::shearedPainter()
     delegate.paint(&painter, cards.option(), cards.indexOf(item));
     painter.end();
     QCOMPARE(QColor(image.pixel(150 - 40, 150 + 75)), PictureColor);
-}
-
-void TestCardPainting::followsTheme()
-{
-    CardFixture cards;
-    TreeItemData *item = cards.add(QStringLiteral("a.jpg"), CardFixture::File, CardFixture::Photo);
-    const IconDelegate delegate;
-    const QImage light = cards.paint(delegate, cards.indexOf(item));
-    ThemeManager::instance()->setThemeType(DarkTheme);
-    const QImage dark = cards.paint(delegate, cards.indexOf(item));
-    QVERIFY(qGray(dark.pixel(75, 85)) < qGray(light.pixel(75, 85)));
-    QCOMPARE(cards.paint(IconDelegate(), cards.indexOf(item)), dark);
-    ThemeManager::instance()->setThemeType(LightTheme);
-    QCOMPARE(cards.paint(delegate, cards.indexOf(item)), light);
 }
 
 QTEST_MAIN(TestCardPainting)

@@ -50,9 +50,7 @@ QString marked(const QString &text, const QString &keyword)
 
 void TestHighlighter::marks_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<QString>("result");
+    addColumns<QString, QString, QString>({"text", "keyword", "result"});
 
     addRow("every occurrence", "photo-photo.jpg", "photo", "[photo]-[photo].jpg");
     addRow("first match ignores case", "Photo photo", "photo", "[Photo] [photo]");

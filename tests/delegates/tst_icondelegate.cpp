@@ -4,6 +4,7 @@
 #include "common/scanviewmanager.h"
 #include "common/translation.h"
 #include "platform/system/system.h"
+#include "support/datarow.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
 #include <QScopeGuard>
@@ -62,8 +63,6 @@ private slots:
     void marksSurviveOnlyExtendingPresses();
     void marksFollowTheirCards();
     void marksMayHaveGaps();
-    void pressMakesCurrent_data();
-    void pressMakesCurrent();
 
     void firstCardOfFreshGridIsCurrent();
     void currentCardSurvivesReset();
@@ -72,8 +71,6 @@ private slots:
     void tipsAreThrottled();
     void throttleWaits_data();
     void throttleWaits();
-    void tipForName_data();
-    void tipForName();
 
     void deadRecordUnderTheMouse();
     void recordDiesWhileItIsPainted();
@@ -137,29 +134,28 @@ void TestIconDelegate::answersMouse()
     QFETCH(Qt::MouseButton, button);
     QFETCH(Qt::KeyboardModifiers, modifiers);
 
-    CardFixture cards;
-    const TreeItemData *item = cards.add(QStringLiteral("a.txt"), kind);
-    IconDelegate delegate;
-    QStringList said;
-    listen(&delegate, &said);
-    bool taken = false;
-    if (type == QEvent::Leave) {
-        QEvent leave(type);
-        taken = delegate.editorEvent(&leave, &cards.model, cards.option(), cards.indexOf(item));
-    } else {
-        taken = cards.send(&delegate, cards.indexOf(item), type, pos, button, modifiers);
+    for (auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        CardFixture cards;
+        const TreeItemData *item = cards.add(QStringLiteral("a.txt"), kind);
+        IconDelegate delegate;
+        QStringList said;
+        listen(&delegate, &said);
+        QStyleOptionViewItem option = cards.option();
+        option.direction = direction;
+        const int x = direction == Qt::LeftToRight ? pos.x() : option.rect.right() - pos.x();
+        QMouseEvent mouse(type, QPoint(x, pos.y()), button, button, modifiers);
+        QEvent leave(QEvent::Leave);
+        QEvent *event = type == QEvent::Leave ? &leave : &mouse;
+        const bool taken = delegate.editorEvent(event, &cards.model, option, cards.indexOf(item));
+        QTEST(said, "said");
+        QTEST(taken, "taken");
     }
-    QTEST(said, "said");
-    QTEST(taken, "taken");
 }
 
 void TestIconDelegate::togglesCheck_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<bool>("emptyFolderCheckable");
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
+    addColumns<int, int, bool, int, int>(
+        {"kind", "count", "emptyFolderCheckable", "before", "after"});
 
     QTest::newRow("check") << 2 << 0 << false << 0 << 2;
     QTest::newRow("uncheck") << 2 << 0 << false << 2 << 0;
@@ -251,25 +247,6 @@ void TestIconDelegate::marksMayHaveGaps()
     QCOMPARE(delegate.markedIndexes(), QModelIndexList{index(2)});
 }
 
-void TestIconDelegate::pressMakesCurrent_data()
-{
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<bool>("current");
-    QTest::newRow("box") << OnBox << true;
-    QTest::newRow("name") << OnName << true;
-    QTest::newRow("preview") << OnPreview << false;
-}
-
-void TestIconDelegate::pressMakesCurrent()
-{
-    QFETCH(QPoint, pos);
-    CardFixture cards;
-    const TreeItemData *item = cards.add(QStringLiteral("a"));
-    IconDelegate delegate;
-    cards.send(&delegate, cards.indexOf(item), QEvent::MouseButtonPress, pos);
-    QTEST(delegate.pressedIndex() == cards.indexOf(item), "current");
-}
-
 void TestIconDelegate::firstCardOfFreshGridIsCurrent()
 {
     CardFixture cards;
@@ -349,9 +326,7 @@ void TestIconDelegate::tipsAreThrottled()
 
 void TestIconDelegate::throttleWaits_data()
 {
-    QTest::addColumn<bool>("sameIndex");
-    QTest::addColumn<qint64>("elapsedMs");
-    QTest::addColumn<bool>("allowed");
+    addColumns<bool, qint64, bool>({"sameIndex", "elapsedMs", "allowed"});
     QTest::newRow("same, at once") << true << Q_INT64_C(0) << false;
     QTest::newRow("same, at the pause's end") << true << Q_INT64_C(1000) << false;
     QTest::newRow("same, after the pause") << true << Q_INT64_C(1001) << true;
@@ -368,31 +343,6 @@ void TestIconDelegate::throttleWaits()
     QVERIFY(throttle.allows(a, 0));
     throttle.shown(a);
     QTEST(throttle.allows(sameIndex ? a : a.siblingAtColumn(1), elapsedMs), "allowed");
-}
-
-void TestIconDelegate::tipForName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("rootType");
-    QTest::addColumn<QStringList>("tips");
-    QTest::newRow("name") << "zenvo_photo" << 0 << QStringList{"zenvo_photo"};
-    QTest::newRow("category") << "x" << 55 << QStringList{"OneDrive"};
-    QTest::newRow("nothing to say") << "" << 0 << QStringList{};
-}
-
-void TestIconDelegate::tipForName()
-{
-    QFETCH(QString, name);
-    QFETCH(int, rootType);
-    CardFixture cards;
-    TreeItemData *item = cards.add(name);
-    item->rootType = rootType;
-    IconDelegate delegate;
-    QStringList tips;
-    connect(&delegate, &IconDelegate::signalShowTooltip, this,
-            [&](const QString &tip) { tips.append(tip); });
-    cards.send(&delegate, cards.indexOf(item), QEvent::MouseMove, OnName, Qt::NoButton);
-    QTEST(tips, "tips");
 }
 
 void TestIconDelegate::deadRecordUnderTheMouse()

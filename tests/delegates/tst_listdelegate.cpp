@@ -4,6 +4,8 @@
 #include "common/zvlangmanager.h"
 #include "content/scantableview.h"
 #include "platform/system/system.h"
+#include "support/datarow.h"
+#include "support/pixels.h"
 #include "thumbnails/scanpluginpreviewmanager.h"
 
 #include <QHeaderView>
@@ -159,7 +161,6 @@ private slots:
 
     void unknownValues_data();
     void unknownValues();
-    void textsAreWrittenAnewOnRequest();
     void folderSuffix();
     void linkOnlyUnderTheMouse();
     void locationImageUnderTheMouse();
@@ -394,9 +395,7 @@ void TestListDelegate::deadRecord()
 
 void TestListDelegate::unknownValues_data()
 {
-    QTest::addColumn<qint64>("value");
-    QTest::addColumn<bool>("sizeKnown");
-    QTest::addColumn<bool>("timeKnown");
+    addColumns<qint64, bool, bool>({"value", "sizeKnown", "timeKnown"});
 
     QTest::newRow("0") << qint64(0) << false << false;
     QTest::newRow("negative") << qint64(-5) << false << false;
@@ -420,39 +419,14 @@ void TestListDelegate::unknownValues()
     QTEST(rows.image(rows.cell(item, Date)) != noTime, "timeKnown");
 }
 
-void TestListDelegate::textsAreWrittenAnewOnRequest()
-{
-    auto *language = ZVLangManager::instance();
-    const auto speak = [&](const char *code) {
-        language->init(QString(), QString(), QString(), QString(), QLatin1String(code));
-    };
-    speak("en-us");
-    Rows rows;
-    TreeItemData *item = rows.addItem();
-    item->fileSize = 1234567;
-    const QModelIndex cell = rows.cell(item, Size);
-    const QImage english = rows.image(cell);
-    speak("de-de"); // a decimal comma
-    QCOMPARE(rows.image(cell), english);
-    rows.delegate.setCachesDirty();
-    QVERIFY(rows.image(cell) != english);
-    speak("en-us");
-}
-
 void TestListDelegate::folderSuffix()
 {
     Rows rows;
     TreeItemData *folder = rows.addItem(Rows::Folder);
     const QModelIndex cell = rows.cell(folder, Name);
     const auto inkedTo = [&] {
-        const QImage image = rows.image(cell);
-        for (int x = image.width() - 1; x >= 0; --x) {
-            for (int y = 0; y < image.height(); ++y) {
-                if (image.pixel(x, y) != qRgb(255, 255, 255))
-                    return x;
-            }
-        }
-        return -1;
+        const auto isInk = [](QRgb pixel) { return pixel != qRgb(255, 255, 255); };
+        return around(rows.image(cell), isInk).right();
     };
     folder->itemCount = -1; // nobody knows
     const int bare = inkedTo();
@@ -481,14 +455,8 @@ void TestListDelegate::linkOnlyUnderTheMouse()
     table.show();
     const QModelIndex cell = table.cell(item, Path);
     const auto isLink = [&] {
-        const QImage image = table.shotOf(cell);
-        for (int x = 0; x < image.width(); ++x) { // the underline is one row of pure colour
-            for (int y = 0; y < image.height(); ++y) {
-                if (image.pixelColor(x, y) == QColor(0, 145, 255))
-                    return true;
-            }
-        }
-        return false;
+        const auto isUnderline = [](QRgb pixel) { return pixel == qRgb(0, 145, 255); };
+        return !around(table.shotOf(cell), isUnderline).isEmpty();
     };
     QVERIFY(!isLink());
     table.moveTo(table.on(cell, {20, 20}));
@@ -558,8 +526,7 @@ void TestListDelegate::sortedColumnIsBold()
 
 void TestListDelegate::backgroundOfPartlyRepaintedRow_data()
 {
-    QTest::addColumn<QList<int>>("columns");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
+    addColumns<QList<int>, Qt::LayoutDirection>({"columns", "direction"});
 
     QTest::newRow("one") << QList<int>{2} << Qt::LeftToRight;
     QTest::newRow("first and another") << QList<int>{0, 3} << Qt::LeftToRight;

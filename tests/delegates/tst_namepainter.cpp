@@ -2,6 +2,8 @@
 #include "delegates/elidecache.h"
 #include "delegates/namepainter.h"
 #include "platform/system/system.h"
+#include "support/datarow.h"
+#include "support/pixels.h"
 
 #include <QImage>
 #include <QPainter>
@@ -54,14 +56,7 @@ void setUp(NamePainter &names, THEMETYPE theme = LightTheme)
 
 QRect inked(const QImage &image)
 {
-    QRect result;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != qRgb(255, 255, 255))
-                result |= QRect(x, y, 1, 1);
-        }
-    }
-    return result;
+    return around(image, [](QRgb pixel) { return pixel != qRgb(255, 255, 255); });
 }
 
 } // namespace
@@ -163,9 +158,7 @@ void TestNamePainter::staysOnOneLineInItsRect()
 
 void TestNamePainter::elides_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("cut");
+    addColumns<QString, int, bool>({"text", "width", "cut"});
 
     QTest::newRow("ten characters, no room") << QStringLiteral("WWWWWWWWWW") << 5 << false;
     QTest::newRow("eleven, no room") << QStringLiteral("WWWWWWWWWWW") << 50 << true;

@@ -1,6 +1,7 @@
 #include "delegates/rowlayout.h"
 
 #include "model/scandatamodel.h"
+#include "support/datarow.h"
 
 #include <QtTest>
 
@@ -40,8 +41,7 @@ private slots:
 
 void TestRowLayout::checkArea_data()
 {
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<bool>("hit");
+    addColumns<QPoint, bool>({"pos", "hit"});
 
     QTest::newRow("first pixel") << Left << true;
     QTest::newRow("left of it") << Left - QPoint(1, 0) << false;
@@ -114,8 +114,7 @@ void TestRowLayout::mirrors()
 
 void TestRowLayout::nameAndSuffixShareTheirRoom_data()
 {
-    QTest::addColumn<int>("nameWidth");
-    QTest::addColumn<int>("suffixWidth");
+    addColumns<int, int>({"nameWidth", "suffixWidth"});
 
     QTest::newRow("room for both") << 60 << 40;
     QTest::newRow("name cut to the room") << 189 << 40;

@@ -1,4 +1,5 @@
 #include "model/headerview.h"
+#include "support/datarow.h"
 
 #include <QLayout>
 #include <QPushButton>
@@ -23,7 +24,6 @@ private slots:
     void widthClass_data();
     void widthClass();
     void rightMarginFollowsTheRightEnd();
-    void keyboardSortsAndChecks();
 };
 
 void TestHeaderView::clicksCycle_data()
@@ -93,8 +93,7 @@ void TestHeaderView::shownSortIsWhereTheNextClickStarts()
 
 void TestHeaderView::checkAllClick_data()
 {
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
+    addColumns<int, int>({"before", "after"});
     QTest::newRow("unchecked") << 0 << 2;
     QTest::newRow("half checked checks all") << 1 << 2;
     QTest::newRow("checked") << 2 << 0;
@@ -142,8 +141,7 @@ void TestHeaderView::hoverChangesOnlyTheEmptyBox()
 
 void TestHeaderView::widthClass_data()
 {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("large");
+    addColumns<int, bool>({"width", "large"});
     QTest::newRow("far below") << 500 << false;
     QTest::newRow("last small one") << 1000 << false;
     QTest::newRow("first large one") << 1001 << true;
@@ -183,27 +181,6 @@ void TestHeaderView::rightMarginFollowsTheRightEnd()
     QCOMPARE(margins(), QMargins(11, 0, 8, 0));
     header.rightEndWidget()->hide();
     QCOMPARE(margins(), QMargins(11, 0, 0, 0));
-}
-
-void TestHeaderView::keyboardSortsAndChecks()
-{
-    HeaderView header;
-    header.resize(700, 30);
-    header.show();
-    QVERIFY(QTest::qWaitForWindowActive(&header));
-    QSignalSpy sorted(&header, &HeaderView::signalSortClicked);
-    QSignalSpy checked(&header, &HeaderView::signalAllChecked);
-    // one round of Tab: the box, four columns, and back to the box; the path is left out
-    header.findChild<QPushButton *>("checkAllButton")->setFocus();
-    for (int i = 0; i < 5; ++i) {
-        QVERIFY(header.focusWidget());
-        QTest::keyClick(header.focusWidget(), Qt::Key_Space);
-        QTest::keyClick(header.focusWidget(), Qt::Key_Tab);
-    }
-    QCOMPARE(checked.size(), 1);
-    QCOMPARE(sorted.size(), 4);
-    QCOMPARE(header.sortType(), DateAscending);
-    QCOMPARE(header.focusWidget()->objectName(), QStringLiteral("checkAllButton"));
 }
 
 QTEST_MAIN(TestHeaderView)

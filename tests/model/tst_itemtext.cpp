@@ -1,5 +1,4 @@
 #include "model/itemtext.h"
-#include "model/recoverability.h"
 #include "platform/item/treeitemdata.h"
 #include "support/datarow.h"
 
@@ -10,48 +9,12 @@ class tst_ItemText : public QObject
     Q_OBJECT
 
 private slots:
-    void displayPath_data();
-    void displayPath();
     void unknownValues();
     void typeOfKinds_data();
     void typeOfKinds();
     void displayName_data();
     void displayName();
-    void recoverability_data();
-    void recoverability();
 };
-
-void tst_ItemText::displayPath_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("volumeRoot");
-    QTest::addColumn<int>("rootType");
-    QTest::addColumn<QString>("expected");
-
-    addRow("drive letter without separator", "/Volume/DCIM/100", "E:", 0, "E:\\DCIM\\100");
-    addRow("drive letter with separator", "/Volume/DCIM/100", "E:\\", 0, "E:\\DCIM\\100");
-    addRow("slash as separator of the root", "DCIM", "E:/", 0, "E:/DCIM");
-    addRow("complete path", "DCIM/100", "", 0, "DCIM\\100");
-    addRow("leading separator", "/DCIM", "", 0, "DCIM");
-    QTest::newRow("only one leading separator goes") << "//DCIM"
-                                                     << "" << 0 << "\\DCIM";
-    addRow("a complete path keeps its volume", "/Volume/DCIM", "", 0, "Volume\\DCIM");
-    addRow("folder named Volume", "Volume", "E:", 0, "E:\\Volume");
-    addRow("volume alone", "/Volume", "E:", 0, "E:\\");
-    addRow("nothing known", "", "", 0, "--");
-    addRow("lost location", "/Volume/DCIM", "E:", 3, "File lost location");
-}
-
-void tst_ItemText::displayPath()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, volumeRoot);
-    QFETCH(int, rootType);
-    TreeItemData item;
-    item.path = path;
-    item.volumeRoot = volumeRoot;
-    QTEST(ItemText::displayPath(&item, rootType), "expected");
-}
 
 void tst_ItemText::unknownValues()
 {
@@ -73,9 +36,7 @@ void tst_ItemText::unknownValues()
 
 void tst_ItemText::typeOfKinds_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("extension");
-    QTest::addColumn<QString>("expected");
+    addColumns<int, QString, QString>({"kind", "extension", "expected"});
     addRow("folder with an extension", 1, "app", "folder");
     addRow("file", 2, "jpg", "JPG");
     addRow("file without extension", 2, "", "--");
@@ -94,9 +55,7 @@ void tst_ItemText::typeOfKinds()
 
 void tst_ItemText::displayName_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("rootType");
-    QTest::addColumn<QString>("expected");
+    addColumns<QString, int, QString>({"name", "rootType", "expected"});
     QTest::newRow("category of the root wins") << "zenvo_photo" << 11 << "Video";
     QTest::newRow("root without a name of its own") << "DCIM" << 5 << "DCIM";
     QTest::newRow("category key") << "zenvo_photo" << 0 << "Photo";
@@ -111,32 +70,6 @@ void tst_ItemText::displayName()
     item.name = name;
     item.rootType = rootType;
     QTEST(ItemText::displayName(item), "expected");
-}
-
-void tst_ItemText::recoverability_data()
-{
-    QTest::addColumn<int>("category");
-    QTest::addColumn<bool>("hasThumbnail");
-    QTest::addColumn<bool>("finished");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("photo, scanning") << 8 << false << false << "recoverability_assessing";
-    QTest::newRow("photo, done") << 8 << false << true << "recoverability_medium";
-    QTest::newRow("photo with a picture") << 8 << true << false << "recoverability_high";
-    QTest::newRow("video, done") << 3 << false << true << "recoverability_medium";
-    QTest::newRow("camera video, scanning") << 4 << false << false << "recoverability_assessing";
-    QTest::newRow("document") << 5 << false << false << "recoverability_high";
-}
-
-void tst_ItemText::recoverability()
-{
-    QFETCH(int, category);
-    QFETCH(bool, hasThumbnail);
-    QFETCH(bool, finished);
-    TreeItemData item;
-    item.fileCategory = category;
-    const Recoverability level = recoverabilityOf(&item, hasThumbnail, finished);
-    QTEST(QString::fromLatin1(recoverabilityKey(level)), "expected");
-    QVERIFY(recoverabilityOf(nullptr, hasThumbnail, finished) == Recoverability::High);
 }
 
 QTEST_MAIN(tst_ItemText)

@@ -2,6 +2,7 @@
 #include "model/rowsort.h"
 #include "model/scanitemrole.h"
 #include "platform/item/treeitemdata.h"
+#include "support/datarow.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -115,15 +116,11 @@ private slots:
     void sameAsPlain();
     void knownOrderChangesNothing_data();
     void knownOrderChangesNothing();
-    void caseMattersInPathsOnly();
 };
 
 void tst_RowSort::sameAsPlain_data()
 {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<QString>("prefix");
-    QTest::addColumn<QString>("alphabet");
-    QTest::addColumn<int>("maxSize");
+    addColumns<int, QString, QString, int>({"size", "prefix", "alphabet", "maxSize"});
 
     const QString ascii = QStringLiteral("abcXYZ019_-. ~@[`{");
     QTest::newRow("none") << 0 << "" << ascii << 8;
@@ -170,8 +167,7 @@ void tst_RowSort::sameAsPlain()
 
 void tst_RowSort::knownOrderChangesNothing_data()
 {
-    QTest::addColumn<int>("knownSize");
-    QTest::addColumn<bool>("changed");
+    addColumns<int, bool>({"knownSize", "changed"});
     QTest::newRow("some new") << 1900 << false;
     QTest::newRow("nearly all new") << 3 << false;
     QTest::newRow("none new") << 2000 << false;
@@ -195,20 +191,6 @@ void tst_RowSort::knownOrderChangesNothing()
                     == plainlySorted(sample.records, role, order));
         }
     }
-}
-
-void tst_RowSort::caseMattersInPathsOnly()
-{
-    TreeItemData first;
-    first.name = QStringLiteral("Banana");
-    first.path = QStringLiteral("a");
-    TreeItemData second;
-    second.name = QStringLiteral("apple");
-    second.path = QStringLiteral("Z");
-    const Records records = {&first, &second};
-    const RowSort::Order swapped = {1, 0};
-    QVERIFY(RowSort::sorted(records, NameRole, Qt::AscendingOrder) == swapped);
-    QVERIFY(RowSort::sorted(records, PathTextRole, Qt::AscendingOrder) == swapped);
 }
 
 QTEST_GUILESS_MAIN(tst_RowSort)

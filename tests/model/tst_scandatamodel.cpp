@@ -1,4 +1,5 @@
 #include "model/scandatamodel.h"
+#include "support/datarow.h"
 
 #include <QAbstractItemModelTester>
 #include <QIcon>
@@ -116,20 +117,16 @@ class tst_ScanDataModel : public QObject
 private slots:
     void opening_data();
     void opening();
-    void foldersFirst();
     void rootTypeOfTheTop();
     void keepsTheContract();
     void growthIsLikeOpeningAnew();
     void manyRowsAreLikeOpenedAnew_data();
     void manyRowsAreLikeOpenedAnew();
     void deadRecordSaysNothing();
-    void sameAddressAnotherRecord();
     void implausibleChildren();
     void roles();
     void setDataWritesCheckStatesOnly();
     void checkAllAnnouncesOneRange();
-    void selectionFollowsASort();
-    void chosenSortIsKept();
     void clearSortKeepsTheRows();
     void rowsOfIds_data();
     void rowsOfIds();
@@ -141,9 +138,7 @@ private slots:
 
 void tst_ScanDataModel::opening_data()
 {
-    QTest::addColumn<qint64>("itemCount");
-    QTest::addColumn<qint64>("extraCount");
-    QTest::addColumn<int>("rows");
+    addColumns<qint64, qint64, int>({"itemCount", "extraCount", "rows"});
     QTest::newRow("known count") << qint64(1) << qint64(0) << 1;
     QTest::newRow("count 0") << qint64(0) << qint64(0) << 1;
     QTest::newRow("nothing known") << qint64(-1) << qint64(0) << 0;
@@ -165,21 +160,6 @@ void tst_ScanDataModel::opening()
     QCOMPARE(resets.count(), model.rowCount());
     model.openFolder(nullptr);
     QTEST(model.rowCount(), "rows");
-}
-
-void tst_ScanDataModel::foldersFirst()
-{
-    Host host;
-    TreeItemData *const file = host.addFile();
-    TreeItemData *const folder = host.addFolder();
-    ScanDataModel model;
-    model.openFolder(&host.root);
-    QCOMPARE(model.itemAt(0), folder);
-    QCOMPARE(model.itemAt(1), file);
-    QCOMPARE(model.index(1, 4).internalPointer(), static_cast<void *>(file));
-    QVERIFY(!model.index(2, 0).isValid());
-    QVERIFY(!model.index(0, 5).isValid());
-    QCOMPARE(model.columnCount(), 5);
 }
 
 void tst_ScanDataModel::rootTypeOfTheTop()
@@ -369,21 +349,6 @@ void tst_ScanDataModel::deadRecordSaysNothing()
     QVERIFY(!model.itemAt(persistent.row()));
 }
 
-void tst_ScanDataModel::sameAddressAnotherRecord()
-{
-    Host host;
-    TreeItemData *const first = host.addFile();
-    host.addFile();
-    ScanDataModel model;
-    model.openFolder(&host.root);
-    host.kill(first);
-    QCOMPARE(host.make(FileKind), first);
-    QVERIFY(!model.itemAt(0)); // not announced yet: nobody knows whether it belongs here
-    model.openFolder(&host.root);
-    QCOMPARE(model.itemAt(0), first);
-    QCOMPARE(model.unchangedPrefix(), 0);
-}
-
 void tst_ScanDataModel::implausibleChildren()
 {
     Host host;
@@ -482,61 +447,6 @@ void tst_ScanDataModel::checkAllAnnouncesOneRange()
     QCOMPARE(host.root.childFiles.constFirst()->checkState, 2);
 }
 
-void tst_ScanDataModel::selectionFollowsASort()
-{
-    Host host;
-    for (int i = 0; i < 200; ++i)
-        host.addFile();
-    ScanDataModel model;
-    model.openFolder(&host.root);
-    QItemSelectionModel selection(&model);
-    QSet<TreeItemData *> chosen;
-    for (int row = 0; row < 200; row += 7) {
-        selection.select(model.index(row, 0),
-                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        chosen.insert(model.itemAt(row));
-    }
-    selection.setCurrentIndex(model.index(42, 2), QItemSelectionModel::NoUpdate);
-    TreeItemData *const current = model.itemAt(42);
-    const int steps[] = {ScanDataModel::NameColumn, ScanDataModel::SizeColumn, 9};
-    for (const int column : steps) {
-        model.sort(column, Qt::DescendingOrder);
-        QSet<TreeItemData *> selected;
-        const QModelIndexList rows = selection.selectedRows();
-        for (const QModelIndex &index : rows) {
-            selected.insert(model.itemAt(index));
-            QCOMPARE(index.internalPointer(), static_cast<void *>(model.itemAt(index)));
-        }
-        QCOMPARE(selected, chosen);
-        QCOMPARE(model.itemAt(selection.currentIndex()), current);
-        QCOMPARE(selection.currentIndex().column(), 2);
-    }
-}
-
-void tst_ScanDataModel::chosenSortIsKept()
-{
-    Host host;
-    ScanDataModel model;
-    model.sort(ScanDataModel::SizeColumn, Qt::DescendingOrder); // chosen while there is nothing
-    for (int i = 0; i < 50; ++i) {
-        host.addFile();
-        host.addFolder();
-        bool isOrderedAtReset = false;
-        const auto connection = connect(&model, &QAbstractItemModel::modelReset, this, [&] {
-            isOrderedAtReset = true;
-            for (int row = 1; row < model.rowCount(); ++row) {
-                if (model.index(row - 1, 0).data(SizeRole).toLongLong()
-                    < model.index(row, 0).data(SizeRole).toLongLong())
-                    isOrderedAtReset = false;
-            }
-        });
-        model.openFolder(&host.root);
-        disconnect(connection);
-        QVERIFY(isOrderedAtReset);
-        host.root.childFolders.constFirst()->folderSize += 10; // folders grow as well
-    }
-}
-
 void tst_ScanDataModel::clearSortKeepsTheRows()
 {
     Host host;
@@ -556,8 +466,7 @@ void tst_ScanDataModel::clearSortKeepsTheRows()
 
 void tst_ScanDataModel::rowsOfIds_data()
 {
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<bool>("sorted");
+    addColumns<int, bool>({"rows", "sorted"});
     QTest::newRow("few") << 30 << false;
     QTest::newRow("few, sorted") << 30 << true;
     QTest::newRow("many") << 120000 << false; // two threads look

@@ -2,6 +2,8 @@
 #include "model/headersection.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
+#include "support/datarow.h"
+#include "support/pixels.h"
 
 #include <QMouseEvent>
 #include <QSignalSpy>
@@ -88,8 +90,6 @@ private slots:
     void clickZones();
     void sortsCycle();
     void quickClicksAllCount();
-    void checkBoxClick_data();
-    void checkBoxClick();
     void boxIsPaintedWhereItIsHit_data();
     void boxIsPaintedWhereItIsHit();
     void dragStopsAtMinimum_data();
@@ -191,29 +191,11 @@ void TestScanTableHeader::quickClicksAllCount()
     table.click(table.at(0, 16));
     QTest::mouseDClick(table.header->viewport(), Qt::LeftButton, {}, table.at(0, 16));
     QCOMPARE(table.checks, QVector<int>({2, 0}));
+    table.header->setCheckState(Qt::PartiallyChecked); // which is on the way to all
     QTest::mouseClick(table.header->viewport(), Qt::RightButton, {}, table.at(0, 16));
     QCOMPARE(table.checks.size(), 2);
-}
-
-void TestScanTableHeader::checkBoxClick_data()
-{
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
-    QTest::newRow("unchecked") << 0 << 2;
-    QTest::newRow("half checked checks all") << 1 << 2;
-    QTest::newRow("checked") << 2 << 0;
-}
-
-void TestScanTableHeader::checkBoxClick()
-{
-    QFETCH(int, before);
-    QFETCH(int, after);
-    Table table;
-    table.header->setCheckState(before);
-    QVERIFY(table.checks.isEmpty());
     table.click(table.at(0, 16));
-    QCOMPARE(table.checks, QVector<int>{after});
-    QCOMPARE(table.header->checkState(), after);
+    QCOMPARE(table.checks.last(), int(Qt::Checked));
 }
 
 void TestScanTableHeader::boxIsPaintedWhereItIsHit_data()
@@ -230,14 +212,7 @@ void TestScanTableHeader::boxIsPaintedWhereItIsHit()
     const auto picture = [&] { return table.header->viewport()->grab().toImage(); };
     const QImage empty = picture();
     table.header->setCheckState(Qt::Checked);
-    const QImage checked = picture();
-    QRect painted;
-    for (int y = 0; y < empty.height(); ++y) {
-        for (int x = 0; x < empty.width(); ++x) {
-            if (empty.pixel(x, y) != checked.pixel(x, y))
-                painted |= QRect(x, y, 1, 1);
-        }
-    }
+    const QRect painted = difference(empty, picture());
     const QPoint first = table.at(0, 8, 8);
     const QPoint last = table.at(0, 23, 23);
     const QRect box = QRect(QPoint(qMin(first.x(), last.x()), first.y()),
@@ -323,10 +298,7 @@ void TestScanTableHeader::otherColumnsAreResizedByTheBase()
 
 void TestScanTableHeader::textNeverReachesArrowOrEnd_data()
 {
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<int>("section");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("text");
+    addColumns<Qt::LayoutDirection, int, int, int>({"direction", "section", "width", "text"});
     for (Qt::LayoutDirection direction : Directions) {
         for (int section : {0, 1}) {
             for (int width : {60, 100, 220}) {
@@ -361,8 +333,7 @@ void TestScanTableHeader::textNeverReachesArrowOrEnd()
 
 void TestScanTableHeader::columnsFillTheViewport_data()
 {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("pane");
+    addColumns<int, bool>({"width", "pane"});
     for (int width : {640, 641, 799, 960, 1000, 1001, 1366, 1920, 3840}) {
         for (bool pane : {false, true})
             QTest::addRow("%d%s", width, pane ? ", pane" : "") << width << pane;
@@ -388,8 +359,7 @@ void TestScanTableHeader::columnsFillTheViewport()
 
 void TestScanTableHeader::narrowFit_data()
 {
-    QTest::addColumn<int>("viewport");
-    QTest::addColumn<QVector<int>>("widths");
+    addColumns<int, QVector<int>>({"viewport", "widths"});
     // others want 100, 80, 200 and need 60, 50, 70
     QTest::newRow("plenty") << 700 << QVector<int>{320, 100, 80, 200};
     QTest::newRow("first at its minimum") << 600 << QVector<int>{220, 100, 80, 200};
