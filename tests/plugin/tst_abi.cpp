@@ -1,5 +1,6 @@
 #include "model/headerviewsorttype.h"
 #include "plugin/sdcardscancontentplugininterface.h"
+#include "support/datarow.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -223,8 +224,7 @@ void TestAbi::metadataIsReadWithoutLoading()
 
 void TestAbi::layout_data()
 {
-    QTest::addColumn<QString>("today");
-    QTest::addColumn<QString>("written");
+    addColumns<QString, QString>({"today", "written"});
     QPluginLoader loader(file());
     const QObject *plugin = loader.instance();
     QVERIFY2(plugin, qPrintable(loader.errorString()));

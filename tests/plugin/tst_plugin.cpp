@@ -1,14 +1,11 @@
 #include "plugin/sdcardscancontentplugininterface.h"
+#include "support/datarow.h"
 #include "support/recordtree.h"
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QLabel>
 #include <QPluginLoader>
 #include <QSignalSpy>
-#include <QStackedWidget>
 #include <QTest>
 
 #include <functional>
@@ -21,17 +18,11 @@ class TestPlugin : public QObject
 private slots:
     void init();
     void cleanup();
-    void metadata();
-    void answersToItsNames();
-    void framesAreMadeOnceAndOnDemand();
     void everyOperationSurvivesAnyOrder();
     void openRequests_data();
     void openRequests();
     void selectAllAndSortStayOnTheirSide();
     void thumbnailIsAskedForOnce();
-    void scanEndReachesTheSearchSide();
-    void clearingSides();
-    void loadsAgainAfterUnloading();
 
 private:
     static QString file()
@@ -44,10 +35,6 @@ private:
         QFrame *found = QByteArray(frame) == "scan" ? m_plugin->getScanContentFrame()
                                                     : m_plugin->getSearchResultFrame();
         return found->findChild<QWidget *>(QStringLiteral("stackedWidget"))->parentWidget();
-    }
-    QString page(const char *frame) const
-    {
-        return content(frame)->findChild<QStackedWidget *>()->currentWidget()->objectName();
     }
 
     QPluginLoader m_loader;
@@ -68,66 +55,6 @@ void TestPlugin::cleanup()
 {
     QVERIFY(m_loader.unload());
     m_plugin = nullptr;
-}
-
-void TestPlugin::metadata()
-{
-    const QJsonObject outer = m_loader.metaData();
-    QCOMPARE(outer.value(QStringLiteral("IID")).toString(),
-             QStringLiteral("com.Quarvo.SDCardScanContentPluginInterface"));
-    QCOMPARE(outer.value(QStringLiteral("className")).toString(),
-             QStringLiteral("SDCardScanContentPlugin"));
-    const QJsonObject inner = outer.value(QStringLiteral("MetaData")).toObject();
-    QCOMPARE(inner.value(QStringLiteral("name")).toString(),
-             QStringLiteral("SDCardScanContentPlugin"));
-    QCOMPARE(inner.value(QStringLiteral("version")).toString(), QStringLiteral("1.0.0"));
-    QCOMPARE(inner.value(QStringLiteral("date")).toString(), QStringLiteral("2026/08/25"));
-    QCOMPARE(inner.value(QStringLiteral("des")).toString(),
-             QStringLiteral("SD 卡扫描页主内容区域插件：缩略图网格"));
-    QCOMPARE(inner.value(QStringLiteral("enabled")).toBool(), true);
-    QVERIFY(inner.value(QStringLiteral("dependencies")).isArray());
-    QVERIFY(inner.value(QStringLiteral("dependencies")).toArray().isEmpty());
-    QVERIFY(!inner.value(QStringLiteral("author")).toString().isEmpty());
-}
-
-void TestPlugin::answersToItsNames()
-{
-    for (const char *name : {"SDCardScanContentPlugin", "SDCardScanContentPluginInterface",
-                             "com.Quarvo.SDCardScanContentPluginInterface", "QObject"})
-        QVERIFY2(m_object->inherits(name) || m_object->qt_metacast(name), name);
-    QCOMPARE(m_loader.instance(), m_object);
-    const QMetaObject *meta = m_object->metaObject();
-    QStringList names;
-    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
-        if (meta->method(i).methodType() == QMetaMethod::Signal)
-            names.append(QString::fromLatin1(meta->method(i).methodSignature()));
-    }
-    QCOMPARE(names,
-             (QStringList{"signalTreeItemCheck(TreeItemData*,Qt::CheckState)",
-                          "signalSearchItemDataCheck(TreeItemData*,Qt::CheckState)",
-                          "signalSearchSelectAllChecked(Qt::CheckState)",
-                          "signalFolderDoubleClicked(TreeItemData*)",
-                          "signalFileDoubleClicked(TreeItemData*,QString)",
-                          "signalSortClicked(TreeItemData*,HeaderViewSortType)",
-                          "signalLocateFile(TreeItemData*)", "signalSaveThumbnail(TreeItemData*)",
-                          "signalGetMetaData(TreeItemData*)",
-                          "signalRightMenuRecover(TreeItemData*)", "signalShowTooltip(QString)"}));
-}
-
-void TestPlugin::framesAreMadeOnceAndOnDemand()
-{
-    m_plugin->setViewMode(1);
-    m_plugin->setViewMode(0);
-    QFrame *scan = m_plugin->getScanContentFrame();
-    QCOMPARE(scan->objectName(), QStringLiteral("sdcardScanContentInnerFrame"));
-    QCOMPARE(m_plugin->getScanContentFrame(), scan);
-    QFrame *search = m_plugin->getSearchResultFrame();
-    QCOMPARE(search->objectName(), QStringLiteral("sdcardScanSearchResultInnerFrame"));
-    QVERIFY(search != scan);
-    QVERIFY(!scan->parent());
-    // A host that shares no code with us reaches these by name.
-    for (const char *name : {"FontManager", "ZVLangManager", "ThemeManager"})
-        QVERIFY2(qApp->property(name).value<void *>(), name);
 }
 
 void TestPlugin::everyOperationSurvivesAnyOrder()
@@ -182,10 +109,7 @@ void TestPlugin::everyOperationSurvivesAnyOrder()
 
 void TestPlugin::openRequests_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<int>("folderSignals");
-    QTest::addColumn<int>("fileSignals");
+    addColumns<int, QString, int, int>({"kind", "source", "folderSignals", "fileSignals"});
     QTest::newRow("folder, double click") << 1 << "double_click" << 1 << 0;
     QTest::newRow("folder-like node, preview") << 0 << "preview_btn" << 1 << 0;
     QTest::newRow("folder from the menu is dropped") << 1 << "right_click_menu" << 0 << 0;
@@ -274,54 +198,6 @@ void TestPlugin::thumbnailIsAskedForOnce()
     m_plugin->updateThumbnail(tree.root.childFiles.first()->fileId, picture);
     QTRY_VERIFY(scan->grab().toImage() != before);
     m_plugin->clearData(0);
-}
-
-void TestPlugin::scanEndReachesTheSearchSide()
-{
-    RecordTree tree;
-    m_plugin->getSearchResultFrame();
-    m_plugin->setScanState(1);
-    QCOMPARE(page("scan"), QStringLiteral("scanningpage"));
-    m_plugin->setScanState(4);
-    QCOMPARE(page("scan"), QStringLiteral("nodatapage"));
-    QCOMPARE(page("search"), QStringLiteral("scandatapage"));
-}
-
-void TestPlugin::clearingSides()
-{
-    RecordTree tree;
-    tree.addFiles(4);
-    m_plugin->updateScanData(&tree.root);
-    m_plugin->updateSearchDataNoKeyword(&tree.root);
-    const auto rows = [this](const char *side) {
-        return content(side)
-            ->findChild<QAbstractItemView *>(QStringLiteral("listView"))
-            ->model()
-            ->rowCount();
-    };
-    m_plugin->clearData(3);
-    QCOMPARE(rows("scan"), 4);
-    m_plugin->clearData(2);
-    QCOMPARE(rows("scan"), 4);
-    QCOMPARE(rows("search"), 0);
-    m_plugin->clearData(0);
-    QCOMPARE(rows("scan"), 0);
-}
-
-void TestPlugin::loadsAgainAfterUnloading()
-{
-    RecordTree tree;
-    tree.addFiles(4);
-    for (int i = 0; i < 3; ++i) {
-        m_plugin->getScanContentFrame()->show();
-        m_plugin->updateScanData(&tree.root);
-        m_plugin->getScanContentFrame()->grab();
-        QVERIFY(m_loader.unload());
-        QCoreApplication::processEvents();
-        m_object = m_loader.instance();
-        QVERIFY(m_object);
-        m_plugin = qobject_cast<SDCardScanContentPluginInterface *>(m_object);
-    }
 }
 
 QTEST_MAIN(TestPlugin)

@@ -23,8 +23,6 @@ private slots:
     void damagedPhotoCannotBeWhole();
     void photosDecode();
     void secondCardHasTheSameFiles();
-    void wrongUsage_data();
-    void wrongUsage();
 
 private:
     static QJsonArray makeCard(const QString &image);
@@ -168,29 +166,6 @@ void SampleCardTest::photosDecode()
 void SampleCardTest::secondCardHasTheSameFiles()
 {
     QCOMPARE(makeCard(m_folder.filePath(QStringLiteral("again.img"))), m_files);
-}
-
-void SampleCardTest::wrongUsage_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::newRow("no output") << QStringList() << 2;
-    QTest::newRow("two outputs") << QStringList{QStringLiteral("a"), QStringLiteral("b")} << 2;
-    QTest::newRow("shrink is no number")
-        << QStringList{QStringLiteral("--shrink"), QStringLiteral("x"), QStringLiteral("a")} << 2;
-    QTest::newRow("folder does not exist")
-        << QStringList{QStringLiteral("--shrink"), QStringLiteral("8"),
-                       m_folder.filePath(QStringLiteral("none/card.img"))}
-        << 1;
-}
-
-void SampleCardTest::wrongUsage()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, exitCode);
-    QByteArray errors;
-    QCOMPARE(runTool(arguments, &errors), exitCode);
-    QVERIFY(!errors.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(SampleCardTest)

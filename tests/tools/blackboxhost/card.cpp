@@ -1,9 +1,5 @@
 #include "card.h"
 
-#include <QLinearGradient>
-#include <QPainter>
-#include <QPainterPath>
-
 namespace {
 
 constexpr qint64 FirstId = 88000000;
@@ -70,27 +66,4 @@ void Card::uncheckAll()
     root.checkState = folder->checkState = Qt::Unchecked;
     for (TreeItemData *item : qAsConst(root.childFiles))
         item->checkState = Qt::Unchecked;
-}
-
-QPixmap Card::thumbnailOf(const TreeItemData &item)
-{
-    QPixmap picture(300, 166);
-    const int hue = int(item.fileId * 47 % 360);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient sky(0, 0, 0, picture.height());
-    sky.setColorAt(0, QColor::fromHsv(hue, 120, 240));
-    sky.setColorAt(1, QColor::fromHsv(hue, 30, 250));
-    painter.fillRect(picture.rect(), sky);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(255, 250, 220));
-    painter.drawEllipse(QPoint(40 + hue / 2, 45), 18, 18);
-    QPainterPath hills;
-    hills.moveTo(0, picture.height());
-    hills.cubicTo(60, 40 + hue / 6, 110, 120, 170, 100);
-    hills.cubicTo(220, 60 + hue / 8, 260, 110, 300, 90);
-    hills.lineTo(picture.width(), picture.height());
-    painter.setBrush(QColor::fromHsv((hue + 150) % 360, 110, 120));
-    painter.drawPath(hills);
-    return picture;
 }

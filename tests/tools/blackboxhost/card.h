@@ -2,8 +2,6 @@
 
 #include <treeitemdata.h>
 
-#include <QPixmap>
-
 /// The records of a made-up card, with fileIds that no other program writes thumbnails for.
 struct Card
 {
@@ -11,8 +9,6 @@ struct Card
 
     TreeItemData *file(const QString &name) const;
     void uncheckAll();
-    /// What a host would have made of \a item.
-    static QPixmap thumbnailOf(const TreeItemData &item);
 
     TreeItemData root;
     TreeItemData nothing; ///< a root without children

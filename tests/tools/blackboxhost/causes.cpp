@@ -1,5 +1,5 @@
 #include "hand.h"
-#include "operations.h"
+#include "proofs.h"
 #include "report.h"
 #include "stage.h"
 

@@ -1,10 +1,7 @@
-#include "desktop.h"
-
-#include "hand.h"
+#include "proofs.h"
 #include "report.h"
 #include "stage.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFontInfo>
@@ -87,40 +84,4 @@ void proveFonts(Stage &stage)
     const QString text = stage.scan.child<QPushButton>("sizeButton")->text();
     Report::tell(text == QLatin1String("Size"), QStringLiteral("the catalogue has the texts"),
                  text);
-}
-
-void takePictures(Stage &stage, const QString &folder)
-{
-    QDir().mkpath(folder);
-    stage.answer();
-    stage.begin();
-    const auto take = [&](const QString &name) {
-        const QString file = folder + QLatin1Char('/') + name + QStringLiteral(".png");
-        Report::tell(stage.window.grab().save(file), QStringLiteral("picture"), file);
-    };
-    for (const QString &name : {QStringLiteral("IMG_0002.JPG"), QStringLiteral("MVI_0061.MP4")}) {
-        Hand::click(stage.scan.view()->viewport(),
-                    Hand::placeOn(stage.scan.view(), stage.scan.index(name), Hand::OnCheckBox));
-    }
-    for (const THEMETYPE theme : {LightTheme, DarkTheme}) {
-        const QString suffix = theme == DarkTheme ? QStringLiteral("-dark")
-                                                  : QStringLiteral("-light");
-        stage.view->updateTheme(theme);
-        stage.view->setViewMode(View::GridView);
-        Report::happens([&] {
-            return theme == DarkTheme
-                || stage.ear.hasHeard("signalSaveThumbnail(TreeItemData*)",
-                                      QStringLiteral("IMG_0020.JPG"));
-        });
-        QCoreApplication::processEvents();
-        take(QStringLiteral("grid") + suffix);
-        stage.view->setViewMode(View::ListWithDetailView);
-        const TreeItemData *item = stage.card.file(QStringLiteral("IMG_0004.JPG"));
-        Hand::click(stage.scan.view()->viewport(),
-                    Hand::placeOn(stage.scan.view(), stage.scan.index(item->name), Hand::OnName));
-        Report::happens([&] { return !item->metaData.isEmpty(); });
-        QCoreApplication::processEvents();
-        take(QStringLiteral("list") + suffix);
-    }
-    stage.view->updateTheme(LightTheme);
 }

@@ -1,6 +1,5 @@
-#include "operations.h"
-
 #include "hand.h"
+#include "proofs.h"
 #include "report.h"
 #include "stage.h"
 
@@ -10,6 +9,16 @@
 namespace {
 
 const QString s_last = QStringLiteral("IMG_0060.JPG");
+
+/// Of the view's model.
+enum Role {
+    PathTextRole = Qt::UserRole,
+    ModifiedTimeRole = PathTextRole + 2,
+    KindRole,
+    FileIdRole,
+    SecondaryIdRole,
+    SizeRole
+};
 
 /// Whether all of some facts hold; the first that does not is told.
 class Facts
@@ -80,6 +89,7 @@ void setViewMode(Stage &s, Facts &fact)
         s.view->setViewMode(View::ListView);
         fact(side.view() == side.table() && !side.shows("itemDetailframe"), "a list without it");
         s.view->setViewMode(View::GridView);
+        s.view->setViewMode(17);
         fact(side.view() == side.grid() && !side.table()->isVisibleTo(side.frame()), "the grid");
     }
 }
@@ -108,6 +118,13 @@ void updateScanData(Stage &s, Facts &fact)
 {
     fact(isOn(s.scan, "scandatapage") && s.scan.rows() == s.card.root.itemCount,
          "the records")(s.scan.names().constFirst() == s.card.folder->name, "folders first");
+    const TreeItemData *photo = s.card.file(s_last);
+    const auto told = [&](int role) { return s.scan.index(s_last).data(role); };
+    fact(told(PathTextRole).toString().contains(photo->path)
+             && told(ModifiedTimeRole) == photo->modifiedTime && told(KindRole) == photo->kind
+             && told(FileIdRole) == photo->fileId && told(SecondaryIdRole) == photo->secondaryId
+             && told(SizeRole) == photo->fileSize,
+         "read where the host wrote");
     s.view->updateScanData(s.card.folder);
     fact(s.scan.rows() == 2 && s.search.rows() == s.card.root.itemCount, "another root");
     s.view->updateScanData(nullptr);
@@ -209,9 +226,25 @@ void setFilterCondition(Stage &s, Facts &fact)
     s.view->setFilterCondition(&filter);
     s.view->updateScanData(&s.card.nothing);
     fact(isOn(s.scan, "nodatapage"), "a filter that is not active");
-    filter.minSize = 1;
-    s.view->updateScanData(&s.card.nothing);
-    fact(isOn(s.scan, "nofilterpage"), "one that is");
+    void (*const settings[])(FilterCondition &) = {
+        [](FilterCondition &f) { f.minSize = 1; },
+        [](FilterCondition &f) { f.maxSize = 0; },
+        [](FilterCondition &f) { f.minTime = -2; }, // only -1 is none
+        [](FilterCondition &f) { f.maxTime = 1; },
+        [](FilterCondition &f) { f.text1 = QStringLiteral("a"); },
+        [](FilterCondition &f) { f.text2 = QStringLiteral("a"); },
+        [](FilterCondition &f) { f.list1 = QStringList{QString()}; },
+        [](FilterCondition &f) { f.list2 = QStringList{QString()}; },
+        [](FilterCondition &f) { f.mode = 0; },
+    };
+    for (const auto set : settings) {
+        FilterCondition active;
+        set(active);
+        s.view->setFilterCondition(&active);
+        s.view->updateScanData(&s.card.nothing);
+        fact(isOn(s.scan, "nofilterpage"), "one that is");
+    }
+    s.view->setFilterCondition(&filter);
     const auto hint = [&] {
         s.view->updateSearchData(&s.card.nothing, QStringLiteral("word"));
         return QByteArray(s.search.page()->metaObject()->className());

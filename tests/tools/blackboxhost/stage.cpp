@@ -6,41 +6,11 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-class Stage::Answers : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Answers(View *view)
-        : m_view(view)
-    {
-    }
-
-public slots:
-    void thumbnail(TreeItemData *item)
-    {
-        if (item->fileCategory != 0)
-            m_view->updateThumbnail(item->fileId, Card::thumbnailOf(*item));
-    }
-    void metaData(TreeItemData *item)
-    {
-        item->metaData = {{QStringLiteral("make"), QStringLiteral("Quarvo")},
-                          {QStringLiteral("isoSpeed"), QStringLiteral("200")},
-                          {QStringLiteral("Resolution"), QStringLiteral("6000 x 4000")}};
-        emit item->metaDataChanged();
-    }
-
-private:
-    View *m_view;
-};
-
 Stage::Stage(QObject *plugin)
     : view(qobject_cast<View *>(plugin))
     , scan(view->getScanContentFrame())
     , search(view->getSearchResultFrame())
     , ear(plugin)
-    , m_answers(std::make_unique<Answers>(view))
-    , m_plugin(plugin)
 {
     auto *layout = new QVBoxLayout(&window);
     layout->setContentsMargins({});
@@ -82,13 +52,3 @@ void Stage::begin()
     QCoreApplication::processEvents();
     ear.heard.clear();
 }
-
-void Stage::answer()
-{
-    QObject::connect(m_plugin, SIGNAL(signalSaveThumbnail(TreeItemData *)), m_answers.get(),
-                     SLOT(thumbnail(TreeItemData *)), Qt::UniqueConnection);
-    QObject::connect(m_plugin, SIGNAL(signalGetMetaData(TreeItemData *)), m_answers.get(),
-                     SLOT(metaData(TreeItemData *)), Qt::UniqueConnection);
-}
-
-#include "stage.moc"

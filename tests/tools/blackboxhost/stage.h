@@ -6,8 +6,6 @@
 
 #include <sdcardscancontentplugininterface.h>
 
-#include <memory>
-
 using View = SDCardScanContentPluginInterface;
 
 /// The host's window with both frames, the card that they show, and what the plug-in says.
@@ -23,8 +21,6 @@ public:
     /// A finished scan in the light grid, a search with three results, nothing checked, chosen or
     /// heard.
     void begin();
-    /// Requests for thumbnails and metadata are answered from now on.
-    void answer();
 
     View *view;
     Card card;
@@ -32,9 +28,4 @@ public:
     Side scan;
     Side search;
     Ear ear;
-
-private:
-    class Answers;
-    std::unique_ptr<Answers> m_answers;
-    QObject *m_plugin;
 };

@@ -3,6 +3,11 @@
 class QString;
 class Stage;
 
+/// Calls every operation of the interface, each from a fresh start, and looks at what came of it.
+void proveOperations(Stage &stage);
+/// Causes every signal by mouse or keyboard.
+void proveSignals(Stage &stage);
+
 /// Gives the desktop an icon for contacts where desktops take theirs from themes. Before the first
 /// frame is made.
 void provideDesktopIcons(const QString &folder);
@@ -10,5 +15,3 @@ void provideDesktopIcons(const QString &folder);
 void proveDesktopIcons(Stage &stage);
 /// Names are painted with glyphs.
 void proveFonts(Stage &stage);
-/// Writes what a user sees, in both themes, to PNG files in \a folder.
-void takePictures(Stage &stage, const QString &folder);
