@@ -5,6 +5,8 @@
 #include "host/ui/bulkmenu.h"
 #include "host/ui/mainwindow.h"
 #include "host/ui/messagebanner.h"
+#include "support/catalogue.h"
+#include "support/writefile.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -20,36 +22,11 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
-#include <QXmlStreamReader>
 
 namespace {
 
 constexpr int Files = 60;
 constexpr int Photos = 20;
-
-/// Context and source text to the first form of the translation.
-QMap<QString, QString> readCatalogue(const QString &file)
-{
-    QMap<QString, QString> texts;
-    QFile in(QStringLiteral(SOURCE_FOLDER "/") + file);
-    if (!in.open(QIODevice::ReadOnly))
-        return texts;
-    QXmlStreamReader xml(&in);
-    QString context;
-    QString source;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == QLatin1String("name"))
-            context = xml.readElementText();
-        else if (xml.name() == QLatin1String("source"))
-            source = xml.readElementText();
-        else if (xml.name() == QLatin1String("translation"))
-            texts.insert(context + QLatin1Char('/') + source,
-                         xml.readElementText(QXmlStreamReader::SkipChildElements));
-    }
-    return texts;
-}
 
 QStringList textsOf(const QWidget &window)
 {
@@ -118,14 +95,9 @@ void TestHostWindow::initTestCase()
 {
     QVERIFY(m_folder.isValid());
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
-    QVERIFY(QDir().mkpath(card() + QStringLiteral("/DCIM")));
     for (int i = 0; i < Files; ++i) {
-        QFile file(QStringLiteral("%1/DCIM/file %2.%3")
-                       .arg(card())
-                       .arg(i)
-                       .arg(i < Photos ? QStringLiteral("jpg") : QStringLiteral("txt")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("x");
+        const QString name = QStringLiteral("/DCIM/file %1.%2").arg(i);
+        QVERIFY(writeFile(card() + name.arg(i < Photos ? "jpg" : "txt"), "x"));
     }
 }
 
@@ -172,15 +144,16 @@ void TestHostWindow::noTextStaysBehind()
     QSet<QString> stale; // what another language says otherwise
     for (const QString &name : {QStringLiteral("host/resources/translations/quarvo-host"),
                                 QStringLiteral("resources/translations/quarvo")}) {
-        const auto english = readCatalogue(name + QStringLiteral("_en.ts"));
-        const auto other = readCatalogue(name + QLatin1Char('_') + code + QStringLiteral(".ts"));
+        const QString file = QStringLiteral(SOURCE_FOLDER "/%1_%2.ts").arg(name);
+        const auto english = Catalogue::read(file.arg(QStringLiteral("en"))).texts;
+        const auto other = Catalogue::read(file.arg(code)).texts;
         QVERIFY(!english.isEmpty() && !other.isEmpty());
         for (auto it = english.begin(); it != english.end(); ++it) {
-            if (other.value(it.key()) != it.value())
-                stale.insert(it.value());
+            if (other.value(it.key()).forms.value(0) != it->forms.value(0))
+                stale.insert(it->forms.value(0));
         }
-        for (const QString &text : other)
-            stale.remove(text);
+        for (const CatalogueText &text : other)
+            stale.remove(text.forms.value(0));
     }
     Languages::apply(*Languages::find(code));
     QTRY_VERIFY(!textsOf(*m_window).contains(QStringLiteral("Search by name")));

@@ -1,6 +1,7 @@
 #include "host/scan/filecategory.h"
 #include "host/tree/itemdescription.h"
 #include "host/tree/itemrecord.h"
+#include "support/datarow.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -41,8 +42,7 @@ void TestItemDescription::cleanup()
 
 void TestItemDescription::matches_data()
 {
-    QTest::addColumn<QString>("description");
-    QTest::addColumn<bool>("matches");
+    addColumns<QString, bool>({"description", "matches"});
     const auto row = [](const char *description, bool matches) {
         QTest::newRow(description) << QString::fromLatin1(description) << matches;
     };

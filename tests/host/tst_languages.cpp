@@ -37,8 +37,7 @@ private slots:
 
 void TestLanguages::spellings_data()
 {
-    QTest::addColumn<QString>("spelling");
-    QTest::addColumn<QString>("name");
+    addColumns<QString, QString>({"spelling", "name"});
     addRow("as it stands", "Chinese Simplified", "Chinese Simplified");
     addRow("small letters and a hyphen", "chinese-simplified", "Chinese Simplified");
     addRow("in one word", "ChineseSimplified", "Chinese Simplified");

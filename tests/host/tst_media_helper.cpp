@@ -1,6 +1,7 @@
 #include "foundfolder.h"
 
 #include "host/media/thumbnailmaker.h"
+#include "support/datarow.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -207,22 +208,16 @@ void TestMediaHelper::leavesAHangingHelper()
 {
     const FoundFolder folder({{QStringLiteral("0.gif"), "contents"}});
     MediaSetup patient = setup();
-    patient.workMs = 60000;
-    QElapsedTimer timer;
-    {
-        ThumbnailMaker maker(nullptr, std::make_shared<MediaPool>(patient));
-        maker.setSource(folder.source);
-        maker.request(folder.items.first(), QStringLiteral("gif"));
-        QTRY_COMPARE(starts(), 1);
-        timer.start();
-    }
-    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
+    patient.workMs = 3600 * 1000; // which no test has
+    ThumbnailMaker maker(nullptr, std::make_shared<MediaPool>(patient));
+    maker.setSource(folder.source);
+    maker.request(folder.items.first(), QStringLiteral("gif"));
+    QTRY_COMPARE(starts(), 1);
 }
 
 void TestMediaHelper::withoutHelper_data()
 {
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<bool>("mute");
+    addColumns<QString, bool>({"program", "mute"});
     QTest::newRow("not installed") << QString() << false;
     QTest::newRow("no program") << QStringLiteral("/nowhere/quarvo-media") << false;
     QTest::newRow("says nothing") << setup().program << true;

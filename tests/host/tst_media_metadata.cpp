@@ -3,6 +3,7 @@
 #include "host/media/metadatareader.h"
 #include "host/media/thumbnailmaker.h"
 #include "host/scan/filecategory.h"
+#include "support/datarow.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
@@ -123,8 +124,7 @@ void TestMediaMetadata::oddValues()
 
 void TestMediaMetadata::videos_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("resolution");
+    addColumns<QString, QString>({"name", "resolution"});
     QTest::newRow("plain") << "video.mp4" << QStringLiteral("320 \u00d7 180");
     QTest::newRow("turned") << "turned.mp4" << QStringLiteral("180 \u00d7 320");
 }
@@ -141,9 +141,7 @@ void TestMediaMetadata::videos()
 
 void TestMediaMetadata::thumbnails_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QColor>("color");
+    addColumns<QString, QSize, QColor>({"name", "size", "color"});
     QTest::newRow("photo") << "full.jpg" << QSize(300, 400) << QColor(Qt::red);
     QTest::newRow("raw file's preview") << "raw.dng" << QSize(300, 400) << QColor(Qt::green);
     QTest::newRow("a wreck's stamp") << "wreck.jpg" << QSize(160, 120) << QColor(Qt::green);
@@ -176,8 +174,7 @@ void TestMediaMetadata::thumbnails()
 
 void TestMediaMetadata::hostile_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
+    addColumns<QString, QByteArray>({"name", "bytes"});
     QByteArray noise(100000, 0);
     QRandomGenerator random(20240518);
     for (char &byte : noise)

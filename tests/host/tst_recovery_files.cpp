@@ -1,6 +1,8 @@
 #include "host/recovery/recoveryjob.h"
 #include "host/recovery/safename.h"
 #include "host/scan/scanids.h"
+#include "support/datarow.h"
+#include "support/writefile.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -147,8 +149,7 @@ RecoveryReport TestRecoveryFiles::recover(const QString &folder)
 
 void TestRecoveryFiles::safeNames_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("safe");
+    addColumns<QString, QString>({"name", "safe"});
     const auto row = [](const char *what, const QString &name, const QString &safe) {
         QTest::newRow(what) << name << safe;
     };
@@ -226,14 +227,11 @@ void TestRecoveryFiles::neverOverwrites()
 {
     for (int i = 0; i < 3; ++i)
         m_source->add(QString(), QStringLiteral("photo.tar.gz"), QByteArray::number(i));
-    QVERIFY(QDir().mkpath(target()));
-    QFile mine(target() + QStringLiteral("/photo.tar.gz"));
-    QVERIFY(mine.open(QIODevice::WriteOnly));
-    mine.write("mine");
-    mine.close();
+    const QString mine = target() + QStringLiteral("/photo.tar.gz");
+    QVERIFY(writeFile(mine, "mine"));
     QCOMPARE(recover(target()).recovered.size(), 3);
     QCOMPARE(recover(target()).recovered.size(), 3); // a second time beside the first
-    QCOMPARE(readAll(mine.fileName()), QByteArray("mine"));
+    QCOMPARE(readAll(mine), QByteArray("mine"));
     for (int number = 2; number <= 7; ++number) {
         const QString name = QStringLiteral("/photo.tar (%1).gz").arg(number);
         QCOMPARE(readAll(target() + name), QByteArray::number((number - 2) % 3));
@@ -242,8 +240,7 @@ void TestRecoveryFiles::neverOverwrites()
 
 void TestRecoveryFiles::hostileNamesStayInside_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("name");
+    addColumns<QString, QString>({"path", "name"});
     QTest::newRow("name goes up") << QString() << QStringLiteral("../outside.txt");
     QTest::newRow("folder goes up")
         << QStringLiteral("a/../../..") << QStringLiteral("outside.txt");
@@ -327,9 +324,7 @@ void TestRecoveryFiles::fullTarget()
 void TestRecoveryFiles::unusableTarget()
 {
     // A file stands where the folder should be: even root cannot write there.
-    QFile file(target());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
+    QVERIFY(writeFile(target(), {}));
     for (int i = 0; i < 3; ++i)
         m_source->add(QString(), QStringLiteral("photo%1.jpg").arg(i), "x");
     for (const QString &folder : {target(), target() + QStringLiteral("/below")}) {

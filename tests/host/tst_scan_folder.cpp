@@ -1,4 +1,5 @@
 #include "host/scan/scanrunner.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,11 +32,7 @@ private slots:
 private:
     void put(const QString &name, const QByteArray &contents)
     {
-        const QFileInfo info(m_dir->filePath(name));
-        QVERIFY(QDir().mkpath(info.path()));
-        QFile file(info.filePath());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(contents), qint64(contents.size()));
+        QVERIFY(writeFile(m_dir->filePath(name), contents));
     }
     void fill(int folders, int filesEach)
     {
@@ -198,9 +195,7 @@ void TestScanFolder::aNewScanReplacesTheOld()
 {
     fill(10, 50);
     QTemporaryDir other;
-    QFile file(other.filePath(QStringLiteral("only.txt")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
+    QVERIFY(writeFile(other.filePath(QStringLiteral("only.txt")), {}));
     ScanRunner runner;
     QSignalSpy finished(&runner, &ScanRunner::finished);
     QVector<FoundItem> items;

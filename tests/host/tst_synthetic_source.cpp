@@ -1,6 +1,7 @@
 #include "host/scan/scanrunner.h"
 #include "host/scan/syntheticshots.h"
 #include "host/scan/syntheticsource.h"
+#include "support/datarow.h"
 
 #include <QImage>
 #include <QSignalSpy>
@@ -134,8 +135,7 @@ void TestSyntheticSource::lostContentsAreTold()
 
 void TestSyntheticSource::pathNamesTheCount_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<int>("count");
+    addColumns<QString, int>({"path", "count"});
     QTest::newRow("a count") << SyntheticSource::pathFor(1000000) << 1000000;
     QTest::newRow("none") << "items:0" << 0;
     QTest::newRow("below zero") << "items:-5" << 0;

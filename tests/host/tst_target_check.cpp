@@ -24,7 +24,6 @@ private slots:
     void images();
     void mounts_data();
     void mounts();
-    void disksOfTheComputerAreNoCards();
     void room();
 
 private:
@@ -74,9 +73,7 @@ bool TestTargetCheck::mount(const QStringList &arguments, const QString &point)
 
 void TestTargetCheck::folders_data()
 {
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<bool>("refused");
+    addColumns<QString, QString, bool>({"source", "target", "refused"});
     addRow("beside it", "card", "other", false);
     addRow("a name that only begins alike", "card", "cards", false);
     addRow("the folder above", "card/DCIM", "card", false);
@@ -107,9 +104,7 @@ void TestTargetCheck::folders()
 
 void TestTargetCheck::images_data()
 {
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<bool>("refused");
+    addColumns<QString, QString, bool>({"source", "target", "refused"});
     addRow("the folder that holds it", "card.img", ".", false);
     addRow("itself", "card.img", "card.img", true);
     addRow("below it", "card.img", "card.img/out", true);
@@ -129,10 +124,7 @@ void TestTargetCheck::images()
 
 void TestTargetCheck::mounts_data()
 {
-    QTest::addColumn<QStringList>("mounting");
-    QTest::addColumn<QString>("point");
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("target");
+    addColumns<QStringList, QString, QString, QString>({"mounting", "point", "source", "target"});
     addRow("the folder bound elsewhere", QStringList{"--bind", at("card")}, "bound", "card",
            "bound/new");
     addRow("a part of the folder bound elsewhere", QStringList{"--bind", at("card/DCIM")}, "part",
@@ -157,14 +149,6 @@ void TestTargetCheck::mounts()
     const QString reason = TargetCheck::refusal(at(source), at(target));
     QVERIFY(!reason.isEmpty());
     QCOMPARE(TargetCheck::refusal(at(source), at("other")), QString());
-}
-
-void TestTargetCheck::disksOfTheComputerAreNoCards()
-{
-    QVERIFY(!System::disksOf(QDir::rootPath()).isEmpty());
-    QVERIFY(System::disksOf(at("nowhere")).isEmpty());
-    QVERIFY(!System::isInside(at("nowhere"), at("card")));
-    QVERIFY(!System::isInside(at("card"), at("nowhere")));
 }
 
 void TestTargetCheck::room()

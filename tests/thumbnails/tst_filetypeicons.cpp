@@ -18,10 +18,7 @@ private slots:
 
 void tst_FileTypeIcons::families_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("category");
-    QTest::addColumn<QString>("extension");
-    QTest::addColumn<QString>("expected");
+    addColumns<int, int, QString, QString>({"kind", "category", "extension", "expected"});
     addRow("folder", 1, 8, "jpg", "icon64_File_Folder");
     addRow("folder-like", 0, 0, "", "icon64_File_Folder");
     addRow("first category", 2, 2, "", "icon64_File_Audio");

@@ -1,3 +1,4 @@
+#include "support/datarow.h"
 #include "thumbnails/highdpipixmapsmanager.h"
 
 #include <QLabel>
@@ -75,8 +76,7 @@ private slots:
 
 void TestHighDpiPixmapsManager::cutsEachFrameFromItsPlace_data()
 {
-    QTest::addColumn<int>("frames");
-    QTest::addColumn<int>("perRow");
+    addColumns<int, int>({"frames", "perRow"});
     QTest::newRow("one row") << 5 << 5;
     QTest::newRow("last row short") << 11 << 4;
     QTest::newRow("last row of one") << 9 << 4;
@@ -123,9 +123,7 @@ void TestHighDpiPixmapsManager::brokenSheetIsLogged()
 void TestHighDpiPixmapsManager::skips_data()
 {
     constexpr quint64 Gibibyte = 1073741824;
-    QTest::addColumn<quint64>("memory");
-    QTest::addColumn<bool>("forbidden");
-    QTest::addColumn<bool>("skipped");
+    addColumns<quint64, bool, bool>({"memory", "forbidden", "skipped"});
     QTest::newRow("exactly the least") << Gibibyte << false << true;
     QTest::newRow("a byte more") << Gibibyte + 1 << false << false;
     QTest::newRow("unknown") << quint64(0) << false << true;
@@ -151,9 +149,7 @@ void TestHighDpiPixmapsManager::skips()
 
 void TestHighDpiPixmapsManager::framesOfEverySheet_data()
 {
-    QTest::addColumn<int>("sheet");
-    QTest::addColumn<int>("frames");
-    QTest::addColumn<int>("side");
+    addColumns<int, int, int>({"sheet", "frames", "side"});
     QTest::newRow("disk") << int(Sheet::LoadDisk) << 24 << 224;
     QTest::newRow("backing") << int(Sheet::Backing) << 24 << 224;
     QTest::newRow("progress") << int(Sheet::ScanProgress) << 75 << 112;

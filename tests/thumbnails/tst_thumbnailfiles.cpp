@@ -1,3 +1,4 @@
+#include "support/datarow.h"
 #include "thumbnails/thumbnailfiles.h"
 
 #include <QDir>
@@ -16,9 +17,7 @@ private slots:
 
 void tst_ThumbnailFiles::names_data()
 {
-    QTest::addColumn<qint64>("fileId");
-    QTest::addColumn<QString>("extension");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<qint64, QString, QStringList>({"fileId", "extension", "expected"});
     QTest::newRow("photo") << qint64(123) << "jpg"
                            << QStringList{"jpg/123_repaired.jpg", "jpg/123_thumbnail.png",
                                           "jpg/123_thumbnail.jpg", "jpg/123.png"};
@@ -50,8 +49,7 @@ void tst_ThumbnailFiles::names()
 
 void tst_ThumbnailFiles::repairedPreviewByName_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("expected");
+    addColumns<QString, bool>({"path", "expected"});
     QTest::newRow("repaired") << "C:/somewhere/7_repaired.jpg" << true;
     QTest::newRow("dots in the extension's place") << "/tmp/7_repaired.tar.gz" << false;
     QTest::newRow("another item's") << "/tmp/17_repaired.jpg" << false;

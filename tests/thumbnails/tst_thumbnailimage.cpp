@@ -1,10 +1,13 @@
 #include "thumbnails/thumbnailimage.h"
 
+#include "support/datarow.h"
+#include "support/pngparts.h"
+#include "support/writefile.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
-#include <QtEndian>
 
 #include <algorithm>
 #include <memory>
@@ -33,25 +36,6 @@ bool isBlue(QRgb pixel)
     return qBlue(pixel) > 200 && qRed(pixel) < 50;
 }
 
-/// A file that says it is \a size large and holds next to nothing.
-QByteArray pngHeader(const QSize &size)
-{
-    QByteArray header("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
-    const quint32 sides[] = {qToBigEndian(quint32(size.width())),
-                             qToBigEndian(quint32(size.height()))};
-    QByteArray chunk("IHDR");
-    chunk.append(reinterpret_cast<const char *>(sides), sizeof sides);
-    chunk.append("\x08\x02\0\0\0", 5);
-    quint32 sum = 0xFFFFFFFF;
-    for (const char byte : chunk) {
-        sum ^= uchar(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            sum = (sum >> 1) ^ (sum & 1 ? 0xEDB88320 : 0);
-    }
-    const quint32 check = qToBigEndian(~sum);
-    return header.left(12) + chunk + QByteArray(reinterpret_cast<const char *>(&check), 4);
-}
-
 } // namespace
 
 class tst_ThumbnailImage : public QObject
@@ -72,10 +56,7 @@ private slots:
 private:
     QString write(const QString &name, const QByteArray &bytes)
     {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            return {};
-        return file.fileName();
+        return writeFile(m_folder.filePath(name), bytes) ? m_folder.filePath(name) : QString();
     }
 
     QTemporaryDir m_folder;
@@ -83,8 +64,7 @@ private:
 
 void tst_ThumbnailImage::targetSize_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSize>("expected");
+    addColumns<QSize, QSize>({"size", "expected"});
     QTest::newRow("landscape") << QSize(400, 300) << QSize(110, 83);
     QTest::newRow("upright") << QSize(300, 400) << QSize(146, 194);
     QTest::newRow("square") << QSize(200, 200) << QSize(146, 146);
@@ -103,8 +83,7 @@ void tst_ThumbnailImage::targetSize()
 
 void tst_ThumbnailImage::load_data()
 {
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<QSize>("size");
+    addColumns<QByteArray, QSize>({"format", "size"});
     for (const char *format : {"png", "jpg", "bmp"}) {
         QTest::addRow("small %s", format) << QByteArray(format) << QSize(300, 225);
         QTest::addRow("large %s", format) << QByteArray(format) << QSize(1333, 2001);
@@ -131,8 +110,8 @@ void tst_ThumbnailImage::refuses_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("nothing in it") << QByteArray();
     QTest::newRow("not a picture") << QByteArray(5000, 'x');
-    QTest::newRow("beginning of a picture") << pngHeader(QSize(100, 100));
-    QTest::newRow("monster") << pngHeader(QSize(40000, 40000));
+    QTest::newRow("beginning of a picture") << PngParts::header(QSize(100, 100));
+    QTest::newRow("monster") << PngParts::header(QSize(40000, 40000));
 }
 
 void tst_ThumbnailImage::refuses()

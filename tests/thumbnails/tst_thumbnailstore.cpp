@@ -1,3 +1,4 @@
+#include "support/datarow.h"
 #include "thumbnailfixture.h"
 #include "thumbnails/hostfiles.h"
 #include "thumbnails/packedpicture.h"
@@ -62,8 +63,7 @@ private slots:
 
 void tst_ThumbnailStore::packedShowsTheSamePixels_data()
 {
-    QTest::addColumn<QImage>("original");
-    QTest::addColumn<QImage::Format>("packed");
+    addColumns<QImage, QImage::Format>({"original", "packed"});
     QTest::newRow("photo") << picture(Many, QImage::Format_RGB32) << QImage::Format_RGB888;
     QTest::newRow("grey") << picture(Grey, QImage::Format_RGB32) << QImage::Format_Grayscale8;
     QTest::newRow("few colours") << picture(Few, QImage::Format_RGB32) << QImage::Format_Indexed8;
