@@ -9,7 +9,6 @@ namespace {
 constexpr int PublishMs = 100;   // ten times a second is all that an eye can follow
 constexpr int FirstHitsMs = 200; // what a filter finds later than this is shown bit by bit
 constexpr int FilteredAStep = 512;
-constexpr int CollectedAStep = 512;
 using Plugin = SDCardScanContentPluginInterface;
 } // namespace
 
@@ -18,6 +17,7 @@ Session::Session(ContentPlugin &plugin, QObject *parent)
     , m_plugin(plugin)
     , m_search(m_tree)
     , m_checks(m_tree, m_search, m_work)
+    , m_collector(m_tree, m_work)
 {
     m_publisher.setInterval(PublishMs);
     connect(&m_publisher, &QTimer::timeout, this, &Session::publish);
@@ -373,52 +373,9 @@ QVector<ItemRecord *> Session::matching(const QString &pattern)
     return found;
 }
 
-void Session::takeSelected(const Taker &taker)
+void Session::takeSelected(const ItemCollector::Taker &taker)
 {
-    struct State
-    {
-        QVector<FoundItem> items;
-        QVector<const TreeItemData *> open;
-        QSet<qint64> seen; // a folder and something in it may both be selected
-    };
-    const auto state = std::make_shared<State>();
-    const auto selected = m_plugin->getSelectedItems(m_search.isActive() ? Plugin::SearchSide
-                                                                         : Plugin::ScanSide);
-    for (const TreeItemData *item : selected)
-        state->open.append(item);
-    const auto take = [this, state](const TreeItemData *item) {
-        const ItemRecord *record = m_tree.records().find(item);
-        if (!record || state->seen.contains(record->secondaryId))
-            return;
-        state->seen.insert(record->secondaryId);
-        if (!record->isRoot)
-            state->items.append(record->found());
-        for (const auto *list : {&record->childFolders, &record->childFiles}) {
-            for (const TreeItemData *child : *list)
-                state->open.append(child);
-        }
-    };
-    m_work.add(
-        [state, take] {
-            for (int i = 0; i < CollectedAStep && !state->open.isEmpty(); ++i)
-                take(state->open.takeLast());
-            return state->open.isEmpty();
-        },
-        [state, taker] { taker(state->items); });
-}
-
-void Session::takeChecked(const Taker &taker)
-{
-    const auto items = std::make_shared<QVector<FoundItem>>();
-    m_work.add(
-        [this, items, next = 0]() mutable {
-            const int end = qMin(next + CollectedAStep, m_tree.records().size());
-            for (; next < end; ++next) {
-                const ItemRecord &record = *m_tree.records().at(next);
-                if (m_tree.isChosen(record))
-                    items->append(record.found());
-            }
-            return end == m_tree.records().size();
-        },
-        [items, taker] { taker(*items); });
+    m_collector.takeBelow(
+        m_plugin->getSelectedItems(m_search.isActive() ? Plugin::SearchSide : Plugin::ScanSide),
+        taker);
 }

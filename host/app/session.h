@@ -5,6 +5,7 @@
 #include "host/media/metadatareader.h"
 #include "host/media/thumbnailmaker.h"
 #include "host/scan/scanrunner.h"
+#include "host/tree/itemcollector.h"
 #include "host/tree/itemsearch.h"
 #include "host/tree/itemtree.h"
 #include "host/tree/slicedwork.h"
@@ -71,12 +72,11 @@ public:
     void setChecked(const QVector<ItemRecord *> &items, bool checked);
     /// The files and folders that \a pattern means, see PathPattern.
     QVector<ItemRecord *> matching(const QString &pattern);
-    using Taker = std::function<void(const QVector<FoundItem> &)>;
-    /// Collects in slices what is selected on the side that is on screen, folders with all that is
-    /// shown in them.
-    void takeSelected(const Taker &taker);
+    /// Hands over what is selected on the side that is on screen, folders with all that is shown in
+    /// them.
+    void takeSelected(const ItemCollector::Taker &taker);
     /// The same with what is checked.
-    void takeChecked(const Taker &taker);
+    void takeChecked(const ItemCollector::Taker &taker) { m_collector.takeChecked(taker); }
 
 signals:
     void opened();
@@ -124,6 +124,7 @@ private:
     SlicedWork m_work;     // on the tree
     SlicedWork m_disposal; // of the records of earlier scans
     CheckChanges m_checks;
+    ItemCollector m_collector;
     ThumbnailMaker m_thumbnails;
     MetadataReader m_metadata;
     QHash<qint64, ItemRecord *> m_awaitingMetadata; // none of an earlier scan

@@ -6,8 +6,8 @@
 
 namespace {
 constexpr int DeliveryMs = 100;
-constexpr int BacklogMs = 20;       // until the next delivery when one did not take everything
-constexpr int MaxDelivery = 12'000; // what makes records of them must not hold up the window
+constexpr int BacklogMs = 10;     // until the next delivery when one did not take everything
+constexpr int MaxDelivery = 6000; // what makes records of them must not hold up the window
 } // namespace
 
 /// What the scanning thread and the runner share. The runner waits for the thread before it lets

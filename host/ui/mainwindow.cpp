@@ -230,7 +230,7 @@ void MainWindow::showTarget()
     m_bottomBar->setTarget(m_recovery->room().folder(), m_recovery->room().bytes());
 }
 
-Session::Taker MainWindow::recoverChosen()
+ItemCollector::Taker MainWindow::recoverChosen()
 {
     return [this](const QVector<FoundItem> &items) { m_recovery->recoverChosen(items); };
 }

@@ -58,7 +58,7 @@ private:
     void refreshSide();
     void refreshChecks();
     void showTarget();
-    Session::Taker recoverChosen();
+    ItemCollector::Taker recoverChosen();
     void offerUndo(int checkedFiles, int uncheckedFiles);
     void undoChecks();
     void redoChecks();
