@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -179,6 +180,27 @@ void HandView<View>::byHand(Handler handler, Hand hand)
     handler();
     if (self && m_selectionTouched)
         selectedByHand(hand);
+}
+
+// Page -------------------------------------------------------------------------------------------
+
+template <typename View>
+void HandView<View>::setPageColor(const QColor &color)
+{
+    m_pageColor = color;
+    this->viewport()->setAttribute(Qt::WA_OpaquePaintEvent,
+                                   color.isValid() && color.alpha() == 0xFF);
+    this->viewport()->update();
+}
+
+template <typename View>
+void HandView<View>::paintPage(const QRegion &region)
+{
+    if (!this->viewport()->testAttribute(Qt::WA_OpaquePaintEvent))
+        return;
+    QPainter painter(this->viewport());
+    for (const QRect &rect : region)
+        painter.fillRect(rect, m_pageColor);
 }
 
 // Keys -------------------------------------------------------------------------------------------

@@ -36,11 +36,17 @@ public:
     /// follow each other as fast as those of a double click, in one place.
     bool mayOpen();
 
+    /// What lies under the items. As long as it is known and lets nothing through, nothing below
+    /// the view is painted with each of its paints, and scrolling moves the pixels that are there.
+    QColor pageColor() const { return m_pageColor; }
+    void setPageColor(const QColor &color);
+
     void setModel(QAbstractItemModel *model) override;
     void reset() override;
     void keyboardSearch(const QString &search) override;
 
 protected:
+    void paintPage(const QRegion &region);
     virtual QModelIndex indexOf(int row) const = 0;
     /// What \a band, in viewport coordinates, touches.
     virtual QItemSelection itemsIn(const QRect &band) const = 0;
@@ -84,6 +90,7 @@ protected:
 
     QColor m_bandColor{0, 0, 255, 32};
     QColor m_bandEdgeColor = Qt::blue;
+    QColor m_pageColor;
 
 private:
     void stretchBand(const QPoint &pos, Qt::KeyboardModifiers modifiers);

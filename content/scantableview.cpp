@@ -83,6 +83,7 @@ void ScanTableView::dataChanged(const QModelIndex &topLeft, const QModelIndex &b
 
 void ScanTableView::paintEvent(QPaintEvent *event)
 {
+    paintPage(event->region());
     HandView::paintEvent(event);
     if (currentIndex().isValid())
         paintCurrentRow();
@@ -92,8 +93,7 @@ void ScanTableView::paintCurrentRow()
 {
     const int row = currentIndex().row();
     const QRectF outline(OutlineInsetX, rowViewportPosition(row) + OutlineInsetY,
-                         viewport()->width() - 2 * OutlineInsetX,
-                         rowHeight() - 2 * OutlineInsetY);
+                         viewport()->width() - 2 * OutlineInsetX, rowHeight() - 2 * OutlineInsetY);
     if (!outline.intersects(viewport()->rect()))
         return;
     QPainter painter(viewport());
@@ -261,6 +261,8 @@ void ScanTableView::bandReleased(const QPoint &pos)
 void ScanTableView::scrollContentsBy(int dx, int dy)
 {
     HandView::scrollContentsBy(dx, dy);
+    if (dx != 0) // rows are as wide as the viewport and stay where they are
+        viewport()->update();
     scrollBand();
 }
 

@@ -17,6 +17,7 @@ class ScanTableView : public HandView<RowTable>, public HoveredCell
     // for the stylesheet: the outline of the current row, with the keyboard in the table or not
     Q_PROPERTY(QColor focusedRowColor MEMBER m_focusedRowColor)
     Q_PROPERTY(QColor currentRowColor MEMBER m_currentRowColor)
+    Q_PROPERTY(QColor pageColor READ pageColor WRITE setPageColor)
     Q_PROPERTY(QColor bandColor MEMBER m_bandColor)
     Q_PROPERTY(QColor bandEdgeColor MEMBER m_bandEdgeColor)
 

@@ -14,6 +14,7 @@ class ThumbnailGrid : public HandView<QListView>
     Q_OBJECT
     // for the stylesheet
     Q_PROPERTY(QColor focusColor MEMBER m_focusColor)
+    Q_PROPERTY(QColor pageColor READ pageColor WRITE setPageColor)
     Q_PROPERTY(QColor bandColor MEMBER m_bandColor)
     Q_PROPERTY(QColor bandEdgeColor MEMBER m_bandEdgeColor)
 

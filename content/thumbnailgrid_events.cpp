@@ -18,6 +18,7 @@ constexpr int FocusReach = 4;
 void ThumbnailGrid::paintEvent(QPaintEvent *event)
 {
     layOutIfDue();
+    paintPage(event->region());
     QPainter painter(viewport());
     paintCards(&painter, event->region());
     if (band().isActive())

@@ -1,14 +1,17 @@
 #include "content/scantableview.h"
+#include "content/thumbnailgrid.h"
 #include "support/recordtree.h"
 
 #include "model/scandatamodel.h"
 #include "support/datarow.h"
 
+#include <QBackingStore>
 #include <QHeaderView>
 #include <QRandomGenerator>
 #include <QRubberBand>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 #include <QTest>
 
 namespace {
@@ -36,6 +39,17 @@ private:
     QWidget *m_widget;
 };
 
+/// Without the dots around the current one, which belong to the window and not to the cell.
+class PlainCells : public QStyledItemDelegate
+{
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state &= ~QStyle::State_HasFocus;
+    }
+};
+
 template <class View>
 class Opened : public View
 {
@@ -54,6 +68,8 @@ private slots:
     void rowsLieAsInAStockTable_data();
     void rowsLieAsInAStockTable();
     void cleanup() { m_table.reset(); }
+    void scrolledPixelsAreThoseOfAFreshPaint_data();
+    void scrolledPixelsAreThoseOfAFreshPaint();
     void bandSelectsWhatAPlainWalkWould_data();
     void bandSelectsWhatAPlainWalkWould();
     void bandScrollsAtTheEdge_data();
@@ -194,6 +210,55 @@ void TestScanTableView::rowsLieAsInAStockTable()
                     .isEmpty());
         QCOMPARE(ours.viewport()->grab().toImage(), stock.viewport()->grab().toImage());
     }
+}
+
+void TestScanTableView::scrolledPixelsAreThoseOfAFreshPaint_data()
+{
+    QTest::addColumn<bool>("isGrid");
+    QTest::newRow("table") << false;
+    QTest::newRow("grid") << true;
+}
+
+/// On a page of one colour what is there already is moved, not painted.
+void TestScanTableView::scrolledPixelsAreThoseOfAFreshPaint()
+{
+    QFETCH(bool, isGrid);
+    QWidget window;
+    window.resize(400, 300);
+    auto *grid = new ThumbnailGrid(&window);
+    auto *table = new ScanTableView(&window);
+    PlainCells cells;
+    for (QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(grid), static_cast<QAbstractItemView *>(table)}) {
+        view->setModel(&m_model);
+        view->setItemDelegate(&cells);
+        view->setStyleSheet(QStringLiteral("background: #1E212D; qproperty-pageColor: #1E212D;"));
+        view->setGeometry(window.rect());
+        view->setVisible((view == grid) == isGrid);
+        view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    }
+    QAbstractItemView *view = isGrid ? static_cast<QAbstractItemView *>(grid) : table;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    view->selectionModel()->select(m_model.index(3, 0),
+                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    view->setCurrentIndex(m_model.index(5, 0));
+    const auto *shown = dynamic_cast<QImage *>(window.backingStore()->paintDevice());
+    if (!shown)
+        QSKIP("the window's pixels are elsewhere");
+    QRandomGenerator random(3);
+    for (int step = 0; step < 60; ++step) {
+        QScrollBar *bar = step % 5 == 4 ? view->horizontalScrollBar() : view->verticalScrollBar();
+        bar->setValue(bar->value() + random.bounded(-40, 90));
+        if (step % 7 == 6) // and something changes before it is painted
+            view->selectionModel()->select(m_model.index(random.bounded(60), 0),
+                                           QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
+        for (int round = 0; round < 3; ++round) // the stock view waits before it repaints
+            QCoreApplication::processEvents();
+        QCOMPARE(shown->convertToFormat(QImage::Format_RGB32),
+                 window.grab().toImage().convertToFormat(QImage::Format_RGB32));
+    }
+    QVERIFY(view->verticalScrollBar()->value() > 0);
 }
 
 QVector<int> TestScanTableView::selectedRows() const
