@@ -161,6 +161,7 @@ private slots:
 
     void unknownValues_data();
     void unknownValues();
+    void textsAreWrittenAnewOnRequest();
     void folderSuffix();
     void linkOnlyUnderTheMouse();
     void locationImageUnderTheMouse();
@@ -417,6 +418,25 @@ void TestListDelegate::unknownValues()
     item->modifiedTime = value;
     QTEST(rows.image(rows.cell(item, Size)) != noSize, "sizeKnown");
     QTEST(rows.image(rows.cell(item, Date)) != noTime, "timeKnown");
+}
+
+void TestListDelegate::textsAreWrittenAnewOnRequest()
+{
+    auto *language = ZVLangManager::instance();
+    const auto speak = [&](const char *code) {
+        language->init(QString(), QString(), QString(), QString(), QLatin1String(code));
+    };
+    speak("en-us");
+    Rows rows;
+    TreeItemData *item = rows.addItem();
+    item->fileSize = 1234567;
+    const QModelIndex cell = rows.cell(item, Size);
+    const QImage english = rows.image(cell);
+    speak("de-de"); // a decimal comma
+    QCOMPARE(rows.image(cell), english);
+    rows.delegate.setCachesDirty();
+    QVERIFY(rows.image(cell) != english);
+    speak("en-us");
 }
 
 void TestListDelegate::folderSuffix()
