@@ -296,44 +296,63 @@ void Session::planLooks()
     add("new scan", 1, UpdateMs, [this](int) { m_plugin->clearData(Plugin::BothSides); });
 }
 
-QJsonObject describe(const char *name, std::vector<double> times, double longestOwn)
+QJsonObject describe(const char *name, std::vector<double> times)
 {
     std::sort(times.begin(), times.end());
     const auto at = [&times](double share) { return StallRecorder::percentile(times, share); };
     const double longest = times.empty() ? 0 : times.back();
-    std::printf("%-32s %7zu %8.2f %8.2f %8.2f %8.2f %8.2f %8.2f\n", name, times.size(), at(0.5),
-                at(0.9), at(0.99), at(0.999), longest, longestOwn);
-    return {{"name", name},       {"stretches", int(times.size())},
-            {"p50", at(0.5)},     {"p90", at(0.9)},
-            {"p99", at(0.99)},    {"p99_9", at(0.999)},
-            {"longest", longest}, {"longest_own", longestOwn}};
+    std::printf("%-32s %7zu %8.2f %8.2f %8.2f %8.2f %8.2f", name, times.size(), at(0.5), at(0.9),
+                at(0.99), at(0.999), longest);
+    return {{"name", name},      {"stretches", int(times.size())},
+            {"p50", at(0.5)},    {"p90", at(0.9)},
+            {"p99", at(0.99)},   {"p99_9", at(0.999)},
+            {"longest", longest}};
+}
+
+/// Where the longest stretch went; the clock of a thread knows nothing of waiting.
+void describeLongest(const StallRecorder::Phase &phase, QJsonObject *line)
+{
+    const StallRecorder::Stretch &longest = phase.longest;
+    const double blocked = std::max(0.0, longest.clock - longest.own - longest.queued);
+    std::printf(" %8.2f %8.2f %8.2f\n", longest.own, longest.queued, blocked);
+    if (longest.clock > GoalMs)
+        std::printf("    the event that took most, %.1f ms of its own: %s\n", phase.longestDelivery,
+                    phase.longestTo.c_str());
+    line->insert("longest_own", longest.own);
+    line->insert("longest_queued", longest.queued);
+    line->insert("longest_blocked", blocked);
+    line->insert("largest_event", QString::fromStdString(phase.longestTo));
+    line->insert("largest_event_own", phase.longestDelivery);
 }
 
 int report(const StallRecorder &recorder, const QString &file)
 {
-    std::printf("%-32s %7s %8s %8s %8s %8s %8s %8s   (ms)\n", "busy stretches of the event loop",
-                "count", "50 %", "90 %", "99 %", "99.9 %", "longest", "own");
+    std::printf("%-32s %7s %8s %8s %8s %8s %8s %8s %8s %8s   (ms)\n",
+                "busy stretches of the event loop", "count", "50 %", "90 %", "99 %", "99.9 %",
+                "longest", "own", "queued", "blocked");
     QJsonArray phases;
     std::vector<double> all;
     std::vector<double> unsorted;
+    std::string longestPhase;
     double longest = 0;
-    double longestUnsorted = 0;
     for (const StallRecorder::Phase &phase : recorder.phases()) {
-        QJsonObject line = describe(phase.name.c_str(), phase.milliseconds, phase.longestOwn);
-        if (phase.longestOwn > GoalMs)
-            std::printf("    %.1f ms of that: %s\n", phase.longestDelivery,
-                        phase.longestTo.c_str());
-        line.insert("longest_event", QString::fromStdString(phase.longestTo));
+        QJsonObject line = describe(phase.name.c_str(), phase.milliseconds);
+        describeLongest(phase, &line);
         phases.append(line);
         all.insert(all.end(), phase.milliseconds.begin(), phase.milliseconds.end());
-        longest = std::max(longest, phase.longestOwn);
         if (phase.mayStall)
             continue;
         unsorted.insert(unsorted.end(), phase.milliseconds.begin(), phase.milliseconds.end());
-        longestUnsorted = std::max(longestUnsorted, phase.longestOwn);
+        if (phase.longest.clock > longest) {
+            longest = phase.longest.clock;
+            longestPhase = phase.name;
+        }
     }
-    const QJsonObject whole = describe("the whole session", all, longest);
-    const QJsonObject rest = describe("the session but the sorts", unsorted, longestUnsorted);
+    const QJsonObject whole = describe("the whole session", all);
+    std::printf("\n");
+    QJsonObject rest = describe("the session but the sorts", unsorted);
+    rest.insert("longest_phase", QString::fromStdString(longestPhase));
+    std::printf("   in: %s\n", longestPhase.c_str());
     const bool met = rest.value("longest").toDouble() < GoalMs;
     std::printf("\nlonger than %.0f ms apart from the sorts: %s\n", GoalMs, met ? "never" : "yes");
     if (!file.isEmpty()) {

@@ -3,6 +3,8 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
 
 #include <algorithm>
 #include <ctime>
@@ -16,14 +18,24 @@
 class StallRecorder : public QApplication
 {
 public:
+    /// Where a busy stretch went, in milliseconds. What is in neither of the last two, the thread
+    /// waited for a lock, a file or another thread.
+    struct Stretch
+    {
+        double clock = 0;
+        double own = 0;    ///< this thread was running
+        double queued = 0; ///< it could have run, and no core was free; 0 where that is not told
+    };
+
     struct Phase
     {
         std::string name;
         bool mayStall = false;            ///< a million rows are sorted in it
         std::vector<double> milliseconds; ///< of each busy stretch, by the clock
-        double longestDelivery = 0;       ///< of one event, the same way
+        Stretch longest;                  ///< by the clock
+        double longestOwn = 0;            ///< of all stretches
+        double longestDelivery = 0;       ///< of one event, this thread's own time
         std::string longestTo;            ///< who got that one, and its type
-        double longestOwn = 0;            ///< processor time of this thread; others may disturb it
     };
 
     StallRecorder(int &argc, char **argv)
@@ -35,10 +47,13 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override
     {
+        if (QThread::currentThread() != thread()) // the worker's events come this way too
+            return QApplication::notify(receiver, event);
         if (!m_busy) {
             m_busy = true;
             m_clock.start();
             m_own = ownMilliseconds();
+            m_queued = queuedMilliseconds();
         }
         if (m_depth > 0)
             return QApplication::notify(receiver, event);
@@ -87,19 +102,38 @@ private:
 #endif
     }
 
+    /// How long this thread has waited for a core, as Linux counts it.
+    double queuedMilliseconds()
+    {
+        if (!m_schedule.isOpen() && !m_schedule.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+            return 0;
+        m_schedule.seek(0);
+        const QList<QByteArray> fields = m_schedule.readAll().split(' ');
+        return fields.size() > 1 ? fields.at(1).toDouble() / 1e6 : 0;
+    }
+
     void endStretch()
     {
         if (m_busy && !m_phases.empty()) {
             Phase &phase = m_phases.back();
-            phase.milliseconds.push_back(double(m_clock.nsecsElapsed()) / 1e6);
-            phase.longestOwn = std::max(phase.longestOwn, ownMilliseconds() - m_own);
+            Stretch stretch;
+            stretch.clock = double(m_clock.nsecsElapsed()) / 1e6;
+            // a virtual machine that was stopped meanwhile may count more of it than has passed
+            stretch.own = std::min(ownMilliseconds() - m_own, stretch.clock);
+            stretch.queued = queuedMilliseconds() - m_queued;
+            phase.milliseconds.push_back(stretch.clock);
+            phase.longestOwn = std::max(phase.longestOwn, stretch.own);
+            if (stretch.clock > phase.longest.clock)
+                phase.longest = stretch;
         }
         m_busy = false;
     }
 
     QElapsedTimer m_clock;
+    QFile m_schedule{QStringLiteral("/proc/thread-self/schedstat")};
     std::vector<Phase> m_phases;
     double m_own = 0;
+    double m_queued = 0;
     int m_depth = 0;
     bool m_busy = false;
 };
