@@ -50,7 +50,7 @@ QPixmap CardBackground::draw(QPainter *painter, const DeviceGrid &grid, const Ca
         it = m_plates.insert(key, compose(key, layout, card, label));
     }
     if (grid.isAligned())
-        grid.draw(painter, plate, *it);
+        grid.drawLowest(painter, plate, *it);
     else
         painter->drawPixmap(plate, *it);
     return opaque ? *it : QPixmap();

@@ -22,8 +22,14 @@ public:
     /// Draws \a pixmap into \a rect, one to one where it has the size of deviceRect(\a rect),
     /// smoothly scaled where not. The painter's hint for smooth scaling is left as it was needed.
     void draw(QPainter *painter, const QRect &rect, const QPixmap &pixmap) const;
+    /// The same for what is drawn first and large: the screen's memory there is fetched ahead.
+    void drawLowest(QPainter *painter, const QRect &rect, const QPixmap &pixmap) const;
 
 private:
+    bool drawsExactly(const QRect &rect, const QPixmap &pixmap) const;
+    void copy(QPainter *painter, const QRect &device, const QPixmap &pixmap,
+              const QRect &source) const;
+
     QTransform m_transform;
     bool m_aligned;
 };
