@@ -16,6 +16,7 @@ constexpr int MostPixels = std::numeric_limits<int>::max() / 2;
 
 ThumbnailGrid::ThumbnailGrid(QWidget *parent)
     : HandView(QApplication::startDragDistance(), parent)
+    , m_cardsAhead([this](int row) { prepareCard(row); })
 {
     setViewMode(IconMode);
     setMovement(Static); // else icon mode drags items instead of drawing a rubber band
@@ -154,6 +155,7 @@ void ThumbnailGrid::setModel(QAbstractItemModel *newModel)
 
 void ThumbnailGrid::doItemsLayout()
 {
+    m_cardsAhead.forget();
     m_cell = itemDelegate() && model() && model()->rowCount(rootIndex()) > 0
         ? itemDelegate()->sizeHint(viewOptions(), indexOf(0))
         : QSize();

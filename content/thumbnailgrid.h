@@ -1,5 +1,6 @@
 #pragma once
 
+#include "content/cardsahead.h"
 #include "content/gridgeometry.h"
 #include "content/gridnavigation.h"
 #include "content/handview.h"
@@ -93,6 +94,7 @@ private:
     QRect focusRect(int row) const;
     /// Or no more.
     void showFocus();
+    void prepareCard(int row) const;
 
     void rememberTop();
     void setHover(const QPoint &pos);
@@ -113,6 +115,7 @@ private:
     bool m_pointerInside = false;
     bool m_showFocus = false; ///< the keyboard was used last
 
+    CardsAhead m_cardsAhead;
     QRect m_shownBand;
     QItemSelectionModel::SelectionFlags m_ctrlBandCommand = QItemSelectionModel::NoUpdate;
 };

@@ -3,6 +3,7 @@
 
 #include "common/focusring.h"
 #include "content/bandframe.h"
+#include "delegates/icondelegate.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -23,6 +24,16 @@ void ThumbnailGrid::paintEvent(QPaintEvent *event)
     paintCards(&painter, event->region());
     if (band().isActive())
         paintBand(&painter, band().rect(), m_bandColor, m_bandEdgeColor);
+    const GridGeometry grid = geometryNow();
+    m_cardsAhead.follow(grid.linesIn(contentViewport()), grid.rowCount);
+}
+
+void ThumbnailGrid::prepareCard(int row) const
+{
+    const QModelIndex index = indexOf(row);
+    if (const auto *cards = qobject_cast<const IconDelegate *>(itemDelegate()))
+        cards->prepareCard(viewOptions(), visualRect(index), viewport()->devicePixelRatioF(),
+                           index);
 }
 
 void ThumbnailGrid::paintCards(QPainter *painter, const QRegion &region)

@@ -49,7 +49,12 @@ private:
 } // namespace
 
 DeviceGrid::DeviceGrid(const QPainter *painter)
-    : m_transform(painter->deviceTransform())
+    : DeviceGrid(painter->deviceTransform())
+{
+}
+
+DeviceGrid::DeviceGrid(const QTransform &toDevice)
+    : m_transform(toDevice)
     , m_aligned(m_transform.type() <= QTransform::TxScale && m_transform.m11() > 0
                 && m_transform.m22() > 0)
 {

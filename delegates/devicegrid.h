@@ -11,6 +11,8 @@ class DeviceGrid
 {
 public:
     explicit DeviceGrid(const QPainter *painter);
+    /// \a toDevice: from logical coordinates.
+    explicit DeviceGrid(const QTransform &toDevice);
 
     /// False when the painter rotates, shears or flips: then there is no grid to stand on.
     bool isAligned() const { return m_aligned; }

@@ -140,6 +140,24 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         reportMissingThumbnail(item);
 }
 
+void IconDelegate::prepareCard(const QStyleOptionViewItem &option, const QRect &cell, qreal scale,
+                               const QModelIndex &index) const
+{
+    const TreeItemData *item = itemOf(index);
+    if (!item || cell.isEmpty() || ScanViewManager::instance()->plainPainting)
+        return;
+    prepare();
+    const CardLayout layout(cell, option.direction);
+    if (layout.name.isValid())
+        m_names.prepare(nameOn(layout, *item));
+    const ThumbnailStore::Info thumbnail = item->kind == ItemKind::File
+        ? ScanPluginPreviewManager::instance()->gridThumbnailInfo(item->fileId)
+        : ThumbnailStore::Info();
+    if (thumbnail.serial)
+        fitted(DeviceGrid(QTransform::fromScale(scale, scale)),
+               layout.thumbnail(thumbnail.size.toSize()), *item, thumbnail);
+}
+
 void IconDelegate::reportMissingThumbnail(TreeItemData *item) const
 {
     emit const_cast<IconDelegate *>(this)->signalGetThumItem(item);
@@ -246,13 +264,17 @@ void IconDelegate::drawOverlays(QPainter *painter, const DeviceGrid &grid, const
     painter->setOpacity(1.0);
 }
 
+QString IconDelegate::nameOn(const CardLayout &layout, const TreeItemData &item) const
+{
+    return getElidedText(ItemText::displayName(item), layout.name.width() - ElideReserve);
+}
+
 void IconDelegate::drawTexts(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
                              const NameStrips::Place &place, const TreeItemData &item) const
 {
     if (!layout.name.isValid())
         return;
-    const QString name = getElidedText(ItemText::displayName(item),
-                                       layout.name.width() - ElideReserve);
+    const QString name = nameOn(layout, item);
     if (!m_nameStrips.draw(painter, grid, place, name, &m_names))
         m_names.draw(painter, layout.name, name, CentredText);
     if (!ItemKind::isFolderLike(item.kind))

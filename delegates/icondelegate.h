@@ -62,6 +62,11 @@ public:
                      const QModelIndex &index) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// Shapes and scales what a card at \a cell will show, \a scale device pixels to a unit, for it
+    /// to be painted sooner. Asks for nothing that is missing.
+    void prepareCard(const QStyleOptionViewItem &option, const QRect &cell, qreal scale,
+                     const QModelIndex &index) const;
+
     /// \a text cut in the middle to \a width pixels. Off the GUI thread it comes back as it is.
     QString getElidedText(const QString &text, int width) const;
 
@@ -95,6 +100,7 @@ private:
     QPixmap fitted(const DeviceGrid &grid, const QRect &rect, const TreeItemData &item,
                    const ThumbnailStore::Info &thumbnail) const;
     QPixmap iconOf(const TreeItemData &item, int kind) const;
+    QString nameOn(const CardLayout &layout, const TreeItemData &item) const;
     void drawOverlays(QPainter *painter, const DeviceGrid &grid, const CardLayout &layout,
                       const QRect &picture, const TreeItemData &item, bool hovered) const;
     /// \a place: where the name stands and what lies under it.

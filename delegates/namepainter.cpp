@@ -75,6 +75,14 @@ QString NamePainter::elided(ElideCache *cache, const QString &text, int width)
     return cache->elided(text, width, &m_plainTexts, scriptOf(text));
 }
 
+void NamePainter::prepare(const QString &text)
+{
+    if (m_keyword.isEmpty())
+        m_plainTexts.prepare(text, scriptOf(text));
+    else
+        highlightedLayout(text, scriptOf(text));
+}
+
 void NamePainter::draw(QPainter *painter, const QRect &rect, const QString &text,
                        Qt::Alignment alignment)
 {

@@ -32,6 +32,8 @@ public:
 
     /// \a text cut to \a width pixels, with \a cache's memory.
     QString elided(ElideCache *cache, const QString &text, int width);
+    /// Shapes \a text, which will be drawn.
+    void prepare(const QString &text);
     /// One line, \a alignment sideways, centred vertically. Nothing for an empty text or rectangle.
     /// The painter's pen stays in the text colour.
     void draw(QPainter *painter, const QRect &rect, const QString &text, Qt::Alignment alignment);

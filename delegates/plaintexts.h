@@ -23,6 +23,8 @@ public:
     /// text itself runs in \a script, or in the layout direction where that is automatic.
     void draw(QPainter *painter, const QRect &rect, const QString &text, Qt::Alignment alignment,
               Qt::LayoutDirection script = Qt::LayoutDirectionAuto);
+    /// Shapes what will be drawn.
+    void prepare(const QString &text, Qt::LayoutDirection script) { laidOut(text, script); }
     /// What QFontMetrics::horizontalAdvance() says. For a text that is going to be drawn.
     int width(const QString &text, Qt::LayoutDirection script);
 

@@ -133,14 +133,17 @@ std::vector<size_t> ListedRecords::positionsByMark(RecordId which, qint64 id, bo
 {
     const Blocks<quint8> &marks = which == RecordId::File ? m_fileMarks : m_secondaryMarks;
     std::vector<size_t> found;
+    std::vector<size_t> candidates; // apart from looking for them, so that many are read at once
     for (size_t from = 0; from < size(); from += marks.adjacent(from, size())) {
         const quint8 *const first = &marks[from];
         const quint8 *const end = first + marks.adjacent(from, size());
-        for (const quint8 *mark = first; mark != end; ++mark) {
-            mark = static_cast<const quint8 *>(std::memchr(mark, idMarkOf(id), size_t(end - mark)));
-            if (!mark)
-                break;
-            const size_t position = from + size_t(mark - first);
+        candidates.clear();
+        const auto next = [&](const quint8 *mark) {
+            return static_cast<const quint8 *>(std::memchr(mark, idMarkOf(id), size_t(end - mark)));
+        };
+        for (const quint8 *mark = next(first); mark; mark = next(mark + 1))
+            candidates.push_back(from + size_t(mark - first));
+        for (const size_t position : candidates) {
             const TreeItemData *const record = at(position);
             if (!record || !matches(*record))
                 continue;
