@@ -219,8 +219,7 @@ void Session::planHands()
     });
     add("locate by id", 20, 3 * FrameMs,
         [this](int i) { m_plugin->locateItemByFileId(qint64(i) * 48611 % MillionFiles::Count); });
-    static const char *const columns[] = {"nameButton", "sizeButton", "typeButton", "dateButton",
-                                          "pathButton"};
+    static const char *const columns[] = {"nameButton", "sizeButton", "typeButton", "dateButton"};
     for (const char *column : columns) {
         const std::string name = "sort, " + std::string(column);
         add(

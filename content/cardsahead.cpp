@@ -46,8 +46,10 @@ void CardsAhead::timerEvent(QTimerEvent *)
     QElapsedTimer clock;
     clock.start();
     for (; m_left > 0; --m_left, m_next += m_step) {
-        if (clock.nsecsElapsed() > WorkNs)
+        if (clock.nsecsElapsed() > WorkNs) {
+            m_timer.start(PauseMs, this); // anew: it would be due already
             return;
+        }
         m_prepare(m_next);
     }
     m_timer.stop();

@@ -77,7 +77,8 @@ void GridMode::setAssessmentFinished(bool finished)
 
 void GridMode::showThumbnail(qint64 fileId)
 {
-    m_view->repaintMatching(FileIdRole, fileId);
+    if (!m_view->repaintMatching(FileIdRole, fileId) && m_view->isVisible())
+        m_view->preparePicture(fileId);
 }
 
 QItemSelection GridMode::selection() const

@@ -101,14 +101,18 @@ void ThumbnailGrid::repaintRow(int row)
         viewport()->update(card);
 }
 
-void ThumbnailGrid::repaintMatching(int role, qint64 id)
+bool ThumbnailGrid::repaintMatching(int role, qint64 id)
 {
+    bool any = false;
     const QPair<int, int> rows = visibleRows();
     for (int row = rows.first; row <= rows.second; ++row) {
         const QVariant value = indexOf(row).data(role);
-        if (value.isValid() && value.toLongLong() == id)
+        if (value.isValid() && value.toLongLong() == id) {
             repaintRow(row);
+            any = true;
+        }
     }
+    return any;
 }
 
 QRect ThumbnailGrid::visualRect(const QModelIndex &index) const

@@ -27,8 +27,10 @@ public:
     QPair<int, int> visibleRows() const override;
     /// Repaints the card of \a row if it is in the viewport.
     void repaintRow(int row);
-    /// Repaints the cards in the viewport whose \a role has the value \a id.
-    void repaintMatching(int role, qint64 id);
+    /// Repaints the cards in the viewport whose \a role has the value \a id; false: there is none.
+    bool repaintMatching(int role, qint64 id);
+    /// The picture of \a fileId has come, and its card is not on the screen.
+    void preparePicture(qint64 fileId) const;
 
     /// Keeps \a pixels at the end of each line free, for what lies over the grid there.
     void setReservedWidth(int pixels);
@@ -116,6 +118,7 @@ private:
     bool m_showFocus = false; ///< the keyboard was used last
 
     CardsAhead m_cardsAhead;
+    QSize m_paintedCell;
     QRect m_shownBand;
     QItemSelectionModel::SelectionFlags m_ctrlBandCommand = QItemSelectionModel::NoUpdate;
 };

@@ -25,6 +25,7 @@ void ThumbnailGrid::paintEvent(QPaintEvent *event)
     if (band().isActive())
         paintBand(&painter, band().rect(), m_bandColor, m_bandEdgeColor);
     const GridGeometry grid = geometryNow();
+    m_paintedCell = grid.cell;
     m_cardsAhead.follow(grid.linesIn(contentViewport()), grid.rowCount);
 }
 
@@ -68,6 +69,12 @@ void ThumbnailGrid::paintCards(QPainter *painter, const QRegion &region)
     }
     if (focused && m_showFocus && current.isValid())
         paintFocusRing(painter, focusRect(current.row()), m_focusColor);
+}
+
+void ThumbnailGrid::preparePicture(qint64 fileId) const
+{
+    if (const auto *cards = qobject_cast<const IconDelegate *>(itemDelegate()))
+        cards->preparePicture(m_paintedCell, viewport()->devicePixelRatioF(), fileId);
 }
 
 QRect ThumbnailGrid::focusRect(int row) const

@@ -158,6 +158,19 @@ void IconDelegate::prepareCard(const QStyleOptionViewItem &option, const QRect &
                layout.thumbnail(thumbnail.size.toSize()), *item, thumbnail);
 }
 
+void IconDelegate::preparePicture(const QSize &cell, qreal scale, qint64 fileId) const
+{
+    auto *thumbnails = ScanPluginPreviewManager::instance();
+    const ThumbnailStore::Info thumbnail = thumbnails->gridThumbnailInfo(fileId);
+    if (!thumbnail.serial || cell.isEmpty())
+        return;
+    const QRect rect = CardLayout({QPoint(), cell}).thumbnail(thumbnail.size.toSize());
+    const DeviceGrid grid(QTransform::fromScale(scale, scale));
+    m_scaledThumbnails.prepare(thumbnail.serial,
+                               rect.isEmpty() ? QSize() : grid.deviceRect(rect).size(),
+                               thumbnails->gridImage(fileId));
+}
+
 void IconDelegate::reportMissingThumbnail(TreeItemData *item) const
 {
     emit const_cast<IconDelegate *>(this)->signalGetThumItem(item);

@@ -66,6 +66,9 @@ public:
     /// to be painted sooner. Asks for nothing that is missing.
     void prepareCard(const QStyleOptionViewItem &option, const QRect &cell, qreal scale,
                      const QModelIndex &index) const;
+    /// The same for the picture of \a fileId, on another thread: it has come, and no card of it is
+    /// on the screen.
+    void preparePicture(const QSize &cell, qreal scale, qint64 fileId) const;
 
     /// \a text cut in the middle to \a width pixels. Off the GUI thread it comes back as it is.
     QString getElidedText(const QString &text, int width) const;

@@ -3,6 +3,7 @@
 #include "support/datarow.h"
 #include "support/plainlistmodel.h"
 
+#include <QScreen>
 #include <QScrollBar>
 #include <QtTest>
 
@@ -20,6 +21,8 @@ public:
                const QModelIndex &index) const override
     {
         CardDelegate::paint(painter, option, index);
+        const QRect middle = option.rect.adjusted(20, 20, -20, -20);
+        painter->fillRect(middle, QColor::fromHsv(index.row() * 47 % 360, 200, 200));
         states[index.row()] = option.state;
     }
 
@@ -60,6 +63,7 @@ private slots:
     void bandScrollsAtTheEdge();
     void severalByKeyAreAnnounced();
 
+    void scrolledIsPaintedAnew();
     void repaintsOnlyWhatChanged_data();
     void repaintsOnlyWhatChanged();
     void hoverFollowsPointerAndContent();
@@ -290,6 +294,43 @@ void TestThumbnailGrid::severalByKeyAreAnnounced()
     QCOMPARE(several.count(), 1);
     QTest::keyClick(m_grid.data(), Qt::Key_Right, Qt::ControlModifier);
     QCOMPARE(several.count(), 1);
+}
+
+/// Scrolling moves what has been painted. Whatever lies on it must come out as if painted anew.
+void TestThumbnailGrid::scrolledIsPaintedAnew()
+{
+    if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+        QSKIP("elsewhere other windows may lie on this one");
+    m_grid->setPageColor(Qt::white);
+    show(400);
+    const auto onScreen = [this] {
+        QCoreApplication::processEvents();
+        return m_grid->screen()->grabWindow(m_grid->winId()).toImage();
+    };
+    QRandomGenerator random(7);
+    for (int step = 0; step < 60; ++step) {
+        const QPoint pos(random.bounded(m_grid->width()), random.bounded(m_grid->height()));
+        switch (random.bounded(6)) {
+        case 0:
+            QTest::keyClick(m_grid.data(), Qt::Key_Down);
+            break;
+        case 1:
+            QTest::keyClick(m_grid.data(), Qt::Key_PageDown, Qt::ShiftModifier);
+            break;
+        case 2:
+            move(pos, Qt::NoButton);
+            break;
+        case 3:
+            QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, {}, pos);
+            break;
+        default:
+            m_grid->verticalScrollBar()->setValue(m_grid->verticalScrollBar()->value()
+                                                  + random.bounded(-200, 300));
+        }
+        const QImage moved = onScreen();
+        m_grid->viewport()->repaint();
+        QVERIFY2(onScreen() == moved, qPrintable(QStringLiteral("step %1").arg(step)));
+    }
 }
 
 void TestThumbnailGrid::repaintsOnlyWhatChanged_data()

@@ -210,6 +210,12 @@ void TestCardPainting::paintedAgainIsPaintedAnew()
         return delegate;
     };
     const auto used = freshDelegate();
+    const QSignalSpy asked(used.get(), &IconDelegate::signalGetThumItem);
+    for (TreeItemData *item : qAsConst(items)) {
+        const QStyleOptionViewItem option = CardFixture::option();
+        used->prepareCard(option, option.rect, scale, cards.indexOf(item));
+    }
+    QCOMPARE(asked.count(), 0); // nobody has seen them yet
     for (int round = 0; round < 3; ++round) {
         for (const QPoint &at : {QPoint(4, 8), QPoint(5, 7)}) {
             for (const QStyle::State state :
@@ -457,6 +463,12 @@ void TestCardPainting::keepsSharpPicturesSharp()
     QVERIFY(qAbs(grey.red() - 128) < 8);
     scaled.scaled(1, half, source);
     QCOMPARE(asked, 3);
+
+    // on the other thread it becomes the same, and is not asked for again
+    scaled.prepare(3, half, stripes);
+    const auto empty = [] { return QImage(); };
+    QTRY_VERIFY(!scaled.scaled(3, half, empty).isNull());
+    QCOMPARE(scaled.scaled(3, half, empty).toImage(), scaled.scaled(1, half, empty).toImage());
 }
 
 void TestCardPainting::shearedPainter()
