@@ -10,7 +10,7 @@ constexpr int CacheLine = 64;
 
 } // namespace
 
-// In a file of its own: where the compiler sees that a function does nothing else, it drops the call.
+// In a file of its own: a call that is seen to do nothing else is dropped.
 void prefetchRows(const uchar *first, qptrdiff pitch, int rows, int bytesPerRow)
 {
     for (int row = 0; row < rows; ++row) {
