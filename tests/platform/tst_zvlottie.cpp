@@ -173,12 +173,15 @@ void TestZVLottie::costsNothing()
 
     EventCounter timers(lottie, QEvent::Timer);
     EventCounter paints(lottie, QEvent::Paint);
+    if (state == QLatin1String("playing")) {
+        QTRY_VERIFY(timers.count > 0 && paints.count > 2);
+        return;
+    }
     QTimer observation; // ten of the animation's frames
     observation.start(200);
     QVERIFY(QSignalSpy(&observation, &QTimer::timeout).wait());
-    const bool plays = state == QLatin1String("playing");
-    QCOMPARE(timers.count > 0, plays);
-    QCOMPARE(paints.count > 2, plays);
+    QCOMPARE(timers.count, 0);
+    QVERIFY(paints.count <= 2);
 }
 
 void TestZVLottie::repaintsNoMoreThanItsFrames()
