@@ -127,8 +127,10 @@ void tst_GetThumbnailThread::pauseWakesTheSleeper()
         Photo photo(i);
         QVERIFY(running.worker.enqueue(&photo));
         running.thread.start();
-        while (running.misses.isEmpty())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        while (running.misses.isEmpty()) {
+            QCoreApplication::processEvents();
+            QThread::yieldCurrentThread();
+        }
     }
 }
 
