@@ -9,12 +9,14 @@ class QWidget;
 
 /// Restyles a widget when that can be seen: at once while it is in sight, else when it is shown
 /// again or, at the latest, a tenth of a second later, so that what is in sight need not wait for
-/// it. A widget that was never shown is restyled at once as well. GUI thread.
+/// it; of several that are out of sight each has its own moment. A widget that was never shown is
+/// restyled at once as well. GUI thread.
 class Restyling : public QObject
 {
 public:
     /// \a restyle is for \a widget, to which this belongs.
     Restyling(QWidget *widget, std::function<void()> restyle);
+    ~Restyling() override;
 
     void request();
 
@@ -24,6 +26,7 @@ protected:
 
 private:
     void run();
+    void stopWaiting();
 
     QWidget *m_widget;
     std::function<void()> m_restyle;
