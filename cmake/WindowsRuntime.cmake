@@ -19,3 +19,20 @@ add_custom_target(windows_runtime ALL
 list(FILTER windows_dlls EXCLUDE REGEX "Qt5Test")
 install(FILES ${windows_dlls} DESTINATION bin COMPONENT sdk)
 install(DIRECTORY "${windows_qt_plugins}/" DESTINATION bin COMPONENT sdk)
+
+# Their terms go with them, as Debian, whose sources they are built from, has collected them.
+foreach(part
+        "Qt libqt5core5a/copyright" "rlottie librlottie-dev/copyright"
+        "gcc gcc-mingw-w64-base/copyright" "mingw-w64 mingw-w64-common/copyright"
+        "LGPL-3 LGPL-3" "GPL-3 GPL-3")
+    separate_arguments(part)
+    list(POP_FRONT part name file)
+    find_file(licence_${name} "${file}" PATHS /usr/share/doc /usr/share/common-licenses
+        NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+    if(licence_${name})
+        install(FILES "${licence_${name}}" DESTINATION bin/licenses RENAME ${name}.txt COMPONENT sdk)
+    else()
+        message(WARNING "the terms of ${name} are not on this machine: add them to what you ship")
+    endif()
+endforeach()
+install(FILES "${PROJECT_SOURCE_DIR}/docs/third-party.md" DESTINATION bin/licenses COMPONENT sdk)

@@ -24,6 +24,8 @@ if(WINDOWS)
         "bin/Qt5(Core|Gui|Widgets|Concurrent)\\.dll" 4
         "bin/librlottie\\.dll" 1
         "bin/lib(gcc_s_seh-1|stdc\\+\\+-6|winpthread-1)\\.dll" 3
+        "bin/licenses/third-party\\.md" 1
+        "bin/licenses/(Qt|rlottie|gcc|mingw-w64|LGPL-3|GPL-3)\\.txt" 6
         "bin/platforms/qwindows\\.dll" 1
         "bin/platforms/q(offscreen|minimal)\\.dll" some
         "bin/imageformats/qjpeg\\.dll" 1
