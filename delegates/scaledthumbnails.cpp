@@ -27,13 +27,6 @@ QImage toSize(QImage image, const QSize &size)
 ScaledThumbnails::ScaledThumbnails()
     : m_cache(MostKilobytes)
 {
-    m_pool.setMaxThreadCount(1);
-}
-
-ScaledThumbnails::~ScaledThumbnails()
-{
-    m_pool.clear();
-    m_pool.waitForDone();
 }
 
 QPixmap ScaledThumbnails::scaled(qint64 picture, const QSize &deviceSize, const Source &source)
@@ -49,7 +42,7 @@ void ScaledThumbnails::prepare(qint64 picture, const QSize &deviceSize, const QI
     if (deviceSize.isEmpty() || image.isNull() || find(key) || m_waiting >= MostWaiting)
         return;
     ++m_waiting;
-    m_pool.start([this, key, deviceSize, image] {
+    m_thread.add([this, key, deviceSize, image] {
         QImage scaled = toSize(image, deviceSize);
         const std::lock_guard<std::mutex> lock(m_preparedLock);
         m_prepared.push_back({key, std::move(scaled)});

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "common/jobthread.h"
+
 #include <QCache>
 #include <QImage>
 #include <QPixmap>
-#include <QThreadPool>
 
 #include <functional>
 #include <mutex>
@@ -15,7 +16,6 @@ class ScaledThumbnails
 {
 public:
     ScaledThumbnails();
-    ~ScaledThumbnails();
     Q_DISABLE_COPY_MOVE(ScaledThumbnails)
 
     using Source = std::function<QImage()>;
@@ -54,6 +54,6 @@ private:
     QCache<Key, QPixmap> m_cache;
     std::mutex m_preparedLock;
     std::vector<Prepared> m_prepared;
-    int m_waiting = 0; ///< prepared or about to be
-    QThreadPool m_pool;
+    int m_waiting = 0;  ///< prepared or about to be
+    JobThread m_thread; // the last: it is joined before what its jobs write to goes
 };

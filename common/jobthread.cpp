@@ -1,0 +1,50 @@
+#include "common/jobthread.h"
+
+#include <utility>
+
+JobThread::~JobThread()
+{
+    stop();
+}
+
+void JobThread::add(std::function<void()> job)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_lock);
+        m_jobs.push_back(std::move(job));
+    }
+    m_changed.notify_one();
+    if (!m_thread.joinable())
+        m_thread = std::thread([this] { run(); });
+}
+
+void JobThread::stop()
+{
+    if (!m_thread.joinable())
+        return;
+    {
+        const std::lock_guard<std::mutex> lock(m_lock);
+        m_stopped = true;
+        m_jobs.clear();
+    }
+    m_changed.notify_one();
+    m_thread.join();
+    m_stopped = false;
+}
+
+void JobThread::run()
+{
+    std::unique_lock<std::mutex> lock(m_lock);
+    while (!m_stopped) {
+        if (m_jobs.empty()) {
+            m_changed.wait(lock);
+            continue;
+        }
+        auto job = std::move(m_jobs.front());
+        m_jobs.pop_front();
+        lock.unlock();
+        job();
+        job = nullptr; // what it holds goes before the lock is taken
+        lock.lock();
+    }
+}
