@@ -28,10 +28,17 @@ const char *const s_repairedPathProperty = "previewRepairedPath";
 
 ScanPluginPreviewManager *s_instance = nullptr;
 
-void joinWorker()
+void joinThreads()
 {
     if (s_instance)
         s_instance->stop();
+}
+
+/// An application may end without its loop having run: then nobody hears aboutToQuit().
+void joinThreadsAtTheEnd()
+{
+    qRemovePostRoutine(joinThreads);
+    qAddPostRoutine(joinThreads);
 }
 
 QPixmap withinBounds(const QPixmap &pixmap)
@@ -134,9 +141,7 @@ void ScanPluginPreviewManager::startWorker()
     if (m_thread->isRunning())
         return;
     createFolder();
-    // an application may end without its loop having run: then nobody hears aboutToQuit()
-    qRemovePostRoutine(joinWorker);
-    qAddPostRoutine(joinWorker);
+    joinThreadsAtTheEnd();
     m_thread->start();
 }
 
@@ -292,6 +297,7 @@ void ScanPluginPreviewManager::takeFromHost(qint64 fileId, const QString &path,
 
 void ScanPluginPreviewManager::slotUpdateThumBnail(qint64 catalogId, QPixmap pixmap)
 {
+    joinThreadsAtTheEnd(); // one may pack the pictures that this one pushes aside
     const bool wanted = m_pending.contains(catalogId) || m_askedOfHost.contains(catalogId);
     Guard owner = m_pending.take(catalogId);
     const Guard asker = m_askedOfHost.take(catalogId);

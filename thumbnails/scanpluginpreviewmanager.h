@@ -23,7 +23,7 @@ class QThread;
 /// The process's thumbnails of scan items, by file id. Answers from memory; what it does not have
 /// is looked up on disk by a worker thread, and a file that is not there is asked of the host once.
 /// Memory is bounded: of very many pictures the ones not shown for longest are given up, and loaded
-/// from their files again when they are wanted. Made on first use, never destroyed; the worker is
+/// from their files again when they are wanted. Made on first use, never destroyed; its threads are
 /// joined at the latest when the application object goes. GUI thread, but for the functions that
 /// say otherwise.
 class ScanPluginPreviewManager : public QObject
@@ -68,9 +68,9 @@ public:
     /// done.
     void dropOrphans();
     /// What all pictures together take in memory.
-    qint64 bytesInUse() const { return m_pictures.bytes(); }
+    qint64 bytesInUse() { return m_pictures.bytes(); }
 
-    /// Ends the worker, joins its thread and forgets all pictures. Requests start it again.
+    /// Ends the worker, joins all threads and forgets all pictures. Requests start it again.
     void stop();
 
 Q_SIGNALS:

@@ -65,7 +65,8 @@ QPixmap ThumbnailStore::picture(qint64 fileId)
         return place->ready;
     }
     shelf->bytes -= place->bytes;
-    place->ready = QPixmap::fromImage(std::move(place->packed));
+    place->ready = QPixmap::fromImage(waiting(*place));
+    place->packing.reset();
     place->packed = QImage();
     place->bytes = costOf(place->ready);
     shelf->bytes += place->bytes;
@@ -85,7 +86,8 @@ ThumbnailStore::Info ThumbnailStore::info(qint64 fileId)
     move(place, shelf, shelf);
     if (!place->ready.isNull())
         return {place->serial, QSizeF(place->ready.size()) / place->ready.devicePixelRatio()};
-    return {place->serial, QSizeF(place->packed.size()) / place->packed.devicePixelRatio()};
+    const QImage image = waiting(*place);
+    return {place->serial, QSizeF(image.size()) / image.devicePixelRatio()};
 }
 
 QImage ThumbnailStore::image(qint64 fileId) const
@@ -96,9 +98,9 @@ QImage ThumbnailStore::image(qint64 fileId) const
     const Entry &entry = **found;
     if (!entry.ready.isNull())
         return entry.ready.toImage();
-    return entry.packed.convertToFormat(entry.packed.hasAlphaChannel()
-                                            ? QImage::Format_ARGB32_Premultiplied
-                                            : QImage::Format_RGB32);
+    const QImage image = waiting(entry);
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                         : QImage::Format_RGB32);
 }
 
 void ThumbnailStore::remove(qint64 fileId)
@@ -117,8 +119,9 @@ void ThumbnailStore::clear()
 {
     m_entries.clear();
     m_toSweep.clear();
-    for (Shelf *shelf : {&m_ready, &m_loadable, &m_onlyCopies})
+    for (Shelf *shelf : {&m_ready, &m_packing, &m_loadable, &m_onlyCopies})
         *shelf = Shelf();
+    m_queue.stop();
 }
 
 void ThumbnailStore::adopt(qint64 fileId, TreeItemData *item)
@@ -158,15 +161,23 @@ bool ThumbnailStore::sweep(int most)
     return !m_toSweep.isEmpty();
 }
 
-qint64 ThumbnailStore::bytes() const
+qint64 ThumbnailStore::bytes()
 {
-    return m_ready.bytes + m_loadable.bytes + m_onlyCopies.bytes;
+    takePacked();
+    return m_ready.bytes + m_packing.bytes + m_loadable.bytes + m_onlyCopies.bytes;
+}
+
+QImage ThumbnailStore::waiting(const Entry &entry)
+{
+    return entry.packing ? entry.packing->image() : entry.packed;
 }
 
 ThumbnailStore::Shelf &ThumbnailStore::shelfOf(const Entry &entry)
 {
     if (!entry.ready.isNull())
         return m_ready;
+    if (entry.packing)
+        return m_packing;
     return entry.source == Source::File ? m_loadable : m_onlyCopies;
 }
 
@@ -179,23 +190,46 @@ void ThumbnailStore::move(Place place, Shelf *from, Shelf *to)
 
 void ThumbnailStore::pack(Place place)
 {
-    m_ready.bytes -= place->bytes;
-    place->packed = packedPicture(place->ready.toImage());
+    const QImage image = place->ready.toImage();
     place->ready = QPixmap();
+    if (m_packing.bytes + place->bytes <= m_limits.packing) {
+        place->packing = m_queue.add(image);
+        move(place, &m_ready, &m_packing);
+        return;
+    }
+    m_ready.bytes -= place->bytes;
+    place->packed = packedPicture(image);
     place->bytes = costOf(place->packed);
     m_ready.bytes += place->bytes;
     move(place, &m_ready, &shelfOf(*place));
 }
 
+void ThumbnailStore::takePacked()
+{
+    while (!m_packing.entries.empty()) {
+        const Place place = std::prev(m_packing.entries.end());
+        if (!place->packing->isPacked())
+            return;
+        m_packing.bytes -= place->bytes;
+        place->packed = place->packing->image();
+        place->packing.reset();
+        place->bytes = costOf(place->packed);
+        m_packing.bytes += place->bytes;
+        move(place, &m_packing, &shelfOf(*place));
+    }
+}
+
 void ThumbnailStore::keepLimits()
 {
+    takePacked();
     // the one in front is about to be shown
     while (
         m_ready.entries.size() > 1
         && (m_ready.bytes > m_limits.mostReady
             || (m_ready.bytes > m_limits.ready && int(m_ready.entries.size()) > m_limits.fewReady)))
         pack(std::prev(m_ready.entries.end()));
-    while (!m_loadable.entries.empty() && m_ready.bytes + m_loadable.bytes > m_limits.total)
+    while (!m_loadable.entries.empty()
+           && m_ready.bytes + m_packing.bytes + m_loadable.bytes > m_limits.total)
         giveUpLast(&m_loadable);
     while (!m_onlyCopies.entries.empty() && m_onlyCopies.bytes > m_limits.onlyCopies)
         giveUpLast(&m_onlyCopies);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/item/treeitemdata.h"
+#include "thumbnails/packingqueue.h"
 
 #include <QHash>
 #include <QImage>
@@ -9,20 +10,23 @@
 #include <QVector>
 
 #include <list>
+#include <memory>
 
 /// Pictures by file id, within bounds of memory. The ones shown last are ready as pixmaps; the
-/// others wait in the smallest form that shows the same pixels, never in both. When there are too
-/// many, those not shown for longest are given up: first and foremost the ones that can be loaded
-/// again. GUI thread.
+/// others wait in the smallest form that shows the same pixels, never in both. Another thread
+/// brings them into that form; as long as it has not, they count as large as they are. When there
+/// are too many, those not shown for longest are given up: first and foremost the ones that can be
+/// loaded again. GUI thread.
 class ThumbnailStore
 {
 public:
     struct Limits
     {
-        qint64 total = 128 << 20;      ///< bytes of what is ready or can be loaded again
-        qint64 ready = 16 << 20;       ///< bytes of pixmaps, unless they are few
-        int fewReady = 192;            ///< pixmaps: several pages stay ready, even of large ones
+        qint64 total = 128 << 20; ///< bytes of what is ready, being packed or can be loaded again
+        qint64 ready = 16 << 20;  ///< bytes of pixmaps, unless they are few
+        int fewReady = 192;       ///< pixmaps: several pages stay ready, even of large ones
         qint64 mostReady = 96 << 20;   ///< bytes of pixmaps in any case
+        qint64 packing = 4 << 20;      ///< bytes of what waits to be packed; the rest is at once
         qint64 onlyCopies = 512 << 20; ///< bytes of what would have to be asked of the host again
     };
     enum class Source { File, OnlyCopy };
@@ -59,15 +63,16 @@ public:
 
     int count() const { return m_entries.size(); }
     /// Memory of all pictures with what belongs to them, in bytes.
-    qint64 bytes() const;
+    qint64 bytes();
 
 private:
     struct Entry
     {
         qint64 fileId = 0;
         qint64 serial = 0;
-        QPixmap ready; ///< either this
-        QImage packed; ///< or that
+        QPixmap ready; ///< one of these three
+        std::shared_ptr<PackingQueue::Picture> packing;
+        QImage packed;
         qint64 bytes = 0;
         Source source = Source::File;
         bool owned = false;
@@ -81,14 +86,18 @@ private:
     };
     using Place = std::list<Entry>::iterator;
 
+    static QImage waiting(const Entry &entry);
     Shelf &shelfOf(const Entry &entry);
     void move(Place place, Shelf *from, Shelf *to);
     void pack(Place place);
+    void takePacked();
     void keepLimits();
     void giveUpLast(Shelf *shelf);
 
     const Limits m_limits;
+    PackingQueue m_queue;
     Shelf m_ready;
+    Shelf m_packing;
     Shelf m_loadable;
     Shelf m_onlyCopies;
     QHash<qint64, Place> m_entries;

@@ -39,6 +39,7 @@ ThumbnailStore::Limits small()
     limits.ready = 200'000;
     limits.fewReady = 4;
     limits.mostReady = 400'000;
+    limits.packing = 200'000;
     limits.onlyCopies = 500'000;
     return limits;
 }
@@ -55,6 +56,7 @@ private slots:
     void leastShownGoesFirst();
     void largeOnesKeepTheLimitsToo();
     void onlyCopiesStayLonger();
+    void isPackedByTheSide();
     void sweepTakesTheDead();
     void randomWalk();
     void hostFiles_data();
@@ -138,6 +140,28 @@ void tst_ThumbnailStore::onlyCopiesStayLonger()
         store.insert(i, pixmap, Source::OnlyCopy, nullptr);
     QVERIFY(!store.contains(0)); // but not without end
     QVERIFY(store.bytes() <= small().total + small().onlyCopies);
+}
+
+void tst_ThumbnailStore::isPackedByTheSide()
+{
+    ThumbnailStore::Limits limits = small();
+    limits.packing = limits.total;
+    ThumbnailStore store(limits);
+    const QImage grey = picture(Grey, QImage::Format_RGB32);
+    for (int i = 0; i < 20; ++i) {
+        store.insert(i, QPixmap::fromImage(grey.copy()), Source::File, nullptr);
+        QCOMPARE(store.image(0), grey); // whichever form it is in
+        QCOMPARE(store.info(0).size, QSizeF(grey.size()));
+    }
+    // nothing has to be asked for to have it done
+    QTRY_VERIFY(store.bytes() < limits.ready + 20 * grey.sizeInBytes() / 3);
+    for (int i = 0; i < 20; ++i) {
+        store.remove(i);
+        store.insert(100 + i, QPixmap::fromImage(grey.copy()), Source::File, nullptr);
+        QCOMPARE(store.picture(100 + i / 2).toImage(), grey); // on its way or there
+    }
+    store.clear();
+    QCOMPARE(store.bytes(), 0);
 }
 
 void tst_ThumbnailStore::sweepTakesTheDead()
