@@ -9,6 +9,8 @@
 #include <QSettings>
 #include <QThread>
 
+#include <utility>
+
 namespace {
 
 constexpr auto SharedPointerProperty = "ThemeManager";
@@ -24,18 +26,25 @@ struct Keys
     QString follow = QStringLiteral("followSystemTheme");
 };
 
-/// Widgets read the property on the GUI thread, and Qt wants it written there.
 void publishTheme(THEMETYPE type)
 {
-    QCoreApplication *app = QCoreApplication::instance();
-    if (!app)
-        return;
-    const int value = type == LightTheme ? 0 : 1;
-    if (QThread::currentThread() == app->thread())
-        app->setProperty(ThemeProperty, value);
-    else
-        QMetaObject::invokeMethod(
-            app, [app, value] { app->setProperty(ThemeProperty, value); }, Qt::QueuedConnection);
+    if (QCoreApplication *app = QCoreApplication::instance())
+        app->setProperty(ThemeProperty, type == LightTheme ? 0 : 1);
+}
+
+/// Widgets read the property on the GUI thread, and Qt wants it written there.
+bool mayPublish()
+{
+    const QCoreApplication *app = QCoreApplication::instance();
+    return !app || QThread::currentThread() == app->thread();
+}
+
+/// With the theme of then: the one of now may have been overtaken.
+void publishLater(ThemeManager *manager)
+{
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [manager] { publishTheme(manager->getThemeType()); },
+        Qt::QueuedConnection);
 }
 
 void writeSettings(bool follow, THEMETYPE type)
@@ -88,13 +97,18 @@ THEMETYPE ThemeManager::getThemeType()
 
 void ThemeManager::setThemeType(THEMETYPE type)
 {
-    publishTheme(type);
+    const bool publishesHere = mayPublish();
+    if (publishesHere)
+        publishTheme(type);
+    bool changed = false;
     {
         QMutexLocker lock(&m_mutex);
-        if (type == m_theme)
-            return;
-        m_theme = type;
+        changed = std::exchange(m_theme, type) != type;
     }
+    if (!publishesHere)
+        publishLater(this);
+    if (!changed)
+        return;
     QMetaObject::invokeMethod(this, qOverload<>(&ThemeManager::saveSettings), Qt::QueuedConnection);
     emit singleThemeChanged(type);
 }
@@ -136,7 +150,10 @@ void ThemeManager::loadSettings()
         m_theme = isSystemDarkTheme() ? DarkTheme : LightTheme;
     else if (settings.contains(keys.theme))
         m_theme = THEMETYPE(settings.value(keys.theme).toInt());
-    publishTheme(m_theme);
+    if (mayPublish())
+        publishTheme(m_theme);
+    else
+        publishLater(this);
 }
 
 void ThemeManager::saveSettings()

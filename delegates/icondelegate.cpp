@@ -48,20 +48,20 @@ IconDelegate::IconDelegate(QObject *parent)
     , m_nameTip(TooltipPauseMs)
     , m_labelTip(TooltipPauseMs)
 {
-    ThemeManager *themes = ThemeManager::instance();
-    loadThemeResources(themes->getThemeType());
-    connect(themes, &ThemeManager::singleThemeChanged, this, &IconDelegate::loadThemeResources);
+    loadThemeResources();
+    connect(ThemeManager::instance(), &ThemeManager::singleThemeChanged, this,
+            &IconDelegate::loadThemeResources);
     m_names.renderer()->installEventFilter(this);
 }
 
 IconDelegate::~IconDelegate() = default;
 
-void IconDelegate::loadThemeResources(THEMETYPE theme)
+void IconDelegate::loadThemeResources()
 {
-    m_theme = theme;
+    m_theme = ThemeManager::instance()->getThemeType();
     m_background.load();
     m_pictures.load();
-    m_colors = ItemColors(theme);
+    m_colors = ItemColors(m_theme);
     m_names.setColors(m_colors);
     m_fontFamily.clear();
 }

@@ -87,7 +87,8 @@ signals:
     void signalShowTooltip(QString tooltip);
 
 private:
-    void loadThemeResources(THEMETYPE theme);
+    /// Of the theme of now: the one that a signal from another thread names may have passed.
+    void loadThemeResources();
     /// Texts and fonts of the language, when they are needed and not the last ones: no card may
     /// ever be shown, and the font family also changes without notice.
     void prepare() const;

@@ -70,17 +70,17 @@ ListDelegate::ListDelegate(QObject *parent)
     : QStyledItemDelegate(parent)
     , m_tip(TooltipPauseMs)
 {
-    ThemeManager *themes = ThemeManager::instance();
-    loadThemeResources(themes->getThemeType());
-    connect(themes, &ThemeManager::singleThemeChanged, this, &ListDelegate::loadThemeResources);
+    loadThemeResources();
+    connect(ThemeManager::instance(), &ThemeManager::singleThemeChanged, this,
+            &ListDelegate::loadThemeResources);
     m_names.renderer()->installEventFilter(this);
 }
 
 ListDelegate::~ListDelegate() = default;
 
-void ListDelegate::loadThemeResources(THEMETYPE theme)
+void ListDelegate::loadThemeResources()
 {
-    m_colors = RowColors(theme);
+    m_colors = RowColors(ThemeManager::instance()->getThemeType());
     m_pictures.load();
     m_names.setColors(m_colors);
     retranslate();

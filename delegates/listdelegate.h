@@ -1,6 +1,5 @@
 #pragma once
 
-#include "common/themetype.h"
 #include "delegates/columntexts.h"
 #include "delegates/elidecache.h"
 #include "delegates/namepainter.h"
@@ -84,7 +83,8 @@ signals:
 private:
     struct Cell;
 
-    void loadThemeResources(THEMETYPE theme);
+    /// Of the theme of now: the one that a signal from another thread names may have passed.
+    void loadThemeResources();
     /// Fonts and texts of the language; the font family may also change without notice.
     void retranslate() const;
 

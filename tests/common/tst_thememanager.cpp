@@ -148,6 +148,8 @@ void TestThemeManager::changes_data()
     QTest::newRow("follow is saved, theme stays") << "follow=0" << 0 << 0 << 0 << 0 << QJsonArray();
     QTest::newRow("follow as it was") << "follow=1" << 0 << 0 << -1 << -1 << QJsonArray();
     QTest::newRow("from another thread") << "thread:theme=1" << 1 << 1 << 1 << 1 << QJsonArray{1};
+    QTest::newRow("overtaken by another thread")
+        << "thread:theme=1 theme=0" << 0 << 0 << 0 << 1 << QJsonArray{1, 0};
 }
 
 void TestThemeManager::changes()

@@ -4,6 +4,7 @@
 #include "delegates/checkboxlook.h"
 #include "delegates/devicegrid.h"
 #include "delegates/icondelegate.h"
+#include "delegates/listdelegate.h"
 #include "delegates/recoverabilitylabel.h"
 #include "delegates/scaledthumbnails.h"
 #include "platform/system/system.h"
@@ -81,6 +82,7 @@ private slots:
     void composedIsDrawnInBands();
     void paintedAgainIsPaintedAnew_data();
     void paintedAgainIsPaintedAnew();
+    void themeThatWasOvertaken();
     void gapBetweenDevicePixels_data();
     void gapBetweenDevicePixels();
     void checkBoxLooks_data();
@@ -230,6 +232,22 @@ void TestCardPainting::paintedAgainIsPaintedAnew()
         }
     }
     ThemeManager::instance()->setThemeType(LightTheme);
+}
+
+void TestCardPainting::themeThatWasOvertaken()
+{
+    CardFixture cards;
+    const QModelIndex card = cards.indexOf(cards.add(QStringLiteral("IMG_0001.JPG")));
+    const IconDelegate icons;
+    const ListDelegate rows;
+    const QScopedPointer<QThread> thread(
+        QThread::create([] { ThemeManager::instance()->setThemeType(DarkTheme); }));
+    thread->start();
+    QVERIFY(thread->wait(5000));
+    ThemeManager::instance()->setThemeType(LightTheme);
+    QCoreApplication::processEvents(); // only now they hear of the dark one
+    QCOMPARE(CardFixture::paint(icons, card), CardFixture::paint(IconDelegate(), card));
+    QCOMPARE(CardFixture::paint(rows, card), CardFixture::paint(ListDelegate(), card));
 }
 
 void TestCardPainting::gapBetweenDevicePixels_data()
