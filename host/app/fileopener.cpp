@@ -8,6 +8,12 @@ FileOpener::FileOpener(QObject *parent)
 {
 }
 
+FileOpener::~FileOpener()
+{
+    // before the folder: a job would make it anew
+    qDeleteAll(findChildren<RecoveryJob *>());
+}
+
 void FileOpener::open(const std::shared_ptr<const ScanSource> &source, const FoundItem &file)
 {
     auto *job = new RecoveryJob(source, this);

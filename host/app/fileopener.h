@@ -13,6 +13,7 @@ class FileOpener : public QObject
 
 public:
     explicit FileOpener(QObject *parent = nullptr);
+    ~FileOpener() override;
 
     void open(const std::shared_ptr<const ScanSource> &source, const FoundItem &file);
 

@@ -1,4 +1,6 @@
+#include "foundfolder.h"
 #include "host/app/contentplugin.h"
+#include "host/app/fileopener.h"
 #include "host/app/languages.h"
 #include "host/app/session.h"
 #include "host/ui/bottombar.h"
@@ -71,6 +73,7 @@ private slots:
     void bulkMenuByKeyboard();
     void searchesAreCheckedAsAWhole();
     void aTargetOnTheCardIsRefused();
+    void nothingStaysOfAnOpeningCutShort();
 
 private:
     QString card() const { return m_folder.filePath(QStringLiteral("card")); }
@@ -259,6 +262,21 @@ void TestHostWindow::aTargetOnTheCardIsRefused()
     Languages::apply(*Languages::find(QStringLiteral("ar"))); // where a path needs protection
     QTRY_VERIFY(banner->accessibleName().contains(QChar(0x2066) + QDir::toNativeSeparators(target)
                                                   + QChar(0x2069)));
+}
+
+void TestHostWindow::nothingStaysOfAnOpeningCutShort()
+{
+    const FoundFolder found({{QStringLiteral("a.txt"), QByteArray(100, 'x')}});
+    const QString temporary = m_folder.filePath(QStringLiteral("temporary"));
+    QVERIFY(QDir().mkpath(temporary));
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", temporary.toLocal8Bit());
+    for (int i = 0; i < 10; ++i) {
+        FileOpener opener;
+        opener.open(found.source, found.items.first()); // and goes before it is done
+    }
+    before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    QVERIFY(QDir(temporary).isEmpty());
 }
 
 QTEST_MAIN(TestHostWindow)
