@@ -1,5 +1,6 @@
 #include "common/jobthread.h"
 
+#include <system_error>
 #include <utility>
 
 JobThread::~JobThread()
@@ -14,8 +15,13 @@ void JobThread::add(std::function<void()> job)
         m_jobs.push_back(std::move(job));
     }
     m_changed.notify_one();
-    if (!m_thread.joinable())
+    if (m_thread.joinable())
+        return;
+    try {
         m_thread = std::thread([this] { run(); });
+    } catch (const std::system_error &) {
+        // no thread to be had: the next job tries again
+    }
 }
 
 void JobThread::stop()
