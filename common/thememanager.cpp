@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
-#include <QMutexLocker>
 #include <QSettings>
 #include <QThread>
 
@@ -62,8 +61,8 @@ void writeSettings(bool follow, THEMETYPE type)
 
 ThemeManager *ThemeManager::instance()
 {
-    static QMutex mutex;
-    QMutexLocker lock(&mutex);
+    static std::mutex mutex;
+    const std::lock_guard<std::mutex> lock(mutex);
     if (s_instance)
         return s_instance;
 
@@ -91,7 +90,7 @@ ThemeManager::ThemeManager(QObject *parent)
 
 THEMETYPE ThemeManager::getThemeType()
 {
-    QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return m_theme;
 }
 
@@ -102,7 +101,7 @@ void ThemeManager::setThemeType(THEMETYPE type)
         publishTheme(type);
     bool changed = false;
     {
-        QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         changed = std::exchange(m_theme, type) != type;
     }
     if (!publishesHere)
@@ -115,13 +114,13 @@ void ThemeManager::setThemeType(THEMETYPE type)
 
 bool ThemeManager::isFollowSystemTheme()
 {
-    QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return m_followSystem;
 }
 
 void ThemeManager::setFollowSystemTheme(bool follow)
 {
-    QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     if (follow == m_followSystem)
         return;
     m_followSystem = follow;
@@ -158,13 +157,13 @@ void ThemeManager::loadSettings()
 
 void ThemeManager::saveSettings()
 {
-    QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     writeSettings(m_followSystem, m_theme);
 }
 
 void ThemeManager::saveSettings(bool follow, THEMETYPE type)
 {
-    QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     writeSettings(follow, type);
 }
 

@@ -2,9 +2,10 @@
 
 #include "common/themetype.h"
 
-#include <QMutex>
 #include <QObject>
 #include <QStringList>
+
+#include <mutex>
 
 /// The one theme of the process. Reads its settings once, when made; announces every change.
 /// Published as the application property "ThemeManager" (void*), so that all modules of a process
@@ -37,7 +38,7 @@ private:
     explicit ThemeManager(QObject *parent);
     void loadSettings();
 
-    QMutex m_mutex;
+    std::mutex m_mutex; // race detectors see through it and not through Qt's
     THEMETYPE m_theme = LightTheme;
     bool m_followSystem = false;
 };

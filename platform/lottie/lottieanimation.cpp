@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutexLocker>
 
 #include <rlottie.h>
 
@@ -56,7 +55,7 @@ QImage LottieAnimation::render(int frame, const QSize &pixels)
     image.fill(Qt::transparent);
     rlottie::Surface surface(reinterpret_cast<uint32_t *>(image.bits()), size_t(image.width()),
                              size_t(image.height()), size_t(image.bytesPerLine()));
-    QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_animation->renderSync(size_t(qBound(0, frame, m_frameCount - 1)), surface);
     return image;
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QImage>
-#include <QMutex>
 #include <QSize>
 #include <QString>
 
 #include <memory>
+#include <mutex>
 
 namespace rlottie {
 class Animation;
@@ -32,7 +32,7 @@ public:
 private:
     explicit LottieAnimation(std::unique_ptr<rlottie::Animation> animation);
 
-    QMutex m_mutex;
+    std::mutex m_mutex; // race detectors see through it and not through Qt's
     std::unique_ptr<rlottie::Animation> m_animation;
     int m_frameCount = 0;
     double m_framesPerSecond = 0;

@@ -11,9 +11,10 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
-#include <QThread>
 #include <QTimer>
 #include <QWidget>
+
+#include <thread>
 
 namespace {
 
@@ -41,10 +42,7 @@ int probe(const QStringList &steps)
     const QString otherThread = QStringLiteral("thread:");
     for (const QString &step : steps) {
         if (step.startsWith(otherThread)) {
-            QScopedPointer<QThread> thread(
-                QThread::create([&] { apply(step.mid(otherThread.size())); }));
-            thread->start();
-            thread->wait();
+            std::thread([&] { apply(step.mid(otherThread.size())); }).join();
         } else {
             apply(step);
         }

@@ -16,6 +16,7 @@
 
 #include <memory>
 #include <optional>
+#include <thread>
 
 namespace {
 
@@ -240,10 +241,7 @@ void TestCardPainting::themeThatWasOvertaken()
     const QModelIndex card = cards.indexOf(cards.add(QStringLiteral("IMG_0001.JPG")));
     const IconDelegate icons;
     const ListDelegate rows;
-    const QScopedPointer<QThread> thread(
-        QThread::create([] { ThemeManager::instance()->setThemeType(DarkTheme); }));
-    thread->start();
-    QVERIFY(thread->wait(5000));
+    std::thread([] { ThemeManager::instance()->setThemeType(DarkTheme); }).join();
     ThemeManager::instance()->setThemeType(LightTheme);
     QCoreApplication::processEvents(); // only now they hear of the dark one
     QCOMPARE(CardFixture::paint(icons, card), CardFixture::paint(IconDelegate(), card));

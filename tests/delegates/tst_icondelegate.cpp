@@ -9,8 +9,9 @@
 
 #include <QScopeGuard>
 #include <QSignalSpy>
-#include <QtConcurrent>
 #include <QtTest>
+
+#include <future>
 
 Q_DECLARE_METATYPE(Qt::MouseButton)
 Q_DECLARE_METATYPE(Qt::KeyboardModifiers)
@@ -425,8 +426,9 @@ void TestIconDelegate::elidedTextOffTheGuiThread()
     const IconDelegate delegate;
     const QString name(200, QLatin1Char('W'));
     QTest::ignoreMessage(QtDebugMsg, "icondelegate currentThread not mainthread");
-    QCOMPARE(QtConcurrent::run([&] { return delegate.getElidedText(name, 100); }).result(), name);
-    QVERIFY(delegate.getElidedText(name, 100) != name);
+    const auto elided = [&] { return delegate.getElidedText(name, 100); };
+    QCOMPARE(std::async(std::launch::async, elided).get(), name);
+    QVERIFY(elided() != name);
 }
 
 QTEST_MAIN(TestIconDelegate)
