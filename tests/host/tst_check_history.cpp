@@ -1,6 +1,7 @@
+#include "foundtree.h"
 #include "host/tree/checksweep.h"
 #include "host/tree/itemkinds.h"
-#include "host/tree/itemtree.h"
+#include "support/datarow.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -10,17 +11,6 @@ namespace {
 constexpr int MaxSteps = 32;
 
 using Checks = QMap<qint64, bool>; // of files and empty folders, by id
-
-FoundItem item(qint64 id, qint64 parentId, const QString &name, qint64 size = 5)
-{
-    FoundItem found;
-    found.id = id;
-    found.parentId = parentId;
-    found.name = name;
-    found.folder = size < 0;
-    found.size = qMax<qint64>(size, 0);
-    return found;
-}
 
 FoundItem folder(qint64 id, qint64 parentId = -1)
 {
@@ -55,9 +45,11 @@ struct Count
 {
     int leaves = 0;
     int checked = 0;
+    qint64 items = 0;
+    qint64 bytes = 0;
 };
 
-/// Walks everything below; an empty string when each state on the way is what it should be.
+/// Walks everything below; an empty string when all that is told on the way is what it should be.
 QString faultBelow(const ItemRecord *record, Count *count)
 {
     Count own;
@@ -66,12 +58,19 @@ QString faultBelow(const ItemRecord *record, Count *count)
             const QString fault = faultBelow(static_cast<const ItemRecord *>(child), &own);
             if (!fault.isEmpty())
                 return fault;
+            ++own.items;
         }
     }
-    if (own.leaves == 0 && !record->isRoot)
-        own = {1, record->isChecked ? 1 : 0};
+    if (own.leaves == 0 && !record->isRoot) {
+        own.leaves = 1;
+        own.checked = record->isChecked ? 1 : 0;
+    }
+    if (!record->isFolder())
+        own.bytes = record->fileSize;
     count->leaves += own.leaves;
     count->checked += own.checked;
+    count->items += own.items;
+    count->bytes += own.bytes;
     const int state = own.checked == 0 ? Qt::Unchecked
         : own.checked == own.leaves    ? Qt::Checked
                                        : Qt::PartiallyChecked;
@@ -80,35 +79,58 @@ QString faultBelow(const ItemRecord *record, Count *count)
             .arg(record->name)
             .arg(record->checkState)
             .arg(state);
+    if (record->itemCount != own.items || record->size() != own.bytes)
+        return record->name + QStringLiteral(" has another count or size");
     if (record->checksNewcomers && own.checked < own.leaves)
         return record->name + QStringLiteral(" takes newcomers along but is not wholly checked");
     return {};
 }
 
-QString faultOf(const ItemTree &tree)
+QString faultOf(const ItemTree &tree, const ItemFilter &filter = {})
 {
-    QVector<ItemRecord *> roots = tree.kindRoots();
-    roots << tree.allFiles() << tree.placeRoot();
-    for (const ItemRecord *root : qAsConst(roots)) {
-        Count count;
-        const QString fault = faultBelow(root, &count);
-        if (!fault.isEmpty())
-            return fault;
-    }
+    Count byPlace;
+    Count byKind;
+    Count all;
+    QString fault = faultBelow(tree.placeRoot(), &byPlace) + faultBelow(tree.allFiles(), &all);
+    for (const ItemRecord *root : tree.kindRoots())
+        fault += faultBelow(root, &byKind);
     int files = 0;
     qint64 bytes = 0;
+    Count shown;
     for (int i = 0; i < tree.records().size(); ++i) {
         const ItemRecord *record = tree.records().at(i);
         if (!record->isFolder() && record->isChecked) {
             ++files;
             bytes += record->fileSize;
         }
+        if (record->isRoot)
+            continue;
+        const bool expected = record->isFolder() ? !filter.isActive() || record->itemCount > 0
+                                                 : filter.accepts(*record);
+        if (record->isShown != expected)
+            fault += record->name + QStringLiteral(" is hidden or shown");
+        shown.items += record->isShown ? 1 : 0;
+        shown.leaves += record->isShown && !record->isFolder() ? 1 : 0;
     }
+    if (tree.hasSeveralVolumes())
+        shown.items += tree.volumeRoots().size();
+    if (byPlace.items != shown.items || all.items != shown.leaves || byKind.items != shown.leaves)
+        fault += QStringLiteral("not all are listed");
     if (files != tree.checkedFiles() || bytes != tree.checkedBytes())
-        return QStringLiteral("%1 files are checked, told are %2")
-            .arg(files)
-            .arg(tree.checkedFiles());
-    return {};
+        fault +=
+            QStringLiteral("%1 files are checked, told are %2").arg(files).arg(tree.checkedFiles());
+    return fault;
+}
+
+/// What is shown at and below \a record is checked, and nothing else.
+void check(const ItemRecord *record, bool on, Checks *checks)
+{
+    for (const auto *list : {&record->childFolders, &record->childFiles}) {
+        for (const TreeItemData *child : *list)
+            check(static_cast<const ItemRecord *>(child), on, checks);
+    }
+    if (record->isShown && record->isLeaf)
+        checks->insert(record->fileId, on);
 }
 
 bool finished(const std::unique_ptr<CheckSweep> &sweep)
@@ -147,13 +169,6 @@ Change differenceOf(const Checks &before, const Checks &after)
     return change;
 }
 
-VolumeInfo volume(const QString &root)
-{
-    VolumeInfo info;
-    info.root = root;
-    return info;
-}
-
 } // namespace
 
 class TestCheckHistory : public QObject
@@ -172,20 +187,21 @@ private slots:
 
 void TestCheckHistory::behavesLikeSnapshots_data()
 {
-    QTest::addColumn<quint32>("seed");
-    QTest::addColumn<int>("volumes");
+    addColumns<quint32, QStringList>({"seed", "roots"});
     for (quint32 seed = 1; seed <= 12; ++seed)
-        QTest::addRow("seed %u", seed) << seed << int(1 + seed % 2);
+        QTest::addRow("seed %u", seed)
+            << seed << QStringList(QStringList{"E:", "F:"}.mid(seed % 2));
 }
 
 void TestCheckHistory::behavesLikeSnapshots()
 {
     QFETCH(quint32, seed);
-    QFETCH(int, volumes);
+    QFETCH(QStringList, roots);
     QRandomGenerator random(seed);
     const auto below = [&random](int end) { return int(random.bounded(end)); };
     ItemTree tree;
-    tree.setVolumes(QVector<VolumeInfo>{volume("E:"), volume("F:")}.mid(0, volumes));
+    tree.setVolumes(volumes(roots));
+    ItemFilter filter;
     QVector<qint64> folders{-1};
     QVector<Change> done;
     QVector<Change> undone;
@@ -201,7 +217,7 @@ void TestCheckHistory::behavesLikeSnapshots()
                                    QString("%1.%2").arg(turn).arg(endings[below(4)]), below(900));
             found.folder = below(4) == 0;
             found.deleted = below(3) == 0;
-            found.volume = below(volumes);
+            found.volume = below(roots.size());
             if (found.folder)
                 folders.append(found.id);
             tree.add({found});
@@ -210,7 +226,12 @@ void TestCheckHistory::behavesLikeSnapshots()
         } else if (action < 8) {
             FilterCondition condition;
             condition.mode = below(2) ? ItemFilter::DeletedOnly : ItemFilter::AnyState;
-            tree.beginFilter(ItemFilter(condition));
+            if (below(3) == 0)
+                condition.list1 = QStringList{"zenvo_photo", "zenvo_others"};
+            if (below(3) == 0)
+                condition.minSize = 300;
+            filter = ItemFilter(condition);
+            tree.beginFilter(filter);
             tree.filterMore(tree.records().size());
         } else if (action < 12) {
             const bool again = action == 11;
@@ -236,15 +257,19 @@ void TestCheckHistory::behavesLikeSnapshots()
                 CheckSweep::inverted(tree)->finish();
             else if (action == 14)
                 CheckSweep::none(tree)->finish();
-            else if (action == 15)
-                tree.setChecked(below(2) ? tree.allFiles() : tree.placeRoot(), below(2));
-            else if (action == 16)
-                tree.setChecked(tree.kindRoots()[below(9)], below(2));
-            else if (action == 17 && folders.size() > 1)
-                tree.setChecked(find(tree, folders[1 + below(folders.size() - 1)]), below(2));
-            else
-                tree.setChecked(find(tree, (before.begin() + below(before.size())).key()),
-                                below(2));
+            else {
+                ItemRecord *record = find(tree, (before.begin() + below(before.size())).key());
+                if (action == 15)
+                    record = below(2) ? tree.allFiles() : tree.placeRoot();
+                else if (action == 16)
+                    record = tree.kindRoots()[below(9)];
+                else if (action == 17 && folders.size() > 1)
+                    record = find(tree, folders[1 + below(folders.size() - 1)]);
+                const bool on = below(2);
+                check(record, on, &expected);
+                tree.setChecked(record, on);
+                QCOMPARE(checksOf(tree), expected);
+            }
             if (tree.endStep()) {
                 done.append(differenceOf(before, checksOf(tree)));
                 undone.clear();
@@ -252,7 +277,7 @@ void TestCheckHistory::behavesLikeSnapshots()
                     done.removeFirst();
             }
         }
-        const QString fault = faultOf(tree);
+        const QString fault = faultOf(tree, filter);
         QVERIFY2(fault.isEmpty(), qPrintable(QString("turn %1: %2").arg(turn).arg(fault)));
     }
 }
@@ -261,7 +286,7 @@ void TestCheckHistory::behavesLikeSnapshots()
 void TestCheckHistory::newcomersGoWithTheStepThatTookThem()
 {
     ItemTree tree;
-    tree.setVolumes({volume("card")});
+    tree.setVolumes(volumes({"card"}));
     tree.add({folder(1), item(2, 1, "a.jpg"), item(3, 1, "b.jpg"), item(4, -1, "c.txt"),
               item(5, -1, "d.txt")});
     tree.setChecked(find(tree, 5), true);
@@ -291,7 +316,7 @@ void TestCheckHistory::newcomersGoWithTheStepThatTookThem()
 void TestCheckHistory::aStepChangesMoreThanOneFile()
 {
     ItemTree tree;
-    tree.setVolumes({volume("card")});
+    tree.setVolumes(volumes({"card"}));
     tree.add({folder(1), item(2, 1, "a.jpg"), folder(3), item(4, 3, "b.jpg"), item(5, 3, "c.jpg")});
     const auto step = [&tree](qint64 id, bool checked) {
         tree.beginStep();
@@ -314,7 +339,7 @@ void TestCheckHistory::aStepChangesMoreThanOneFile()
 void TestCheckHistory::backAndForthIsNoChange()
 {
     ItemTree tree;
-    tree.setVolumes({volume("card")});
+    tree.setVolumes(volumes({"card"}));
     tree.add({item(1, -1, "a.jpg"), item(2, -1, "b.jpg"), item(3, -1, "c.jpg")});
     tree.setChecked(find(tree, 1), true);
     tree.beginStep();
@@ -328,7 +353,7 @@ void TestCheckHistory::backAndForthIsNoChange()
 void TestCheckHistory::whatIsGoneIsForgotten()
 {
     ItemTree tree;
-    tree.setVolumes({volume("card")});
+    tree.setVolumes(volumes({"card"}));
     tree.add({item(1, -1, "a.jpg"), item(2, -1, "b.jpg")});
     tree.beginStep();
     tree.setChecked(tree.allFiles(), true);
@@ -336,7 +361,7 @@ void TestCheckHistory::whatIsGoneIsForgotten()
     tree.beginStep();
     tree.clear();
     QVERIFY(!undo(tree));
-    tree.setVolumes({volume("card")});
+    tree.setVolumes(volumes({"card"}));
     tree.add({item(1, -1, "a.jpg")});
     QVERIFY(!undo(tree));
     QCOMPARE(faultOf(tree), QString());

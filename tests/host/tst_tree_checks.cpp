@@ -1,8 +1,8 @@
+#include "foundtree.h"
 #include "host/scan/filecategory.h"
 #include "host/tree/checksweep.h"
 #include "host/tree/itemkinds.h"
 #include "host/tree/itemsearch.h"
-#include "host/tree/itemtree.h"
 #include "host/tree/slicedwork.h"
 
 #include <QPointer>
@@ -13,27 +13,6 @@
 #include <QThread>
 
 namespace {
-
-FoundItem item(qint64 id, qint64 parentId, const QString &path, const QString &name,
-               qint64 size = 0)
-{
-    FoundItem found;
-    found.id = id;
-    found.parentId = parentId;
-    found.path = path;
-    found.name = name;
-    found.size = size;
-    found.folder = size < 0;
-    found.size = qMax<qint64>(size, 0);
-    return found;
-}
-
-VolumeInfo volume(const QString &root)
-{
-    VolumeInfo info;
-    info.root = root;
-    return info;
-}
 
 QVector<qint32> placesOf(const QList<TreeItemData *> &items)
 {
@@ -61,119 +40,6 @@ QString differenceOf(const ItemRecord &one, const ItemRecord &other)
     return bool(one.kindRoot) != bool(other.kindRoot) ? "kind" : "";
 }
 
-/// The same rules, told by walking everything each time.
-class PlainModel
-{
-public:
-    explicit PlainModel(const ItemTree &tree)
-        : m_tree(tree)
-    {
-    }
-
-    void add(const FoundItem &found)
-    {
-        m_items.insert(found.id, found);
-        m_children[found.parentId].append(found.id);
-    }
-    void check(qint64 id, bool on)
-    {
-        const FoundItem found = m_items.value(id);
-        if (!found.folder || children(id).isEmpty()) {
-            if (isShown(id) && on)
-                m_checked.insert(id);
-            else if (isShown(id))
-                m_checked.remove(id);
-            return;
-        }
-        const auto inside = children(id);
-        for (qint64 child : inside)
-            check(child, on);
-    }
-    void setFilter(const ItemFilter &filter) { m_filter = filter; }
-
-    int state(qint64 id) const
-    {
-        int leaves = 0;
-        int checked = 0;
-        count(id, &leaves, &checked);
-        return checked == 0     ? Qt::Unchecked
-            : checked == leaves ? Qt::Checked
-                                : Qt::PartiallyChecked;
-    }
-    qint64 below(qint64 id) const
-    {
-        qint64 sum = 0;
-        const auto inside = children(id);
-        for (qint64 child : inside)
-            sum += 1 + below(child);
-        return sum;
-    }
-    qint64 bytes(qint64 id) const
-    {
-        if (!m_items.value(id).folder && id >= 0)
-            return m_items.value(id).size;
-        qint64 sum = 0;
-        const auto inside = children(id);
-        for (qint64 child : inside)
-            sum += bytes(child);
-        return sum;
-    }
-    int checkedFiles() const
-    {
-        int files = 0;
-        for (qint64 id : m_checked)
-            files += m_items.value(id).folder ? 0 : 1;
-        return files;
-    }
-    QVector<qint64> children(qint64 id) const
-    {
-        QVector<qint64> shown;
-        for (qint64 child : m_children.value(id)) {
-            if (isShown(child))
-                shown.append(child);
-        }
-        return shown;
-    }
-    bool isShown(qint64 id) const
-    {
-        const FoundItem found = m_items.value(id);
-        if (!m_filter.isActive())
-            return true;
-        if (!found.folder)
-            return m_filter.accepts(*record(id));
-        return !children(id).isEmpty();
-    }
-    const ItemRecord *record(qint64 id) const
-    {
-        for (int i = 0; i < m_tree.records().size(); ++i) {
-            if (m_tree.records().at(i)->fileId == id)
-                return m_tree.records().at(i);
-        }
-        return nullptr;
-    }
-    QList<qint64> ids() const { return m_items.keys(); }
-    bool isFolder(qint64 id) const { return m_items.value(id).folder; }
-    void forget(qint64 folder) { m_checked.remove(folder); }
-
-private:
-    void count(qint64 id, int *leaves, int *checked) const
-    {
-        const QVector<qint64> below = children(id);
-        if (id >= 0 && below.isEmpty()) {
-            ++*leaves;
-            *checked += m_checked.contains(id) ? 1 : 0;
-        }
-        for (qint64 child : below)
-            count(child, leaves, checked);
-    }
-
-    const ItemTree &m_tree;
-    QMap<qint64, FoundItem> m_items;
-    QHash<qint64, QVector<qint64>> m_children;
-    QSet<qint64> m_checked;
-    ItemFilter m_filter;
-};
-
 } // namespace
 
 class TestTreeChecks : public QObject
@@ -182,8 +48,6 @@ class TestTreeChecks : public QObject
 
 private slots:
     void recordsAreFilled();
-    void behavesLikeThePlainModel_data();
-    void behavesLikeThePlainModel();
     void newcomersFollowOnlyWhatWasCheckedAsAWhole();
     void foreignPointersAreNotOurs();
     void searchListsTheSameRecords();
@@ -196,14 +60,15 @@ private slots:
 void TestTreeChecks::recordsAreFilled()
 {
     ItemTree tree;
-    tree.setVolumes({volume("E:"), volume("F:")});
-    FoundItem file = item(12, 11, "DCIM", "IMG_1.JPG", 700);
+    tree.setVolumes(volumes({"E:", "F:"}));
+    FoundItem file = item(12, 11, "IMG_1.JPG", 700);
+    file.path = "DCIM";
     file.deleted = true;
     file.volume = 1;
     file.modifiedTime = 1700000000;
-    FoundItem folder = item(11, -1, QString(), "DCIM", -1);
+    FoundItem folder = item(11, -1, "DCIM", -1);
     folder.volume = 1;
-    FoundItem lost = item(13, 999, "gone", "x", 1);
+    FoundItem lost = item(13, 999, "x", 1);
     lost.volume = 7;
     tree.add({folder, file, lost});
 
@@ -230,112 +95,31 @@ void TestTreeChecks::recordsAreFilled()
     QCOMPARE(tree.volumeRoots().first()->childFiles.value(0)->name, QString("x"));
 }
 
-void TestTreeChecks::behavesLikeThePlainModel_data()
-{
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed : {1u, 7u, 42u, 1977u, 2026u})
-        QTest::addRow("seed %u", seed) << seed;
-}
-
-void TestTreeChecks::behavesLikeThePlainModel()
-{
-    QFETCH(quint32, seed);
-    QRandomGenerator random(seed);
-    const auto below = [&random](int end) { return int(random.bounded(end)); };
-    ItemTree tree;
-    tree.setVolumes({volume("card")});
-    PlainModel model(tree);
-    QVector<FoundItem> folders;
-    const QStringList endings{"jpg", "mp4", "txt", "zip", "odd"};
-
-    for (qint64 id = 1; id <= 400; ++id) {
-        const int action = below(10);
-        if (action < 6) {
-            const bool atRoot = folders.isEmpty() || below(6) == 0;
-            const FoundItem parent = atRoot ? FoundItem() : folders[below(folders.size())];
-            FoundItem found = item(id, parent.id, atRoot ? QString() : parent.fullPath(),
-                                   QString("%1.%2").arg(id).arg(endings[below(5)]),
-                                   below(3) ? below(1000) : -1);
-            found.deleted = below(3) == 0;
-            // whatever was checked as a whole takes newcomers with it, which has a test of its own
-            const ItemRecord *holder = atRoot ? tree.placeRoot() : model.record(parent.id);
-            bool takesAlong = false;
-            for (const ItemRecord *above = holder; above; above = above->folder())
-                takesAlong = takesAlong || above->checkState == Qt::Checked;
-            if (takesAlong || tree.allFiles()->checkState == Qt::Checked
-                || std::any_of(tree.kindRoots().begin(), tree.kindRoots().end(),
-                               [](auto *root) { return root->checkState == Qt::Checked; }))
-                continue;
-            if (found.folder)
-                folders.append(found);
-            model.add(found);
-            tree.add({found});
-        } else if (action < 9) {
-            const QList<qint64> ids = model.ids();
-            if (ids.isEmpty())
-                continue;
-            const qint64 chosen = ids[below(ids.size())];
-            const bool on = below(2);
-            model.check(chosen, on);
-            tree.setChecked(const_cast<ItemRecord *>(model.record(chosen)), on);
-        } else {
-            FilterCondition condition;
-            if (below(2))
-                condition.mode = ItemFilter::DeletedOnly;
-            if (below(2))
-                condition.list1 = QStringList{"zenvo_photo", "zenvo_others"};
-            if (below(3) == 0)
-                condition.minSize = 300;
-            model.setFilter(ItemFilter(condition));
-            tree.beginFilter(ItemFilter(condition));
-            while (!tree.filterMore(1 + below(40))) { }
-        }
-
-        QCOMPARE(tree.checkedFiles(), model.checkedFiles());
-        QCOMPARE(tree.placeRoot()->checkState, model.state(-1));
-        QCOMPARE(tree.placeRoot()->itemCount, model.below(-1));
-        QCOMPARE(tree.placeRoot()->folderSize, model.bytes(-1));
-        if (id % 10 != 0)
-            continue;
-        const auto ids = model.ids();
-        for (qint64 shown : ids) {
-            if (!model.isShown(shown))
-                continue;
-            const ItemRecord *record = model.record(shown);
-            QCOMPARE(record->checkState, model.state(shown));
-            QCOMPARE(record->childFolders.size() + record->childFiles.size(),
-                     model.children(shown).size());
-            if (record->isFolder())
-                QCOMPARE(record->folderSize, model.bytes(shown));
-        }
-    }
-}
-
 void TestTreeChecks::newcomersFollowOnlyWhatWasCheckedAsAWhole()
 {
     ItemTree tree;
-    tree.setVolumes({volume("card")});
-    tree.add({item(1, -1, "", "whole", -1), item(2, 1, "whole", "a.jpg", 5),
-              item(3, -1, "", "single", -1), item(4, 3, "single", "b.jpg", 5)});
+    tree.setVolumes(volumes({"card"}));
+    tree.add({item(1, -1, "whole", -1), item(2, 1, "a.jpg", 5), item(3, -1, "single", -1),
+              item(4, 3, "b.jpg", 5)});
     ItemRecord *whole = static_cast<ItemRecord *>(tree.placeRoot()->childFolders[0]);
     ItemRecord *single = static_cast<ItemRecord *>(tree.placeRoot()->childFolders[1]);
     tree.setChecked(whole, true);
     tree.setChecked(static_cast<ItemRecord *>(single->childFiles[0]), true);
     QCOMPARE(single->checkState, int(Qt::Checked));
 
-    tree.add({item(5, 1, "whole", "c.mp4", 5), item(6, 3, "single", "d.mp4", 5)});
+    tree.add({item(5, 1, "c.mp4", 5), item(6, 3, "d.mp4", 5)});
     QCOMPARE(whole->checkState, int(Qt::Checked));
     QCOMPARE(single->checkState, int(Qt::PartiallyChecked));
     QCOMPARE(tree.checkedFiles(), 3);
     QCOMPARE(tree.checkedBytes(), 15);
 
     tree.setChecked(static_cast<ItemRecord *>(whole->childFiles[0]), false);
-    tree.add({item(7, 1, "whole", "e.mp4", 5)});
+    tree.add({item(7, 1, "e.mp4", 5)});
     QCOMPARE(tree.checkedFiles(), 2);
 
     tree.setChecked(tree.allFiles(), true);
     QCOMPARE(tree.checkedFiles(), 5);
-    tree.add({item(8, -1, "", "f.mp4", 5)});
+    tree.add({item(8, -1, "f.mp4", 5)});
     QCOMPARE(tree.checkedFiles(), 6);
     QCOMPARE(tree.placeRoot()->checkState, int(Qt::Checked));
 
@@ -354,8 +138,8 @@ void TestTreeChecks::newcomersFollowOnlyWhatWasCheckedAsAWhole()
 void TestTreeChecks::foreignPointersAreNotOurs()
 {
     ItemTree tree;
-    tree.setVolumes({volume("card")});
-    tree.add({item(1, -1, "", "a.jpg", 5)});
+    tree.setVolumes(volumes({"card"}));
+    tree.add({item(1, -1, "a.jpg", 5)});
     TreeItemData stranger;
     TreeItemData *ours = tree.placeRoot()->childFiles.first();
     QCOMPARE(tree.records().find(ours), ours);
@@ -370,11 +154,10 @@ void TestTreeChecks::foreignPointersAreNotOurs()
 void TestTreeChecks::searchListsTheSameRecords()
 {
     ItemTree tree;
-    tree.setVolumes({volume("card")});
+    tree.setVolumes(volumes({"card"}));
     ItemSearch search(tree);
     QSignalSpy progressed(&search, &ItemSearch::progressed);
-    tree.add({item(1, -1, "", "Beach", -1), item(2, 1, "Beach", "BEACH 1.jpg", 5),
-              item(3, 1, "Beach", "hill.jpg", 5)});
+    tree.add({item(1, -1, "Beach", -1), item(2, 1, "BEACH 1.jpg", 5), item(3, 1, "hill.jpg", 5)});
     search.start("beach", ItemSearch::By::Name);
     QTRY_VERIFY(search.isComplete());
     QCOMPARE(search.count(), 2);
@@ -385,7 +168,7 @@ void TestTreeChecks::searchListsTheSameRecords()
     search.updateCheckState();
     QCOMPARE(search.root()->checkState, int(Qt::PartiallyChecked));
 
-    tree.add({item(4, 1, "Beach", "another beach.jpg", 5)});
+    tree.add({item(4, 1, "another beach.jpg", 5)});
     search.resume();
     QTRY_COMPARE(search.count(), 3);
     search.start("no such thing", ItemSearch::By::Name);
@@ -410,10 +193,9 @@ void TestTreeChecks::piecesMakeTheSameTree()
     const auto below = [&random](int end) { return int(random.bounded(end)); };
     ItemTree pieces;
     ItemTree whole;
-    const QVector<VolumeInfo> volumes = QVector<VolumeInfo>{volume("E:"), volume("F:")}.mid(
-        0, 1 + int(seed % 2));
-    pieces.setVolumes(volumes);
-    whole.setVolumes(volumes);
+    const QStringList roots = QStringList({"E:", "F:"}).mid(int(seed % 2));
+    pieces.setVolumes(volumes(roots));
+    whole.setVolumes(volumes(roots));
     QVector<qint64> folders{-1};
     const QStringList endings{"jpg", "mp4", "txt", "odd"};
     qint64 lastId = 0;
@@ -421,10 +203,10 @@ void TestTreeChecks::piecesMakeTheSameTree()
         QVector<FoundItem> batch;
         for (int i = below(30); i > 0; --i) {
             ++lastId;
-            FoundItem found = item(lastId, folders[below(folders.size())], QString(),
+            FoundItem found = item(lastId, folders[below(folders.size())],
                                    QString("%1.%2").arg(lastId).arg(endings[below(4)]),
                                    below(5) ? below(900) : -1);
-            found.volume = below(volumes.size());
+            found.volume = below(roots.size());
             found.deleted = below(3) == 0;
             if (found.folder)
                 folders.append(found.id);
@@ -432,7 +214,7 @@ void TestTreeChecks::piecesMakeTheSameTree()
             // a folder that seems to be empty has a check of its own, which ends when something in
             // it is seen, be it through a filter that another has cut short
             if (found.folder) {
-                FoundItem seen = item(++lastId, found.id, QString(), "seen.jpg", 500);
+                FoundItem seen = item(++lastId, found.id, "seen.jpg", 500);
                 seen.volume = found.volume;
                 seen.deleted = true;
                 batch.append(seen);
@@ -516,15 +298,15 @@ void TestTreeChecks::piecesMakeTheSameTree()
 void TestTreeChecks::recordsThatAreGone()
 {
     ItemTree tree;
-    tree.setVolumes({volume("card")});
+    tree.setVolumes(volumes({"card"}));
     for (int id = 1; id <= 3000; ++id)
-        tree.add({item(id, -1, "", QString("%1.jpg").arg(id), 5)});
+        tree.add({item(id, -1, QString("%1.jpg").arg(id), 5)});
     QVector<QPointer<TreeItemData>> guards;
     for (int i = 0; i < tree.records().size(); ++i)
         guards.append(tree.records().at(i));
     TreeItemData *const first = guards.first();
     RecordStore::Remains remains = tree.clear();
-    tree.setVolumes({volume("another")});
+    tree.setVolumes(volumes({"another"}));
     QVERIFY(guards.first() && guards.last()); // still to be destroyed
     QVERIFY(!tree.records().find(first));
     while (!remains.destroyBlock()) { }
