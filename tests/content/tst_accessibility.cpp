@@ -1,10 +1,9 @@
-#include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
-#include "content/thumbnailgrid.h"
 #include "model/headerview.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
 #include "support/assistivetechnology.h"
+#include "support/contentview.h"
 #include "support/datarow.h"
 #include "support/plainlistmodel.h"
 #include "support/recordtree.h"
@@ -108,18 +107,8 @@ private slots:
     void headerSectionsTellTheSort();
 
 private:
-    static void bothModes()
-    {
-        QTest::addColumn<int>("mode");
-        QTest::newRow("grid") << 0;
-        QTest::newRow("list with pane") << 1;
-    }
-    QAbstractItemView *view() const
-    {
-        if (m_mode == 0)
-            return m_widget->findChild<ThumbnailGrid *>();
-        return m_widget->findChild<ScanTableView *>();
-    }
+    static void bothModes() { addRows<int>("mode", {{"grid", 0}, {"list with pane", 1}}); }
+    QAbstractItemView *view() const { return viewOf(*m_widget, m_mode); }
     /// The interface of a row of the view in use.
     QAccessibleInterface *item(int row) const
     {
@@ -201,28 +190,18 @@ void TestAccessibility::everythingHasAName()
 
 void TestAccessibility::itemsTellWhatTheyAre_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("category");
-    QTest::addColumn<int>("check");
-    QTest::addColumn<qint64>("count");
-    QTest::addColumn<bool>("finished");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("description");
+    addColumns<int, int, int, qint64, bool, QString, QString>(
+        {"kind", "category", "check", "count", "finished", "value", "description"});
     // Without a catalogue keys stand for their texts.
     const QString high = QStringLiteral(", recoverability_label: recoverability_high, 2 of 3");
-    QTest::newRow("checked photo, scan over")
-        << 2 << 8 << 2 << qint64(0) << true << "Checked"
-        << "Photo, 2.00 KB, recoverability_label: recoverability_medium, 2 of 3";
-    QTest::newRow("video, scan running")
-        << 2 << 3 << 0 << qint64(0) << false << "Not checked"
-        << "Video, 2.00 KB, recoverability_label: recoverability_assessing, 2 of 3";
-    QTest::newRow("unknown kind") << 2 << 0 << 0 << qint64(0) << true << "Not checked"
-                                  << "JPG file, 2.00 KB" + high;
-    QTest::newRow("partly checked folder")
-        << 1 << 0 << 1 << qint64(1234) << true << "Partly checked"
-        << "folder, items: 1,234, 2 of 3";
-    QTest::newRow("empty folder takes no check") << 1 << 0 << 0 << qint64(0) << true << ""
-                                                 << "folder, items: 0, 2 of 3";
+    addRow("checked photo, scan over", 2, 8, 2, qint64(0), true, "Checked",
+           "Photo, 2.00 KB, recoverability_label: recoverability_medium, 2 of 3");
+    addRow("video, scan running", 2, 3, 0, qint64(0), false, "Not checked",
+           "Video, 2.00 KB, recoverability_label: recoverability_assessing, 2 of 3");
+    addRow("unknown kind", 2, 0, 0, qint64(0), true, "Not checked", "JPG file, 2.00 KB" + high);
+    addRow("partly checked folder", 1, 0, 1, qint64(1234), true, "Partly checked",
+           "folder, items: 1,234, 2 of 3");
+    addRow("empty folder takes no check", 1, 0, 0, qint64(0), true, "", "folder, items: 0, 2 of 3");
 }
 
 void TestAccessibility::itemsTellWhatTheyAre()

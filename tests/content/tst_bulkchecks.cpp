@@ -1,11 +1,10 @@
 // Space on large selections, and what a host gets to read of them.
 #include "content/checktoggle.h"
-#include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
-#include "content/thumbnailgrid.h"
 #include "model/headerview.h"
 #include "model/scandatamodel.h"
 #include "model/scanitemrole.h"
+#include "support/contentview.h"
 #include "support/datarow.h"
 #include "support/eventcounter.h"
 #include "support/recordtree.h"
@@ -34,22 +33,16 @@ private slots:
     void wholeTreeIsOneAnnouncement();
     void partIsAnnouncedItemByItem_data();
     void partIsAnnouncedItemByItem();
-    void deadRecordsAreLeftOut();
     void hostMayReplaceTheTreeWhenTold();
     void selectionIsReadBackByRows();
     void largeSelectionStaysThroughASort_data();
     void largeSelectionStaysThroughASort();
     void togetherIsLikeOneByOne();
-    void everyLongSortIsSeen_data();
+    void everyLongSortIsSeen_data() { addRows<int>("mode", {{"grid", 0}, {"list", 2}}); }
     void everyLongSortIsSeen();
 
 private:
-    QAbstractItemView *view(int mode)
-    {
-        if (mode == 0)
-            return widget->findChild<ThumbnailGrid *>();
-        return widget->findChild<ScanTableView *>();
-    }
+    QAbstractItemView *view(int mode) { return viewOf(*widget, mode); }
     QAbstractItemModel *model() { return view(0)->model(); }
     void select(QAbstractItemView *in, int first, int last)
     {
@@ -151,21 +144,6 @@ void TestBulkChecks::partIsAnnouncedItemByItem()
     QCOMPARE(empty->checkState, int(Qt::Unchecked));
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.first().at(1).toModelIndex().row(), last + 1);
-}
-
-void TestBulkChecks::deadRecordsAreLeftOut()
-{
-    const QList<TreeItemData *> files = tree->root.childFiles;
-    for (int row : {0, 1, 50, Many - 1})
-        tree->kill(files.at(row));
-    select(view(0), 2, Many - 2);
-    QSignalSpy items(widget.get(), &Content::signalItemDataCheck);
-    QTest::keyClick(view(0), Qt::Key_Space);
-    QCOMPARE(items.count(), Many - 4);
-    QCOMPARE(widget->selectedItems().size(), Many - 4);
-    QCOMPARE(files.at(2)->checkState, int(Qt::Checked));
-    QCOMPARE(files.at(Many - 2)->checkState, int(Qt::Checked));
-    tree->root.childFiles = {files.at(2)}; // the others are not for the test to read
 }
 
 void TestBulkChecks::hostMayReplaceTheTreeWhenTold()
@@ -313,13 +291,6 @@ void TestBulkChecks::togetherIsLikeOneByOne()
                 QCOMPARE(together.itemAt(row)->checkState, item->checkState);
         }
     }
-}
-
-void TestBulkChecks::everyLongSortIsSeen_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::newRow("grid") << 0;
-    QTest::newRow("list") << 2;
 }
 
 // Two clicks that wait for the same moment: painting never stands still for both.

@@ -1,9 +1,8 @@
-#include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
-#include "content/thumbnailgrid.h"
 #include "model/headerview.h"
 #include "model/scandatamodel.h"
 #include "model/scantableheader.h"
+#include "support/contentview.h"
 #include "support/datarow.h"
 #include "support/recordtree.h"
 
@@ -32,12 +31,18 @@ private slots:
     void tabReachesEverything();
     void focusIsSeen_data();
     void focusIsSeen();
-    void headerWorksByKey_data();
+    void headerWorksByKey_data()
+    {
+        addRows<bool>("mirrored", {{"left to right", false}, {"right to left", true}});
+    }
     void headerWorksByKey();
     void enterClicksButtons_data();
     void enterClicksButtons();
     void focusComesBackFromAPopup();
-    void tabBringsTheCurrentItemIntoView_data();
+    void tabBringsTheCurrentItemIntoView_data()
+    {
+        addRows<int>("mode", {{"grid", 0}, {"list", 2}});
+    }
     void tabBringsTheCurrentItemIntoView();
 
 private:
@@ -78,9 +83,8 @@ void TestKeyboardReach::tabReachesEverything_data()
     addColumns<int, QStringList>({"mode", "stops"});
     QTest::newRow("grid") << 0 << QStringList{"allCheckButton", "nameButton", "sizeButton",
                                               "typeButton",     "dateButton", "listView"};
-    QTest::newRow("list with pane")
-        << 1
-        << QStringList{"ScanTableHeader", "ScanTableView", "openButton", "scrollArea", "labValue"};
+    addRow("list with pane", 1,
+           QStringList{"ScanTableHeader", "ScanTableView", "openButton", "scrollArea", "labValue"});
     QTest::newRow("list") << 2 << QStringList{"ScanTableHeader", "ScanTableView"};
 }
 
@@ -151,13 +155,6 @@ void TestKeyboardReach::focusIsSeen()
     }
 }
 
-void TestKeyboardReach::headerWorksByKey_data()
-{
-    QTest::addColumn<bool>("mirrored");
-    QTest::newRow("left to right") << false;
-    QTest::newRow("right to left") << true;
-}
-
 void TestKeyboardReach::headerWorksByKey()
 {
     QFETCH(bool, mirrored);
@@ -201,10 +198,8 @@ void TestKeyboardReach::enterClicksButtons_data()
     addColumns<int, QString, QMetaMethod>({"mode", "button", "signal"});
     QTest::newRow("select all") << 0 << "allCheckButton"
                                 << QMetaMethod::fromSignal(&Content::signalItemDataCheck);
-    QTest::newRow("sort") << 0 << "sizeButton"
-                          << QMetaMethod::fromSignal(&Content::signalSortClicked);
-    QTest::newRow("open") << 1 << "openButton"
-                          << QMetaMethod::fromSignal(&Content::signalDoubleClicked);
+    addRow("sort", 0, "sizeButton", QMetaMethod::fromSignal(&Content::signalSortClicked));
+    addRow("open", 1, "openButton", QMetaMethod::fromSignal(&Content::signalDoubleClicked));
 }
 
 void TestKeyboardReach::enterClicksButtons()
@@ -235,21 +230,12 @@ void TestKeyboardReach::focusComesBackFromAPopup()
     }
 }
 
-void TestKeyboardReach::tabBringsTheCurrentItemIntoView_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::newRow("grid") << 0;
-    QTest::newRow("list") << 2;
-}
-
 void TestKeyboardReach::tabBringsTheCurrentItemIntoView()
 {
     QFETCH(int, mode);
     m_tree->addFiles(400);
     show(mode);
-    QAbstractItemView *view = mode == 0
-        ? static_cast<QAbstractItemView *>(find<ThumbnailGrid>("listView"))
-        : find<ScanTableView>();
+    QAbstractItemView *view = viewOf(*m_widget, mode);
     view->setCurrentIndex(view->model()->index(200, 0));
     view->scrollToTop();
     view->clearFocus();

@@ -1,12 +1,11 @@
 // What it costs to look at very much: caches have a ceiling, and what has to know every item that
 // was looked at has a price for each.
-#include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
-#include "content/thumbnailgrid.h"
 #include "content/thumbnailrequests.h"
 #include "delegates/elidecache.h"
 #include "delegates/plaintexts.h"
 #include "model/scandatamodel.h"
+#include "support/contentview.h"
 #include "support/datarow.h"
 #include "support/recordtree.h"
 #include "thumbnails/filetypeicons.h"
@@ -159,9 +158,7 @@ void TestMemory::page(int mode, int from, int to)
         m_widget->setViewMode(mode);
         m_widget->updateData(&m_tree->root, QString());
     }
-    QAbstractItemView *view = mode == 0
-        ? static_cast<QAbstractItemView *>(m_widget->findChild<ThumbnailGrid *>())
-        : m_widget->findChild<ScanTableView *>();
+    QAbstractItemView *view = viewOf(*m_widget, mode);
     const QAbstractItemModel *model = view->model();
     int row = from;
     while (row < to) {

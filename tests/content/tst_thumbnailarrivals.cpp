@@ -1,7 +1,6 @@
 // What the arrival of thumbnails repaints, and what becomes of them when the items go.
-#include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
-#include "content/thumbnailgrid.h"
+#include "support/contentview.h"
 #include "support/datarow.h"
 #include "support/eventcounter.h"
 #include "support/recordtree.h"
@@ -83,9 +82,7 @@ void TestThumbnailArrivals::onlyVisibleRowsRepaint()
     QFETCH(int, mode);
     QFETCH(bool, scrolled);
     widget->setViewMode(mode);
-    QAbstractItemView *view = mode == 0
-        ? static_cast<QAbstractItemView *>(widget->findChild<ThumbnailGrid *>())
-        : widget->findChild<ScanTableView *>();
+    QAbstractItemView *view = viewOf(*widget, mode);
     if (scrolled)
         view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum() / 2);
     EventCounter watcher(view->viewport(), QEvent::Paint);

@@ -1,8 +1,7 @@
-#include "content/scantableview.h"
 #include "content/sdcardcontentdatawidget.h"
-#include "content/thumbnailgrid.h"
 #include "popups/rightmenudialog.h"
 #include "popups/rightmenuframe.h"
+#include "support/contentview.h"
 #include "support/datarow.h"
 #include "support/recordtree.h"
 
@@ -37,12 +36,7 @@ private slots:
     void penRestsOrWorksLikeAMouse();
 
 private:
-    static void bothModes()
-    {
-        QTest::addColumn<int>("mode");
-        QTest::newRow("grid") << 0;
-        QTest::newRow("list") << 2;
-    }
+    static void bothModes() { addRows<int>("mode", {{"grid", 0}, {"list", 2}}); }
     void show(int mode)
     {
         m_widget->setViewMode(mode);
@@ -50,10 +44,7 @@ private:
         m_widget->resize(700, 500);
         m_widget->show();
         QVERIFY(QTest::qWaitForWindowActive(m_widget.data()));
-        if (mode == 0)
-            m_view = m_widget->findChild<ThumbnailGrid *>();
-        else
-            m_view = m_widget->findChild<ScanTableView *>();
+        m_view = viewOf(*m_widget, mode);
     }
     QRect cell(int row) const { return m_view->visualRect(m_view->model()->index(row, 0)); }
     /// Where neither box nor picture is.

@@ -1,14 +1,11 @@
 #include "content/scantableview.h"
-#include "content/thumbnailgrid.h"
 #include "model/scandatamodel.h"
+#include "support/datarow.h"
 #include "support/recordtree.h"
 
 #include <QApplication>
 #include <QRandomGenerator>
-#include <QStandardItemModel>
 #include <QTest>
-
-#include <limits>
 
 namespace {
 
@@ -35,21 +32,18 @@ class TestTypeAhead : public QObject
 
 private slots:
     void cleanup() { QApplication::setKeyboardInputInterval(400); }
-    void modelFindsWhatReadingFinds_data();
+    void modelFindsWhatReadingFinds_data()
+    {
+        addRows<QString>("alphabet",
+                         {{"letters of both cases", "aAbB"},
+                          {"digits", "IMG_0123456789"},
+                          {"longer when lowered", QString::fromUtf8("İiIı̇ßẞsS")},
+                          {"many scripts", QString::fromUtf8("ÄäéΩωςσЖж文件ü9")},
+                          {"beyond the basic plane", QString::fromUtf8("😀𐐀𐐨𞤀𞤢z")}});
+    }
     void modelFindsWhatReadingFinds();
-    void lettersGoOnWhileResultsStreamIn();
     void listIsSearchedByName();
 };
-
-void TestTypeAhead::modelFindsWhatReadingFinds_data()
-{
-    QTest::addColumn<QString>("alphabet");
-    QTest::newRow("letters of both cases") << "aAbB";
-    QTest::newRow("digits") << "IMG_0123456789";
-    QTest::newRow("longer when lowered") << QString::fromUtf8("İiIı̇ßẞsS");
-    QTest::newRow("many scripts") << QString::fromUtf8("ÄäéΩωςσЖж文件ü9");
-    QTest::newRow("beyond the basic plane") << QString::fromUtf8("😀𐐀𐐨𞤀𞤢z");
-}
 
 void TestTypeAhead::modelFindsWhatReadingFinds()
 {
@@ -83,41 +77,6 @@ void TestTypeAhead::modelFindsWhatReadingFinds()
             QCOMPARE(model.match(start, Qt::DisplayRole, text, 1, flags),
                      model.QAbstractItemModel::match(start, Qt::DisplayRole, text, 1, flags));
         }
-    }
-}
-
-void TestTypeAhead::lettersGoOnWhileResultsStreamIn()
-{
-    RecordTree tree;
-    for (const char *name : {"alpha", "beta", "bravo", "brook"})
-        tree.addFile(QLatin1String(name));
-    ScanDataModel model;
-    model.openFolder(&tree.root);
-    ThumbnailGrid grid;
-    grid.setModel(&model);
-    QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
-    grid.keyboardSearch(QStringLiteral("b"));
-    QCOMPARE(grid.currentIndex().row(), 1);
-    tree.addFile(QStringLiteral("aardvark"));
-    model.openFolder(&tree.root);
-    grid.setCurrentIndex(model.index(1, 0));
-    grid.keyboardSearch(QStringLiteral("r"));
-    QCOMPARE(grid.currentIndex().row(), 2);
-    grid.keyboardSearch(QStringLiteral("O"));
-    QCOMPARE(grid.currentIndex().row(), 3);
-    grid.keyboardSearch(QStringLiteral("q")); // nothing fits: it stays
-    QCOMPARE(grid.currentIndex().row(), 3);
-    startAnew();
-    grid.keyboardSearch(QStringLiteral("a"));
-    QCOMPARE(grid.currentIndex().row(), 4);
-    QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
-    grid.keyboardSearch(QStringLiteral("a")); // the whole name counts first
-    QCOMPARE(grid.currentIndex().row(), 4);
-    startAnew();
-    for (int row : {1, 2, 3, 1}) { // one letter again and again steps through
-        grid.keyboardSearch(QStringLiteral("b"));
-        QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
-        QCOMPARE(grid.currentIndex().row(), row);
     }
 }
 

@@ -85,6 +85,23 @@ public:
     {
         return paintWith(delegate, index, option(state));
     }
+    /// Writes down what a delegate says, in its order.
+    template <class Delegate>
+    static void listen(Delegate *delegate, QStringList *said)
+    {
+        const auto note = [said](const char *what) {
+            return [said, what] { said->append(QLatin1String(what)); };
+        };
+        QObject::connect(delegate, &Delegate::signalCheckStateChange, delegate,
+                         [said](const QModelIndex &, Qt::CheckState state) {
+                             said->append(QStringLiteral("check %1").arg(state));
+                         });
+        QObject::connect(delegate, &Delegate::signalClickRightButton, delegate, note("right"));
+        QObject::connect(delegate, &Delegate::signalClickDouble, delegate, note("double"));
+        QObject::connect(delegate, &Delegate::signalMutilSelectEvent, delegate, note("multi"));
+        QObject::connect(delegate, &Delegate::signalShowTooltip, delegate,
+                         [said](const QString &tip) { said->append("tip " + tip); });
+    }
     bool send(QAbstractItemDelegate *delegate, const QModelIndex &index, QEvent::Type type,
               const QPoint &pos, Qt::MouseButton button = Qt::LeftButton,
               Qt::KeyboardModifiers modifiers = {})

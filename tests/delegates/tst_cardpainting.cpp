@@ -84,7 +84,11 @@ private slots:
     void paintedAgainIsPaintedAnew_data();
     void paintedAgainIsPaintedAnew();
     void themeThatWasOvertaken();
-    void gapBetweenDevicePixels_data();
+    void gapBetweenDevicePixels_data()
+    {
+        addRows<qreal>("scale",
+                       {{"125 per cent", 1.25}, {"150 per cent", 1.5}, {"175 per cent", 1.75}});
+    }
     void gapBetweenDevicePixels();
     void checkBoxLooks_data();
     void checkBoxLooks();
@@ -246,14 +250,6 @@ void TestCardPainting::themeThatWasOvertaken()
     QCoreApplication::processEvents(); // only now they hear of the dark one
     QCOMPARE(CardFixture::paint(icons, card), CardFixture::paint(IconDelegate(), card));
     QCOMPARE(CardFixture::paint(rows, card), CardFixture::paint(ListDelegate(), card));
-}
-
-void TestCardPainting::gapBetweenDevicePixels_data()
-{
-    QTest::addColumn<qreal>("scale");
-    QTest::newRow("125 per cent") << 1.25;
-    QTest::newRow("150 per cent") << 1.5;
-    QTest::newRow("175 per cent") << 1.75;
 }
 
 /// Cards that touch leave no seam, and each is one to one what has been composed for its pixels.

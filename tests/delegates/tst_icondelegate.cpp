@@ -24,27 +24,15 @@ constexpr QPoint OnName(75, 90);
 constexpr QPoint OnLabel(75, 112);
 constexpr QPoint Outside(151, 16);
 
-/// Writes down what a delegate says, in its order.
-QStringList *listen(IconDelegate *delegate, QStringList *said)
+void listen(IconDelegate *delegate, QStringList *said)
 {
-    const auto note = [said](const char *what) {
-        return [said, what] { said->append(QLatin1String(what)); };
-    };
-    QObject::connect(delegate, &IconDelegate::signalCheckStateChange, delegate,
-                     [said](const QModelIndex &, Qt::CheckState state) {
-                         said->append(QStringLiteral("check %1").arg(state));
-                     });
-    QObject::connect(delegate, &IconDelegate::signalClickListViewItem, delegate, note("preview"));
-    QObject::connect(delegate, &IconDelegate::signalClickRightButton, delegate, note("right"));
-    QObject::connect(delegate, &IconDelegate::signalClickDouble, delegate, note("double"));
-    QObject::connect(delegate, &IconDelegate::signalMutilSelectEvent, delegate, note("multi"));
+    CardFixture::listen(delegate, said);
+    QObject::connect(delegate, &IconDelegate::signalClickListViewItem, delegate,
+                     [said] { said->append("preview"); });
     QObject::connect(delegate, &IconDelegate::signalSetCursor, delegate,
                      [said](const QCursor &cursor) {
                          said->append(cursor.shape() == Qt::PointingHandCursor ? "hand" : "arrow");
                      });
-    QObject::connect(delegate, &IconDelegate::signalShowTooltip, delegate,
-                     [said](const QString &tip) { said->append("tip " + tip); });
-    return said;
 }
 
 } // namespace
@@ -83,13 +71,8 @@ private slots:
 
 void TestIconDelegate::answersMouse_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QEvent::Type>("type");
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<QStringList>("said");
-    QTest::addColumn<bool>("taken");
+    addColumns<int, QEvent::Type, QPoint, Qt::MouseButton, Qt::KeyboardModifiers, QStringList,
+               bool>({"kind", "type", "pos", "button", "modifiers", "said", "taken"});
 
     const auto row = [](const char *name, int kind, QEvent::Type type, const QPoint &pos,
                         Qt::MouseButton button, Qt::KeyboardModifiers modifiers,

@@ -125,18 +125,10 @@ void listen(ListDelegate *delegate, QStringList *said)
     const auto note = [said](const char *what) {
         return [said, what] { said->append(QLatin1String(what)); };
     };
-    QObject::connect(delegate, &ListDelegate::signalCheckStateChange, delegate,
-                     [said](const QModelIndex &, Qt::CheckState state) {
-                         said->append(QStringLiteral("check %1").arg(state));
-                     });
+    CardFixture::listen(delegate, said);
     QObject::connect(delegate, &ListDelegate::signalClickListViewItem, delegate, note("click"));
     QObject::connect(delegate, &ListDelegate::signalPreviewClicked, delegate, note("preview"));
-    QObject::connect(delegate, &ListDelegate::signalClickRightButton, delegate, note("right"));
-    QObject::connect(delegate, &ListDelegate::signalClickDouble, delegate, note("double"));
-    QObject::connect(delegate, &ListDelegate::signalMutilSelectEvent, delegate, note("multi"));
     QObject::connect(delegate, &ListDelegate::signalPathClicked, delegate, note("path"));
-    QObject::connect(delegate, &ListDelegate::signalShowTooltip, delegate,
-                     [said](const QString &tip) { said->append("tip " + tip); });
 }
 
 } // namespace
@@ -176,13 +168,8 @@ private slots:
 
 void TestListDelegate::answersMouse_data()
 {
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QEvent::Type>("type");
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::addColumn<QStringList>("said");
-    QTest::addColumn<bool>("taken");
+    addColumns<int, int, QEvent::Type, QPoint, Qt::MouseButton, QStringList, bool>(
+        {"column", "kind", "type", "pos", "button", "said", "taken"});
 
     const auto row = [](const char *name, int column, int kind, QEvent::Type type,
                         const QPoint &pos, Qt::MouseButton button, const QStringList &said,
@@ -257,13 +244,8 @@ void TestListDelegate::answersMouse()
 
 void TestListDelegate::locationLinks_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("active");
-    QTest::addColumn<bool>("suppressed");
-    QTest::addColumn<bool>("placeholder");
-    QTest::addColumn<bool>("imageLeads");
-    QTest::addColumn<bool>("textLeads");
+    addColumns<int, QString, bool, bool, bool, bool, bool>(
+        {"kind", "path", "active", "suppressed", "placeholder", "imageLeads", "textLeads"});
 
     const QString path = QStringLiteral("/DCIM");
     QTest::newRow("located file") << 2 << path << true << false << false << true << true;
@@ -356,10 +338,6 @@ void TestListDelegate::tipsAreThrottled()
     QCOMPARE(tips.size(), 3);
     hover(first, Type);
     QCOMPARE(tips.size(), 4);
-
-    const TooltipThrottle throttle(5000);
-    QVERIFY(!throttle.allows(QModelIndex(), 5000));
-    QVERIFY(throttle.allows(QModelIndex(), 5001));
 }
 
 void TestListDelegate::deadRecord_data()

@@ -15,12 +15,24 @@ class TestNamePainter : public QObject
 
 private slots:
     void initTestCase() { System::registerFontSubstitutes(); }
-    void plainNameIsOrdinaryText_data();
+    void plainNameIsOrdinaryText_data()
+    {
+        addRows<QString>("text",
+                         {{"latin", "IMG_0001.JPG"},
+                          {"a mark at its end", "100QUAR_"},
+                          {"markup is text", "<b>x</b>&amp;"},
+                          {"ampersand", "R&D.txt"},
+                          {"arabic", QString::fromUtf8("صورة.jpg")},
+                          {"japanese", QString::fromUtf8("写真.jpg")}});
+    }
     void plainNameIsOrdinaryText();
     void keywordDoesNotMoveTheName_data();
     void keywordDoesNotMoveTheName();
     void markFollowsKeywordAndColours();
-    void staysOnOneLineInItsRect_data();
+    void staysOnOneLineInItsRect_data()
+    {
+        addRows<QString>("keyword", {{"plain", QString()}, {"highlighted", QStringLiteral("W")}});
+    }
     void staysOnOneLineInItsRect();
     void elides_data();
     void elides();
@@ -60,17 +72,6 @@ QRect inked(const QImage &image)
 }
 
 } // namespace
-
-void TestNamePainter::plainNameIsOrdinaryText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("latin") << "IMG_0001.JPG";
-    QTest::newRow("a mark at its end") << "100QUAR_";
-    QTest::newRow("markup is text") << "<b>x</b>&amp;";
-    QTest::newRow("ampersand") << "R&D.txt";
-    QTest::newRow("arabic") << QString::fromUtf8("صورة.jpg");
-    QTest::newRow("japanese") << QString::fromUtf8("写真.jpg");
-}
 
 void TestNamePainter::plainNameIsOrdinaryText()
 {
@@ -132,13 +133,6 @@ void TestNamePainter::markFollowsKeywordAndColours()
     QVERIFY(has(dark));
     names.setKeyword(QString());
     QVERIFY(!has(dark));
-}
-
-void TestNamePainter::staysOnOneLineInItsRect_data()
-{
-    QTest::addColumn<QString>("keyword");
-    QTest::newRow("plain") << QString();
-    QTest::newRow("highlighted") << QStringLiteral("W");
 }
 
 void TestNamePainter::staysOnOneLineInItsRect()

@@ -31,11 +31,16 @@ private slots:
     void checkArea();
     void nameColumn();
     void locationImage();
-    void mirrors_data();
     void mirrors();
     void nameAndSuffixShareTheirRoom_data();
     void nameAndSuffixShareTheirRoom();
-    void narrowCells_data();
+    void narrowCells_data()
+    {
+        addRows<QSize>("size",
+                       {{"nothing", QSize(0, 0)},
+                        {"narrower than the icon", QSize(20, 44)},
+                        {"low", QSize(200, 6)}});
+    }
     void narrowCells();
 };
 
@@ -82,33 +87,27 @@ void TestRowLayout::locationImage()
         QVERIFY(!layoutOf(column).hitsLocationImage(layout.locationImage.center()));
 }
 
-void TestRowLayout::mirrors_data()
-{
-    QTest::addColumn<int>("column");
-    for (int column = 0; column < ScanDataModel::ColumnCount; ++column)
-        QTest::addRow("column %d", column) << column;
-}
-
 void TestRowLayout::mirrors()
 {
-    QFETCH(int, column);
-    const RowLayout left = layoutOf(column);
-    const RowLayout right = layoutOf(column, Qt::RightToLeft);
-    const std::pair<QRect, QRect> pairs[] = {
-        {left.checkArea, right.checkArea},
-        {left.checkBox, right.checkBox},
-        {left.icon, right.icon},
-        {left.name, right.name},
-        {left.text, right.text},
-        {left.locationImage, right.locationImage},
-        {left.repairBadge(), right.repairBadge()},
-        {left.suffix(50, 20), right.suffix(50, 20)},
-    };
-    for (const auto &pair : pairs) {
-        if (pair.first.isEmpty())
-            continue;
-        QCOMPARE(pair.second.size(), pair.first.size());
-        QCOMPARE(pair.second.topRight(), mirrored(pair.first.topLeft()));
+    for (int column = 0; column < ScanDataModel::ColumnCount; ++column) {
+        const RowLayout left = layoutOf(column);
+        const RowLayout right = layoutOf(column, Qt::RightToLeft);
+        const std::pair<QRect, QRect> pairs[] = {
+            {left.checkArea, right.checkArea},
+            {left.checkBox, right.checkBox},
+            {left.icon, right.icon},
+            {left.name, right.name},
+            {left.text, right.text},
+            {left.locationImage, right.locationImage},
+            {left.repairBadge(), right.repairBadge()},
+            {left.suffix(50, 20), right.suffix(50, 20)},
+        };
+        for (const auto &pair : pairs) {
+            if (pair.first.isEmpty())
+                continue;
+            QCOMPARE(pair.second.size(), pair.first.size());
+            QCOMPARE(pair.second.topRight(), mirrored(pair.first.topLeft()));
+        }
     }
 }
 
@@ -136,15 +135,6 @@ void TestRowLayout::nameAndSuffixShareTheirRoom()
                                               : layout.name.right() - suffix.right(),
                  nameWidth);
     }
-}
-
-void TestRowLayout::narrowCells_data()
-{
-    QTest::addColumn<QSize>("size");
-
-    QTest::newRow("nothing") << QSize(0, 0);
-    QTest::newRow("narrower than the icon") << QSize(20, 44);
-    QTest::newRow("low") << QSize(200, 6);
 }
 
 void TestRowLayout::narrowCells()
