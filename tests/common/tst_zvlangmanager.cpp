@@ -172,14 +172,10 @@ void TestZVLangManager::languages_data()
 {
     addColumns<QString, QString, QByteArray>({"code", "stored", "sent"});
 
-    QTest::newRow("Arabic of no country") << "ar-ar"
-                                          << "ar-ae" << QByteArray("ar_AE");
-    QTest::newRow("German") << "de-de"
-                            << "de-de" << QByteArray("de_DE");
-    QTest::newRow("Traditional Chinese") << "zh-tw"
-                                         << "zh-tw" << QByteArray("zh_TW");
-    QTest::newRow("nobody knows it") << "qq-qq"
-                                     << "qq-qq" << QByteArray("C");
+    addRow("Arabic of no country", "ar-ar", "ar-ae", QByteArray("ar_AE"));
+    addRow("German", "de-de", "de-de", QByteArray("de_DE"));
+    addRow("Traditional Chinese", "zh-tw", "zh-tw", QByteArray("zh_TW"));
+    addRow("nobody knows it", "qq-qq", "qq-qq", QByteArray("C"));
 }
 
 void TestZVLangManager::languages()

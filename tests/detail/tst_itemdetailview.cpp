@@ -69,9 +69,9 @@ void TestItemDetailView::metadataRows_data()
         << Pairs{{"Resolution", "10 x 10"}, {"aiSceneTag", "beach"}} << QStringList{};
     QTest::newRow("unknown key, no title") << Pairs{{"lens", "50mm"}} << QStringList{"=50mm"};
     QTest::newRow("empty key or value") << Pairs{{"", "x"}, {"make", ""}} << QStringList{};
-    QTest::newRow("several lines and binary")
-        << Pairs{{"software", QString("a\nb") + QChar(0) + QChar(7) + "c"}}
-        << QStringList{"software=a b c"};
+    addRow("several lines and binary",
+           Pairs{{"software", QString("a\nb") + QChar(0) + QChar(7) + "c"}},
+           QStringList{"software=a b c"});
     Pairs many;
     for (int i = 0; i < 5000; ++i)
         many.append({QStringLiteral("k%1").arg(i), QStringLiteral("v")});
@@ -92,13 +92,10 @@ void TestItemDetailView::metadataRows()
 void TestItemDetailView::statusAndPath_data()
 {
     addColumns<bool, QString, QString, QStringList>({"exists", "path", "volumeRoot", "expected"});
-    QTest::newRow("on the medium")
-        << true << "/DCIM/100"
-        << "E:"
-        << QStringList{"path=E:\\DCIM\\100", "file_status=filter_bar_widget_existing_files"};
-    QTest::newRow("deleted, no location")
-        << false << ""
-        << "" << QStringList{"path=--", "file_status=filter_bar_widget_delete_files"};
+    addRow("on the medium", true, "/DCIM/100",
+           "E:", QStringList{"path=E:\\DCIM\\100", "file_status=filter_bar_widget_existing_files"});
+    addRow("deleted, no location", false, "", "",
+           QStringList{"path=--", "file_status=filter_bar_widget_delete_files"});
 }
 
 void TestItemDetailView::statusAndPath()

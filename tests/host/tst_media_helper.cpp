@@ -64,7 +64,19 @@ class TestMediaHelper : public QObject
 
 private slots:
     void init();
-    void survivesBadHabits_data();
+    void survivesBadHabits_data()
+    {
+        addRows<QString>("extension",
+                         {{"dies", "png"},
+                          {"hangs", "gif"},
+                          {"prints", "bmp"},
+                          {"picture that is none", "tif"},
+                          {"reads before the file", "tga"},
+                          {"reads too much at once", "psd"},
+                          {"reads for ever", "webp"},
+                          {"endless metadata", "ico"},
+                          {"an answer to nothing", "pcx"}});
+    }
     void survivesBadHabits();
     void secondChance();
     void readErrorIsNoCrash();
@@ -87,20 +99,6 @@ void TestMediaHelper::init()
     m_marks = std::make_unique<QTemporaryDir>();
     qputenv("QUARVO_FAKE_MARKS", QFile::encodeName(m_marks->path()));
     qunsetenv("QUARVO_FAKE_MUTE");
-}
-
-void TestMediaHelper::survivesBadHabits_data()
-{
-    QTest::addColumn<QString>("extension");
-    QTest::newRow("dies") << "png";
-    QTest::newRow("hangs") << "gif";
-    QTest::newRow("prints") << "bmp";
-    QTest::newRow("picture that is none") << "tif";
-    QTest::newRow("reads before the file") << "tga";
-    QTest::newRow("reads too much at once") << "psd";
-    QTest::newRow("reads for ever") << "webp";
-    QTest::newRow("endless metadata") << "ico";
-    QTest::newRow("an answer to nothing") << "pcx";
 }
 
 void TestMediaHelper::survivesBadHabits()

@@ -242,11 +242,9 @@ void TestRecoveryFiles::hostileNamesStayInside_data()
 {
     addColumns<QString, QString>({"path", "name"});
     QTest::newRow("name goes up") << QString() << QStringLiteral("../outside.txt");
-    QTest::newRow("folder goes up")
-        << QStringLiteral("a/../../..") << QStringLiteral("outside.txt");
+    addRow("folder goes up", QStringLiteral("a/../../.."), QStringLiteral("outside.txt"));
     QTest::newRow("absolute") << QStringLiteral("/etc") << QStringLiteral("/tmp/outside.txt");
-    QTest::newRow("backslashes") << QStringLiteral("..\\..\\x")
-                                 << QStringLiteral("..\\outside.txt");
+    addRow("backslashes", QStringLiteral("..\\..\\x"), QStringLiteral("..\\outside.txt"));
     QTest::newRow("drive") << QStringLiteral("C:") << QStringLiteral("D:outside.txt");
     QTest::newRow("device") << QStringLiteral("AUX") << QStringLiteral("CON.jpg");
     QTest::newRow("no name") << QStringLiteral("//") << QString();

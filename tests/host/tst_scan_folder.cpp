@@ -1,4 +1,5 @@
 #include "host/scan/scanrunner.h"
+#include "support/datarow.h"
 #include "support/writefile.h"
 
 #include <QDir>
@@ -22,7 +23,13 @@ private slots:
     void linksAndSpecialFiles();
     void namesThatAreNoText();
     void vanishedFileIsAnError();
-    void unusablePathsAreTold_data();
+    void unusablePathsAreTold_data()
+    {
+        addRows<QString>("path",
+                         {{"nothing", QString()},
+                          {"missing", QStringLiteral("/does/not/exist.img")},
+                          {"a device that never ends", QStringLiteral("/dev/zero")}});
+    }
     void unusablePathsAreTold();
     void deliversInOrderOnTheGuiThread();
     void cancels();
@@ -128,14 +135,6 @@ void TestScanFolder::vanishedFileIsAnError()
         QVERIFY2(!source->openFile(item, &error), qPrintable(item.name));
         QVERIFY(!error.isEmpty());
     }
-}
-
-void TestScanFolder::unusablePathsAreTold_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("nothing") << QString();
-    QTest::newRow("missing") << QStringLiteral("/does/not/exist.img");
-    QTest::newRow("a device that never ends") << QStringLiteral("/dev/zero");
 }
 
 void TestScanFolder::unusablePathsAreTold()

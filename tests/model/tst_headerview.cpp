@@ -35,18 +35,15 @@ void TestHeaderView::clicksCycle_data()
     const QString none = QStringLiteral("default");
     const QString up = QStringLiteral("ascend");
     const QString down = QStringLiteral("descend");
-    QTest::newRow("same button, to and fro")
-        << QStringList{"sizeButton", "sizeButton", "sizeButton"} << QVector<int>{3, 4, 3}
-        << QStringList{none, up, none, none};
-    QTest::newRow("another button starts ascending")
-        << QStringList{"nameButton", "sizeButton"} << QVector<int>{1, 3}
-        << QStringList{none, up, none, none};
-    QTest::newRow("no memory of an earlier direction")
-        << QStringList{"dateButton", "dateButton", "typeButton", "dateButton"}
-        << QVector<int>{7, 8, 5, 7} << QStringList{none, none, none, up};
-    QTest::newRow("descending at the end")
-        << QStringList{"typeButton", "typeButton"} << QVector<int>{5, 6}
-        << QStringList{none, none, down, none};
+    addRow("same button, to and fro", QStringList{"sizeButton", "sizeButton", "sizeButton"},
+           QVector<int>{3, 4, 3}, QStringList{none, up, none, none});
+    addRow("another button starts ascending", QStringList{"nameButton", "sizeButton"},
+           QVector<int>{1, 3}, QStringList{none, up, none, none});
+    addRow("no memory of an earlier direction",
+           QStringList{"dateButton", "dateButton", "typeButton", "dateButton"},
+           QVector<int>{7, 8, 5, 7}, QStringList{none, none, none, up});
+    addRow("descending at the end", QStringList{"typeButton", "typeButton"}, QVector<int>{5, 6},
+           QStringList{none, none, down, none});
     QTest::newRow("the path does not sort") << QStringList{"nameButton", "pathButton"}
                                             << QVector<int>{1} << QStringList{up, none, none, none};
 }

@@ -120,7 +120,10 @@ private slots:
     void rootTypeOfTheTop();
     void keepsTheContract();
     void growthIsLikeOpeningAnew();
-    void manyRowsAreLikeOpenedAnew_data();
+    void manyRowsAreLikeOpenedAnew_data()
+    {
+        addRows<bool>("sorted", {{"in the host's order", false}, {"sorted", true}});
+    }
     void manyRowsAreLikeOpenedAnew();
     void deadRecordSaysNothing();
     void implausibleChildren();
@@ -275,13 +278,6 @@ void tst_ScanDataModel::growthIsLikeOpeningAnew()
             QVERIFY(before.at(prefix) != after.at(prefix) || after.at(prefix) < 0);
     }
     QVERIFY(model.rowCount() > 100);
-}
-
-void tst_ScanDataModel::manyRowsAreLikeOpenedAnew_data()
-{
-    QTest::addColumn<bool>("sorted");
-    QTest::newRow("in the host's order") << false;
-    QTest::newRow("sorted") << true;
 }
 
 /// So many that two threads look at them.

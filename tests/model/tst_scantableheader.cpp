@@ -90,7 +90,11 @@ private slots:
     void clickZones();
     void sortsCycle();
     void quickClicksAllCount();
-    void boxIsPaintedWhereItIsHit_data();
+    void boxIsPaintedWhereItIsHit_data()
+    {
+        addRows<Qt::LayoutDirection>("direction",
+                                     {{"LTR", Qt::LeftToRight}, {"RTL", Qt::RightToLeft}});
+    }
     void boxIsPaintedWhereItIsHit();
     void dragStopsAtMinimum_data();
     void dragStopsAtMinimum();
@@ -196,13 +200,6 @@ void TestScanTableHeader::quickClicksAllCount()
     QCOMPARE(table.checks.size(), 2);
     table.click(table.at(0, 16));
     QCOMPARE(table.checks.last(), int(Qt::Checked));
-}
-
-void TestScanTableHeader::boxIsPaintedWhereItIsHit_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    for (Qt::LayoutDirection direction : Directions)
-        QTest::newRow(nameOf(direction)) << direction;
 }
 
 void TestScanTableHeader::boxIsPaintedWhereItIsHit()

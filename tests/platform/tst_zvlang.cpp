@@ -65,7 +65,14 @@ private slots:
     void texts();
     void refusals_data();
     void refusals();
-    void unknownLanguageIsEnglish_data();
+    void unknownLanguageIsEnglish_data()
+    {
+        addRows<QByteArray>("lang",
+                            {{"nobody's", QByteArray("qq_QQ")},
+                             {"none", QByteArray("")},
+                             {"none, as Qt names it", QByteArray("C")},
+                             {"not a code", QByteArray("../../etc/passwd")}});
+    }
     void unknownLanguageIsEnglish();
     void longTextsAreCutBetweenCharacters_data();
     void longTextsAreCutBetweenCharacters();
@@ -203,16 +210,6 @@ void TestZVLang::refusals()
     QCOMPARE(outcome.result, 0);
     QCOMPARE(outcome.answer, QString());
     QVERIFY2(outcome.error.contains(says), qPrintable(outcome.error));
-}
-
-void TestZVLang::unknownLanguageIsEnglish_data()
-{
-    QTest::addColumn<QByteArray>("lang");
-
-    QTest::newRow("nobody's") << QByteArray("qq_QQ");
-    QTest::newRow("none") << QByteArray("");
-    QTest::newRow("none, as Qt names it") << QByteArray("C");
-    QTest::newRow("not a code") << QByteArray("../../etc/passwd");
 }
 
 void TestZVLang::unknownLanguageIsEnglish()

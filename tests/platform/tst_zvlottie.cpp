@@ -39,7 +39,15 @@ private slots:
     void sources();
     void draws_data();
     void draws();
-    void costsNothing_data();
+    void costsNothing_data()
+    {
+        addRows<QString>("state",
+                         {{"playing is what the others are told from", "playing"},
+                          {"paused", "paused"},
+                          {"hidden", "hidden"},
+                          {"minimised", "minimised"},
+                          {"in a hidden parent", "parent hidden"}});
+    }
     void costsNothing();
     void repaintsNoMoreThanItsFrames();
     void stopsOnTheLastFrame();
@@ -112,9 +120,8 @@ void TestZVLottie::draws_data()
         << QSize(284, 284) << QSize() << QPoint(142, 80) << QPoint(142, 200) << QPoint(5, 5);
     QTest::newRow("wide widget, own proportions")
         << QSize(400, 200) << QSize() << QPoint(200, 60) << QPoint(200, 150) << QPoint(110, 100);
-    QTest::newRow("smaller animation, centred")
-        << QSize(200, 200) << QSize(100, 100) << QPoint(100, 75) << QPoint(100, 125)
-        << QPoint(100, 40);
+    addRow("smaller animation, centred", QSize(200, 200), QSize(100, 100), QPoint(100, 75),
+           QPoint(100, 125), QPoint(100, 40));
 }
 
 void TestZVLottie::draws()
@@ -133,17 +140,6 @@ void TestZVLottie::draws()
     QTRY_COMPARE(pictureOf(lottie).pixelColor(disc), Disc);
     QCOMPARE(pictureOf(lottie).pixelColor(needle), Needle);
     QCOMPARE(pictureOf(lottie).pixelColor(outside), QColor(Qt::white));
-}
-
-void TestZVLottie::costsNothing_data()
-{
-    QTest::addColumn<QString>("state");
-
-    QTest::newRow("playing is what the others are told from") << "playing";
-    QTest::newRow("paused") << "paused";
-    QTest::newRow("hidden") << "hidden";
-    QTest::newRow("minimised") << "minimised";
-    QTest::newRow("in a hidden parent") << "parent hidden";
 }
 
 void TestZVLottie::costsNothing()

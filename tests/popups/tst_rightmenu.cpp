@@ -178,16 +178,11 @@ void TestRightMenu::stateIsWrittenForTheStylesheet()
 void TestRightMenu::widthsFollowTheTexts_data()
 {
     addColumns<QString, QString>({"preview", "recover"});
-    QTest::newRow("one letter each") << "P"
-                                     << "R";
-    QTest::newRow("long preview") << "Vorschau der ausgewählten Datei"
-                                  << "Los";
-    QTest::newRow("long recover") << "Voir"
-                                  << "Récupérer les fichiers sélectionnés";
-    QTest::newRow("markup and ampersand") << "<b>Look & see</b> at the picture, please"
-                                          << "&Go";
-    QTest::newRow("empty") << ""
-                           << "";
+    addRow("one letter each", "P", "R");
+    addRow("long preview", "Vorschau der ausgewählten Datei", "Los");
+    addRow("long recover", "Voir", "Récupérer les fichiers sélectionnés");
+    addRow("markup and ampersand", "<b>Look & see</b> at the picture, please", "&Go");
+    addRow("empty", "", "");
 }
 
 void TestRightMenu::widthsFollowTheTexts()
@@ -326,8 +321,7 @@ void TestRightMenu::keysMoveTheHighlight_data()
     addColumns<QList<Qt::Key>, QString>({"keys", "entry"});
     QTest::newRow("down") << QList<Qt::Key>{Qt::Key_Down} << "Preview";
     QTest::newRow("up") << QList<Qt::Key>{Qt::Key_Up} << "Recover";
-    QTest::newRow("wraps down") << QList<Qt::Key>{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}
-                                << "Preview";
+    addRow("wraps down", QList<Qt::Key>{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}, "Preview");
     QTest::newRow("wraps up") << QList<Qt::Key>{Qt::Key_Home, Qt::Key_Up} << "Recover";
     QTest::newRow("end") << QList<Qt::Key>{Qt::Key_End} << "Recover";
     QTest::newRow("tab") << QList<Qt::Key>{Qt::Key_Tab, Qt::Key_Tab} << "Recover";

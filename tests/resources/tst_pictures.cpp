@@ -1,4 +1,5 @@
 #include "picturefiles.h"
+#include "support/datarow.h"
 
 #include <QTest>
 
@@ -100,9 +101,18 @@ private slots:
     void smallEdgesAreSharp();
     void cardsStretch_data();
     void cardsStretch();
-    void checkBoxStatesAreToldApart_data();
+    void checkBoxStatesAreToldApart_data()
+    {
+        addRows<QString>("folder", {{"light", s_light}, {"dark", s_dark}});
+    }
     void checkBoxStatesAreToldApart();
-    void fileKindsAreToldApart_data();
+    void fileKindsAreToldApart_data()
+    {
+        addRows<QString>("prefix",
+                         {{"32", s_light + QLatin1String("icon32/icon32_File_")},
+                          {"64", s_light + QLatin1String("icon64_File_")},
+                          {"140", s_light + QLatin1String("icon140_File_")}});
+    }
     void fileKindsAreToldApart();
 };
 
@@ -184,13 +194,6 @@ void TestPictures::cardsStretch()
     }
 }
 
-void TestPictures::checkBoxStatesAreToldApart_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("light") << s_light;
-    QTest::newRow("dark") << s_dark;
-}
-
 void TestPictures::checkBoxStatesAreToldApart()
 {
     QFETCH(QString, folder);
@@ -203,14 +206,6 @@ void TestPictures::checkBoxStatesAreToldApart()
         for (int j = i + 1; j < states.size(); ++j)
             QVERIFY2(difference(states.at(i), states.at(j)) > 4,
                      qPrintable(QStringLiteral("states %1 and %2").arg(i).arg(j)));
-}
-
-void TestPictures::fileKindsAreToldApart_data()
-{
-    QTest::addColumn<QString>("prefix");
-    QTest::newRow("32") << s_light + QLatin1String("icon32/icon32_File_");
-    QTest::newRow("64") << s_light + QLatin1String("icon64_File_");
-    QTest::newRow("140") << s_light + QLatin1String("icon140_File_");
 }
 
 void TestPictures::fileKindsAreToldApart()

@@ -63,7 +63,10 @@ class TestHighDpiPixmapsManager : public QObject
 private slots:
     void cutsEachFrameFromItsPlace_data();
     void cutsEachFrameFromItsPlace();
-    void brokenSheetIsLogged_data();
+    void brokenSheetIsLogged_data()
+    {
+        addRows<int>("framesThere", {{"no file", 0}, {"a row is missing", 8}});
+    }
     void brokenSheetIsLogged();
     void skips_data();
     void skips();
@@ -100,13 +103,6 @@ void TestHighDpiPixmapsManager::cutsEachFrameFromItsPlace()
         QCOMPARE(cut.at(i).pixelColor(1, 0), colourOf(i));
         QCOMPARE(cut.at(i).pixelColor(Side - 1, Side - 1), colourOf(i));
     }
-}
-
-void TestHighDpiPixmapsManager::brokenSheetIsLogged_data()
-{
-    QTest::addColumn<int>("framesThere");
-    QTest::newRow("no file") << 0;
-    QTest::newRow("a row is missing") << 8;
 }
 
 void TestHighDpiPixmapsManager::brokenSheetIsLogged()

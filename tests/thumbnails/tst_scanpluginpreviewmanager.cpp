@@ -110,15 +110,27 @@ private slots:
 
     void bestCandidateWins_data();
     void bestCandidateWins();
-    void unreadableFile_data();
+    void unreadableFile_data()
+    {
+        addRows<bool>("isFolder", {{"locked, or a pipe", false}, {"a folder of its name", true}});
+    }
     void unreadableFile();
     void temporaryFolders_data();
     void temporaryFolders();
-    void uselessTemporaryFolder_data();
+    void uselessTemporaryFolder_data()
+    {
+        addRows<QString>("folder",
+                         {{"nowhere", AwkwardFiles::nowhere()},
+                          {"below a file", QCoreApplication::applicationFilePath()}});
+    }
     void uselessTemporaryFolder();
     void requestsAreQueuedOnce();
     void hostMayWriteTheFileLater();
-    void recordDiesBeforeTheAnswer_data();
+    void recordDiesBeforeTheAnswer_data()
+    {
+        addRows<bool>("answerIsUnderWay",
+                      {{"while queued", false}, {"between miss and delivery", true}});
+    }
     void recordDiesBeforeTheAnswer();
     void hostAnswerStopsTheAsking();
     void hostAnswerBeatsAnOlderLookup();
@@ -194,13 +206,6 @@ void tst_ScanPluginPreviewManager::bestCandidateWins()
     }
 }
 
-void tst_ScanPluginPreviewManager::unreadableFile_data()
-{
-    QTest::addColumn<bool>("isFolder");
-    QTest::newRow("locked, or a pipe") << false;
-    QTest::newRow("a folder of its name") << true;
-}
-
 // It holds up nobody, the host is told, and the next candidate is read.
 void tst_ScanPluginPreviewManager::unreadableFile()
 {
@@ -254,13 +259,6 @@ void tst_ScanPluginPreviewManager::temporaryFolders()
     QCOMPARE(middleOf(cache()->gridThumbnail(photo.fileId)), QColor(Qt::green));
 }
 
-void tst_ScanPluginPreviewManager::uselessTemporaryFolder_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("nowhere") << AwkwardFiles::nowhere();
-    QTest::newRow("below a file") << QCoreApplication::applicationFilePath();
-}
-
 void tst_ScanPluginPreviewManager::uselessTemporaryFolder()
 {
     QFETCH(QString, folder);
@@ -312,13 +310,6 @@ void tst_ScanPluginPreviewManager::hostMayWriteTheFileLater()
     cache()->requestThumbnail(&photo);
     QTRY_VERIFY(!cache()->gridThumbnail(photo.fileId).isNull());
     QCOMPARE(missing.count(), 1);
-}
-
-void tst_ScanPluginPreviewManager::recordDiesBeforeTheAnswer_data()
-{
-    QTest::addColumn<bool>("answerIsUnderWay");
-    QTest::newRow("while queued") << false;
-    QTest::newRow("between miss and delivery") << true;
 }
 
 void tst_ScanPluginPreviewManager::recordDiesBeforeTheAnswer()

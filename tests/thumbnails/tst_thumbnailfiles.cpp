@@ -18,19 +18,17 @@ private slots:
 void tst_ThumbnailFiles::names_data()
 {
     addColumns<qint64, QString, QStringList>({"fileId", "extension", "expected"});
-    QTest::newRow("photo") << qint64(123) << "jpg"
-                           << QStringList{"jpg/123_repaired.jpg", "jpg/123_thumbnail.png",
-                                          "jpg/123_thumbnail.jpg", "jpg/123.png"};
-    QTest::newRow("case is kept") << qint64(0) << "CR2"
-                                  << QStringList{"CR2/0_repaired.CR2", "CR2/0_thumbnail.png",
-                                                 "CR2/0_thumbnail.jpg", "CR2/0.png"};
-    QTest::newRow("no extension") << qint64(9000000000) << ""
-                                  << QStringList{"/9000000000_repaired.",
-                                                 "/9000000000_thumbnail.png",
-                                                 "/9000000000_thumbnail.jpg", "/9000000000.png"};
-    QTest::newRow("looks like a marker")
-        << qint64(5) << "%3"
-        << QStringList{"%3/5_repaired.%3", "%3/5_thumbnail.png", "%3/5_thumbnail.jpg", "%3/5.png"};
+    addRow("photo", qint64(123), "jpg",
+           QStringList{"jpg/123_repaired.jpg", "jpg/123_thumbnail.png", "jpg/123_thumbnail.jpg",
+                       "jpg/123.png"});
+    addRow("case is kept", qint64(0), "CR2",
+           QStringList{"CR2/0_repaired.CR2", "CR2/0_thumbnail.png", "CR2/0_thumbnail.jpg",
+                       "CR2/0.png"});
+    addRow("no extension", qint64(9000000000), "",
+           QStringList{"/9000000000_repaired.", "/9000000000_thumbnail.png",
+                       "/9000000000_thumbnail.jpg", "/9000000000.png"});
+    addRow("looks like a marker", qint64(5), "%3",
+           QStringList{"%3/5_repaired.%3", "%3/5_thumbnail.png", "%3/5_thumbnail.jpg", "%3/5.png"});
 }
 
 void tst_ThumbnailFiles::names()

@@ -47,7 +47,14 @@ private slots:
     void targetSize();
     void load_data();
     void load();
-    void refuses_data();
+    void refuses_data()
+    {
+        addRows<QByteArray>("bytes",
+                            {{"nothing in it", QByteArray()},
+                             {"not a picture", QByteArray(5000, 'x')},
+                             {"beginning of a picture", PngParts::header(QSize(100, 100))},
+                             {"monster", PngParts::header(QSize(40000, 40000))}});
+    }
     void refuses();
     void turnsUpright();
     void endsWithItsThread_data();
@@ -103,15 +110,6 @@ void tst_ThumbnailImage::load()
         QVERIFY(isRed(image.pixel(0, y)) && isRed(image.pixel(middle - 3, y)));
         QVERIFY(isBlue(image.pixel(middle + 3, y)) && isBlue(image.pixel(image.width() - 1, y)));
     }
-}
-
-void tst_ThumbnailImage::refuses_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("nothing in it") << QByteArray();
-    QTest::newRow("not a picture") << QByteArray(5000, 'x');
-    QTest::newRow("beginning of a picture") << PngParts::header(QSize(100, 100));
-    QTest::newRow("monster") << PngParts::header(QSize(40000, 40000));
 }
 
 void tst_ThumbnailImage::refuses()
