@@ -84,12 +84,15 @@ private:
             [this](int) { m_session.takeChecked([](const QVector<FoundItem> &) {}); });
         add("uncheck all", 1, [this](int) { m_session.changeChecks(Session::Bulk::UncheckAll); });
         add("select all, Space", 4, [this](int i) {
-            auto *grid = m_window.findChild<QListView *>(QStringLiteral("listView"));
-            if (i == 0)
-                grid->selectAll();
-            else
-                QCoreApplication::postEvent(
-                    grid, new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
+            for (auto *grid : m_window.findChildren<QListView *>(QStringLiteral("listView"))) {
+                if (!grid->isVisible()) // that of the search
+                    continue;
+                if (i == 0)
+                    grid->selectAll();
+                else
+                    QCoreApplication::postEvent(
+                        grid, new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
+            }
         });
     }
 
@@ -156,13 +159,12 @@ private:
 
 void report(const StallRecorder &recorder)
 {
-    std::printf("%-28s %9s %9s %9s   (ms)\n", "busy stretches of the host", "count", "longest",
-                "own");
+    std::printf("%-28s %9s %9s %9s %9s   (ms)\n", "busy stretches of the host", "count", "longest",
+                "of ours", "own");
     for (const StallRecorder::Phase &phase : recorder.phases()) {
-        std::vector<double> times = phase.milliseconds;
-        std::sort(times.begin(), times.end());
-        std::printf("%-28s %9zu %9.2f %9.2f\n", phase.name.c_str(), times.size(),
-                    times.empty() ? 0.0 : times.back(), phase.longestOwn);
+        const std::vector<double> &times = phase.milliseconds;
+        std::printf("%-28s %9zu %9.2f %9.2f %9.2f\n", phase.name.c_str(), times.size(),
+                    phase.longest.clock, phase.longestOfOurs.withoutTaken(), phase.longestOwn);
         if (phase.longestOwn > GoalMs)
             std::printf("    %.1f ms of that: %s\n", phase.longestDelivery,
                         phase.longestTo.c_str());

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "benchmarks/threadtimes.h"
+
 #include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QThread>
 
 #include <algorithm>
-#include <ctime>
 #include <string>
 #include <vector>
 
@@ -18,21 +17,13 @@
 class StallRecorder : public QApplication
 {
 public:
-    /// Where a busy stretch went, in milliseconds. What is in neither of the last two, the thread
-    /// waited for a lock, a file or another thread.
-    struct Stretch
-    {
-        double clock = 0;
-        double own = 0;    ///< this thread was running
-        double queued = 0; ///< it could have run, and no core was free; 0 where that is not told
-    };
-
     struct Phase
     {
         std::string name;
         bool mayStall = false;            ///< a million rows are sorted in it
         std::vector<double> milliseconds; ///< of each busy stretch, by the clock
-        Stretch longest;                  ///< by the clock
+        ThreadTimes longest;              ///< by the clock
+        ThreadTimes longestOfOurs;        ///< without what the machine took
         double longestOwn = 0;            ///< of all stretches
         double longestDelivery = 0;       ///< of one event, this thread's own time
         std::string longestTo;            ///< who got that one, and its type
@@ -51,19 +42,17 @@ public:
             return QApplication::notify(receiver, event);
         if (!m_busy) {
             m_busy = true;
-            m_clock.start();
-            m_own = ownMilliseconds();
-            m_queued = queuedMilliseconds();
+            m_start = m_clock.now();
         }
         if (m_depth > 0)
             return QApplication::notify(receiver, event);
         const QByteArray what = QByteArray(receiver->metaObject()->className()) + " event "
             + QByteArray::number(event->type());
-        const double before = ownMilliseconds();
+        const double before = ThreadClock::own();
         ++m_depth;
         const bool taken = QApplication::notify(receiver, event);
         --m_depth;
-        const double took = ownMilliseconds() - before;
+        const double took = ThreadClock::own() - before;
         if (!m_phases.empty() && took > m_phases.back().longestDelivery) {
             m_phases.back().longestDelivery = took;
             m_phases.back().longestTo = what.toStdString();
@@ -91,49 +80,24 @@ public:
     }
 
 private:
-    static double ownMilliseconds()
-    {
-#ifdef CLOCK_THREAD_CPUTIME_ID
-        timespec time = {};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-#else
-        return double(std::clock()) * 1e3 / CLOCKS_PER_SEC;
-#endif
-    }
-
-    /// How long this thread has waited for a core, as Linux counts it.
-    double queuedMilliseconds()
-    {
-        if (!m_schedule.isOpen() && !m_schedule.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-            return 0;
-        m_schedule.seek(0);
-        const QList<QByteArray> fields = m_schedule.readAll().split(' ');
-        return fields.size() > 1 ? fields.at(1).toDouble() / 1e6 : 0;
-    }
-
     void endStretch()
     {
         if (m_busy && !m_phases.empty()) {
             Phase &phase = m_phases.back();
-            Stretch stretch;
-            stretch.clock = double(m_clock.nsecsElapsed()) / 1e6;
-            // a virtual machine that was stopped meanwhile may count more of it than has passed
-            stretch.own = std::min(ownMilliseconds() - m_own, stretch.clock);
-            stretch.queued = queuedMilliseconds() - m_queued;
+            const ThreadTimes stretch = m_clock.since(m_start);
             phase.milliseconds.push_back(stretch.clock);
             phase.longestOwn = std::max(phase.longestOwn, stretch.own);
             if (stretch.clock > phase.longest.clock)
                 phase.longest = stretch;
+            if (stretch.withoutTaken() > phase.longestOfOurs.withoutTaken())
+                phase.longestOfOurs = stretch;
         }
         m_busy = false;
     }
 
-    QElapsedTimer m_clock;
-    QFile m_schedule{QStringLiteral("/proc/thread-self/schedstat")};
+    ThreadClock m_clock;
+    ThreadTimes m_start;
     std::vector<Phase> m_phases;
-    double m_own = 0;
-    double m_queued = 0;
     int m_depth = 0;
     bool m_busy = false;
 };
