@@ -46,18 +46,18 @@ public:
         resize(m_size - count);
     }
 
-    /// The later blocks, which are then no longer here.
-    Blocks takeLastHalf()
+    /// The blocks that begin at \a from or later, which are then no longer here.
+    Blocks takeBlocksFrom(size_t from)
     {
-        Blocks half;
-        const size_t kept = m_blocks.size() / 2;
+        Blocks later;
+        const size_t kept = std::min(m_blocks.size(), (from + BlockSize - 1) / BlockSize);
         const auto middle = m_blocks.begin() + std::ptrdiff_t(kept);
-        half.m_blocks.assign(std::make_move_iterator(middle),
-                             std::make_move_iterator(m_blocks.end()));
-        half.m_size = m_size - std::min(m_size, kept * BlockSize);
+        later.m_blocks.assign(std::make_move_iterator(middle),
+                              std::make_move_iterator(m_blocks.end()));
+        later.m_size = m_size - std::min(m_size, kept * BlockSize);
         m_blocks.erase(middle, m_blocks.end());
-        m_size -= half.m_size;
-        return half;
+        m_size -= later.m_size;
+        return later;
     }
 
 private:

@@ -9,6 +9,7 @@
 #include <QSet>
 #include <QVector>
 
+#include <deque>
 #include <utility>
 #include <vector>
 
@@ -44,7 +45,7 @@ public:
 
 private:
     RowOrder m_order;
-    std::vector<std::pair<quint32, Guard>> m_left;
+    std::deque<std::pair<quint32, Guard>> m_left; // a million are not moved to make room
     size_t m_folders = 0;
     size_t m_files = 0;
     size_t m_foldersNow = 0;

@@ -31,11 +31,7 @@ ListedRecords::Parts ListedRecords::replace(const TreeItemData &folder, EarlierR
 
 void ListedRecords::clear()
 {
-    // each guard gives up its share in a counter of its own
-    const bool worthwhile = size() >= WorthTwoThreads;
-    Blocks<Guard> half = m_guards.takeLastHalf();
-    runInParallel(
-        worthwhile, [&half] { half.resize(0); }, [this] { m_guards.resize(0); });
+    shrinkGuards(0);
     *this = ListedRecords();
 }
 
@@ -45,15 +41,26 @@ size_t ListedRecords::replacePart(size_t first, size_t size, const QList<TreeIte
     const size_t newSize = size_t(children.size());
     const size_t common = std::min(size, newSize);
     const size_t same = firstDifference(first, common, children);
-    for (size_t i = same; i < common; i = difference(first, i + 1, common, children)) {
-        if (earlier.isKnown())
+    if (earlier.isKnown()) {
+        const auto leaves = [&](size_t i) {
             earlier.leaves(first + i, std::move(m_guards[first + i]));
-        list(first, i, i + 1, children);
+        };
+        listChanged(first, same, common, children, leaves);
+        for (size_t i = newSize; i < size; ++i)
+            leaves(i);
+    } else {
+        const size_t middle = same + (common - same) / 2;
+        const auto forget = [](size_t) {};
+        runInParallel(
+            common - same >= WorthTwoThreads,
+            [&] { listChanged(first, same, middle, children, forget); },
+            [&] { listChanged(first, middle, common, children, forget); });
     }
     if (newSize < size) {
-        for (size_t i = newSize; i < size && earlier.isKnown(); ++i)
-            earlier.leaves(first + i, std::move(m_guards[first + i]));
-        m_guards.remove(first + newSize, size - newSize);
+        if (first + size == m_guards.size())
+            shrinkGuards(first + newSize);
+        else
+            m_guards.remove(first + newSize, size - newSize);
         m_letters.remove(first + newSize, size - newSize);
         m_fileMarks.remove(first + newSize, size - newSize);
         m_secondaryMarks.remove(first + newSize, size - newSize);
@@ -62,9 +69,18 @@ size_t ListedRecords::replacePart(size_t first, size_t size, const QList<TreeIte
         m_letters.insert(first + size, newSize - size);
         m_fileMarks.insert(first + size, newSize - size);
         m_secondaryMarks.insert(first + size, newSize - size);
-        list(first, size, newSize, children);
+        listInParallel(first, size, newSize, children);
     }
     return same;
+}
+
+void ListedRecords::shrinkGuards(size_t size)
+{
+    // each guard gives up its share in a counter of its own
+    const size_t leaving = m_guards.size() - size;
+    Blocks<Guard> half = m_guards.takeBlocksFrom(size + leaving / 2);
+    runInParallel(
+        leaving >= WorthTwoThreads, [&half] { half.resize(0); }, [&] { m_guards.resize(size); });
 }
 
 size_t ListedRecords::firstDifference(size_t first, size_t end,
@@ -96,6 +112,30 @@ size_t ListedRecords::difference(size_t first, size_t from, size_t end,
         from += count;
     }
     return end;
+}
+
+template <typename Leaves>
+void ListedRecords::listChanged(size_t first, size_t from, size_t end,
+                                const QList<TreeItemData *> &children, Leaves leaves)
+{
+    // neighbours together: most lists that change at all change in all that follows
+    while ((from = difference(first, from, end, children)) < end) {
+        size_t next = from;
+        do
+            leaves(next++);
+        while (next < end && difference(first, next, next + 1, children) == next);
+        listInParallel(first, from, next, children);
+        from = next;
+    }
+}
+
+void ListedRecords::listInParallel(size_t first, size_t from, size_t end,
+                                   const QList<TreeItemData *> &children)
+{
+    const size_t middle = from + (end - from) / 2;
+    runInParallel(
+        end - from >= WorthTwoThreads, [&] { list(first, from, middle, children); },
+        [&] { list(first, middle, end, children); });
 }
 
 void ListedRecords::list(size_t first, size_t from, size_t end,

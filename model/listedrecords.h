@@ -78,8 +78,18 @@ private:
     /// The same, looking from \a from on.
     size_t difference(size_t first, size_t from, size_t end,
                       const QList<TreeItemData *> &children) const;
+    /// Lists those of these \a children that are not listed in their places, after a call of
+    /// \a leaves for each.
+    template <typename Leaves>
+    void listChanged(size_t first, size_t from, size_t end, const QList<TreeItemData *> &children,
+                     Leaves leaves);
     /// Lists these of \a children, the first of all at \a first.
     void list(size_t first, size_t from, size_t end, const QList<TreeItemData *> &children);
+    /// The same, half of very many on a thread of their own.
+    void listInParallel(size_t first, size_t from, size_t end,
+                        const QList<TreeItemData *> &children);
+    /// Drops the guards behind the first \a size ones.
+    void shrinkGuards(size_t size);
     template <typename Matches>
     std::vector<size_t> positionsByMark(RecordId which, qint64 id, bool one, Matches matches) const;
     template <typename Matches>

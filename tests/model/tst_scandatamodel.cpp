@@ -317,6 +317,23 @@ void tst_ScanDataModel::manyRowsAreLikeOpenedAnew()
     QCOMPARE(model.unchangedPrefix(), files.size());
     files.at(Many + 7)->fileSize = 100; // and again, but for a key that no address tells of
     QVERIFY(opensAsAnew());
+    const QList<TreeItemData *> all = files;
+    for (const bool remembered : {false, true}) {
+        for (const int each : {2, 1}) { // another place with half of them, and back
+            TreeItemData *const stays = all.at(Many);
+            const int row = model.rowOf(stays);
+            if (remembered)
+                model.rememberRows();
+            files.clear();
+            for (int i = 0; i < all.size(); i += each)
+                files.append(all.at(i));
+            QVERIFY(opensAsAnew());
+            const int now = model.rowOf(stays);
+            QCOMPARE(model.itemAt(now), stays);
+            if (remembered)
+                QCOMPARE(model.rowsNow({{row, row}}), EarlierRows::Runs({{now, now}}));
+        }
+    }
     model.setAllCheckStates(Qt::Checked);
     QVERIFY(std::all_of(files.begin(), files.end(),
                         [](const TreeItemData *file) { return file->checkState == Qt::Checked; }));
