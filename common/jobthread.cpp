@@ -26,15 +26,15 @@ void JobThread::add(std::function<void()> job)
 
 void JobThread::stop()
 {
-    if (!m_thread.joinable())
-        return;
+    std::deque<std::function<void()>> dropped; // what they hold goes without the lock
     {
         const std::lock_guard<std::mutex> lock(m_lock);
         m_stopped = true;
-        m_jobs.clear();
+        dropped.swap(m_jobs);
     }
     m_changed.notify_one();
-    m_thread.join();
+    if (m_thread.joinable()) // or no thread was to be had
+        m_thread.join();
     m_stopped = false;
 }
 
