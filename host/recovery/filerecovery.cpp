@@ -102,6 +102,14 @@ RecoveryReport FileRecovery::recover(const QVector<FoundItem> &items)
     return m_report;
 }
 
+RecoveryReport FileRecovery::refuse(const QVector<FoundItem> &items, const QString &reason)
+{
+    m_report.stopReason = reason;
+    for (const FoundItem &item : items)
+        fail(item, reason);
+    return m_report;
+}
+
 bool FileRecovery::isPointless(qint64 size, QString *reason)
 {
     // Not QStorageInfo: it knows only what the list of mounts names, which a sandbox may hide.

@@ -20,6 +20,8 @@ public:
                  const Tell &tell);
 
     RecoveryReport recover(const QVector<FoundItem> &items);
+    /// What is to be reported when the work cannot begin.
+    RecoveryReport refuse(const QVector<FoundItem> &items, const QString &reason);
 
 private:
     enum Outcome { Done, Failed, Cancelled };

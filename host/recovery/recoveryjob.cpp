@@ -3,6 +3,7 @@
 #include "host/recovery/filerecovery.h"
 
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 namespace {
@@ -40,17 +41,22 @@ void RecoveryJob::start(const QVector<FoundItem> &items, const QString &target)
     m_run = std::make_shared<Run>();
     Run *run = m_run.get(); // join() waits for the thread before it lets go
     const ScanSource *source = m_source.get();
-    m_run->thread = std::thread([run, source, items, target] {
-        const FileRecovery::Tell tell = [run](const RecoveryProgress &now) {
-            std::lock_guard<std::mutex> lock(run->mutex);
-            run->progress = now;
-        };
-        const RecoveryReport report =
-            FileRecovery(*source, target, run->cancel, tell).recover(items);
+    const FileRecovery::Tell tell = [run](const RecoveryProgress &now) {
+        std::lock_guard<std::mutex> lock(run->mutex);
+        run->progress = now;
+    };
+    const auto end = [run](const RecoveryReport &report) {
         std::lock_guard<std::mutex> lock(run->mutex);
         run->report = report;
         run->done = true;
-    });
+    };
+    try {
+        m_run->thread = std::thread(
+            [=] { end(FileRecovery(*source, target, run->cancel, tell).recover(items)); });
+    } catch (const std::system_error &error) { // no thread to be had
+        const QString reason = QString::fromLocal8Bit(error.code().message().c_str());
+        end(FileRecovery(*source, target, run->cancel, tell).refuse(items, reason));
+    }
     m_timer.start();
 }
 
@@ -67,7 +73,8 @@ void RecoveryJob::join()
     if (!m_run)
         return;
     m_run->cancel = true;
-    m_run->thread.join();
+    if (m_run->thread.joinable())
+        m_run->thread.join();
     m_run.reset();
 }
 

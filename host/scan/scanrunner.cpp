@@ -1,7 +1,11 @@
 #include "host/scan/scanrunner.h"
 
+#include "host/scan/scantexts.h"
+#include "host/scan/shownpath.h"
+
 #include <deque>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 namespace {
@@ -27,6 +31,7 @@ struct ScanRunner::Run
     bool done = false;
 
     void work();
+    void refuse(const QString &reason);
     QVector<FoundItem> takeSome();
 };
 
@@ -72,6 +77,13 @@ void ScanRunner::Run::work()
     done = true;
 }
 
+/// Instead of work().
+void ScanRunner::Run::refuse(const QString &reason)
+{
+    outcome.error = ScanTexts::tr("%1 cannot be read: %2.").arg(shownPath(path), reason);
+    done = true;
+}
+
 ScanRunner::ScanRunner(QObject *parent)
     : QObject(parent)
 {
@@ -107,7 +119,11 @@ void ScanRunner::launch(std::shared_ptr<Run> run)
     m_running = true;
     m_elapsed.start();
     Run *shared = m_run.get(); // outlives the thread: abandon() and poll() wait for it
-    m_run->thread = std::thread([shared] { shared->work(); });
+    try {
+        m_run->thread = std::thread([shared] { shared->work(); });
+    } catch (const std::system_error &error) { // no thread to be had
+        shared->refuse(QString::fromLocal8Bit(error.code().message().c_str()));
+    }
     m_timer.setInterval(DeliveryMs);
     if (!m_held)
         m_timer.start();
@@ -135,7 +151,8 @@ void ScanRunner::abandon()
     if (!m_run)
         return;
     m_run->cancel = true;
-    m_run->thread.join();
+    if (m_run->thread.joinable())
+        m_run->thread.join();
     m_run.reset();
 }
 
