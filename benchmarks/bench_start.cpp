@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int Runs = 15;
+constexpr int Runs = 45; // a processor changes its pace for half a second at a time
 constexpr QSize WindowSize(1280, 800);
 
 /// Sees the first frame of a window: painted from its own background to the last of its children.
