@@ -13,7 +13,9 @@ void EarlierRows::begin(size_t folders, size_t files)
 
 void EarlierRows::leaves(size_t position, Guard &&guard)
 {
-    m_left.emplace_back(quint32(position), std::move(guard));
+    const size_t next = m_left.size();
+    m_left.resize(next + 1);
+    m_left[next] = {quint32(position), std::move(guard)};
 }
 
 void EarlierRows::end(RowOrder &&order, size_t foldersNow, size_t filesNow)
@@ -34,7 +36,8 @@ EarlierRows::Places EarlierRows::placesOf(const Runs &rows) const
     }
 
     Places places;
-    for (const auto &left : m_left) {
+    for (size_t i = 0; i < m_left.size(); ++i) {
+        const auto &left = m_left[i];
         if (asked[left.first] && left.second)
             places.elsewhere.insert(left.second.data());
         asked[left.first] = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/blocks.h"
 #include "model/roworder.h"
 
 #include "platform/item/treeitemdata.h"
@@ -9,7 +10,6 @@
 #include <QSet>
 #include <QVector>
 
-#include <deque>
 #include <utility>
 #include <vector>
 
@@ -45,7 +45,7 @@ public:
 
 private:
     RowOrder m_order;
-    std::deque<std::pair<quint32, Guard>> m_left; // a million are not moved to make room
+    Blocks<std::pair<quint32, Guard>> m_left; // a million are not moved to make room
     size_t m_folders = 0;
     size_t m_files = 0;
     size_t m_foldersNow = 0;
