@@ -199,7 +199,7 @@ void TestMemory::looking_data()
         for (int i = from; i < to; ++i)
             m_requests->request(m_tree->root.childFiles.at(i));
         waitForTheWorker(to);
-    }) << 10'000 << Asked << 0;
+    }) << 10'000 << Asked << 128; // and what is asked for and not looked at yet
     QTest::newRow("nothing to show") << Look([](int from, int to) {
         for (int i = from; i < to; ++i)
             thumbnails()->storeThumbnail(i, QPixmap());
